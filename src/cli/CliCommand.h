@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QTextStream>
+#include <functional>
+#include <vector>
+
+// One command of vowren-cli: its name, a line of help, and what it does with the arguments after it.
+// A command returns the process's exit status: 0 done, 1 failed, 2 bad arguments.
+struct CliCommand {
+    QString Name;
+    QString Usage;
+    QString Help;
+    std::function<int(const QStringList& args, QTextStream& out, QTextStream& err)> Run;
+};
+
+// Every command the program knows, in the order --help lists them.
+const std::vector<CliCommand>& CliCommands();
+
+// Exit statuses.
+inline constexpr int kExitOk = 0;
+inline constexpr int kExitFailed = 1;
+inline constexpr int kExitUsage = 2;

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "core/ShowMessage.h"
+#include "platform/clsRegistry.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+// Gives a test its own data root: $VOWREN_HOME points into a fresh temporary folder, the settings store
+// is the INI file inside it, and messages are captured instead of shown.
+class TestHome {
+public:
+    TestHome() {
+        qputenv("VOWREN_HOME", mDir.path().toUtf8());
+        qputenv("VOWREN_NO_OPEN", "1");
+        SetRegistryStore(nullptr);
+        auto sink = std::make_unique<clsCapturingMessageSink>();
+        mMessages = sink.get();
+        SetMessageSink(std::move(sink));
+    }
+    ~TestHome() {
+        SetRegistryStore(nullptr);
+        SetMessageSink(nullptr);
+        qunsetenv("VOWREN_HOME");
+    }
+    TestHome(const TestHome&) = delete;
+    TestHome& operator=(const TestHome&) = delete;
+
+    QString Path() const { return mDir.path(); }
+    QString File(const QString& relative) const { return mDir.filePath(relative); }
+    clsCapturingMessageSink& Messages() { return *mMessages; }
+
+private:
+    QTemporaryDir mDir;
+    clsCapturingMessageSink* mMessages = nullptr;
+};

@@ -1,0 +1,219 @@
+#include "TestHome.h"
+#include "core/clsApp.h"
+#include "core/modGeneral.h"
+#include "platform/VowrenPaths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QtTest>
+#include <functional>
+#include <memory>
+
+using SettingReader = std::function<QString()>;
+Q_DECLARE_METATYPE(SettingReader)
+
+class tst_clsApp : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<TestHome> home;
+
+    QString StoredValue(const QString& name) {
+        return gRegistry().GetSetting(clsApp::RootKey(), name, QStringLiteral("<unset>"));
+    }
+
+private slots:
+    void init() { home = std::make_unique<TestHome>(); }
+    void cleanup() { home.reset(); }
+
+    void freshStoreReadsDefaultsAndWritesNothing_data() {
+        
+        QTest::addColumn<QString>("expected");
+        QTest::addColumn<SettingReader>("read");
+        auto b = [](bool v) { return v ? QStringLiteral("true") : QStringLiteral("false"); };
+        clsApp& a = gApp();
+        QTest::newRow("Delimiter") << "," << SettingReader([&] { return a.Delimiter(); });
+        QTest::newRow("Ensure5DigitZipCode") << "true" << SettingReader([=, &a] { return b(a.Ensure5DigitZipCode()); });
+        QTest::newRow("EtiquetteIsFormal") << "false" << SettingReader([=, &a] { return b(a.EtiquetteIsFormal()); });
+        QTest::newRow("GoogleMapIndex") << "0" << SettingReader([&] { return QString::number(a.GoogleMapIndex()); });
+        QTest::newRow("LockRSVPIDs") << "false" << SettingReader([=, &a] { return b(a.LockRSVPIDs()); });
+        QTest::newRow("LockTableLayout") << "false" << SettingReader([=, &a] { return b(a.LockTableLayout()); });
+        QTest::newRow("OpenExportAfterCompletion") << "1" << SettingReader([&] { return QString::number(a.OpenExportAfterCompletion()); });
+        QTest::newRow("Patch_1_Applied") << "false" << SettingReader([=, &a] { return b(a.Patch_1_Applied()); });
+        QTest::newRow("PlayWPLAfterCompletion") << "1" << SettingReader([&] { return QString::number(a.PlayWPLAfterCompletion()); });
+        QTest::newRow("RevealTableStatus") << "0" << SettingReader([&] { return QString::number(a.RevealTableStatus()); });
+        QTest::newRow("ShowDownloadCommand") << "true" << SettingReader([=, &a] { return b(a.ShowDownloadCommand()); });
+        QTest::newRow("ShowCountdown") << "true" << SettingReader([=, &a] { return b(a.ShowCountdown()); });
+        QTest::newRow("ShowDialogWhenAddressUnclear") << "true" << SettingReader([=, &a] { return b(a.ShowDialogWhenAddressUnclear()); });
+        QTest::newRow("ShowDialogWhenNameUnclear") << "true" << SettingReader([=, &a] { return b(a.ShowDialogWhenNameUnclear()); });
+        QTest::newRow("ShowDuplicateWarning") << "true" << SettingReader([=, &a] { return b(a.ShowDuplicateWarning()); });
+        QTest::newRow("ShowForm") << "0" << SettingReader([&] { return QString::number(a.ShowForm()); });
+        QTest::newRow("ShowGrid") << "1" << SettingReader([&] { return QString::number(a.ShowGrid()); });
+        QTest::newRow("ShownFeatureTour") << "false" << SettingReader([=, &a] { return b(a.ShownFeatureTour()); });
+        QTest::newRow("ShownForums") << "false" << SettingReader([=, &a] { return b(a.ShownForums()); });
+        QTest::newRow("ShowNotes") << "true" << SettingReader([=, &a] { return b(a.ShowNotes()); });
+        QTest::newRow("ShowOutlookWarning") << "true" << SettingReader([=, &a] { return b(a.ShowOutlookWarning()); });
+        QTest::newRow("SkipPatches") << "false" << SettingReader([=, &a] { return b(a.SkipPatches()); });
+        QTest::newRow("SongPath") << "" << SettingReader([&] { return a.SongPath(); });
+    }
+    void freshStoreReadsDefaultsAndWritesNothing() {
+        QFETCH(QString, expected);
+        QFETCH(SettingReader, read);
+        QCOMPARE(read(), expected);
+        QVERIFY(gRegistry().AllSettings().isEmpty());
+        QVERIFY(!QFile::exists(VowrenPaths::SettingsFilePath()));
+    }
+
+    void booleansAreWrittenAsOneAndZero() {
+        gApp().SetLockRSVPIDs(true);
+        QCOMPARE(StoredValue("LockRSVPIDs"), QStringLiteral("1"));
+        QVERIFY(gApp().LockRSVPIDs());
+        gApp().SetEnsure5DigitZipCode(false);
+        QCOMPARE(StoredValue("Ensure5DigitZipCode"), QStringLiteral("0"));
+        QVERIFY(!gApp().Ensure5DigitZipCode());
+    }
+
+    void handEditedValuesConvert_data() {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<bool>("asBool");
+        QTest::addColumn<int>("asInt");
+        // Booleans default to true here (ShowCountdown), integers to 1 (ShowGrid).
+        QTest::newRow("zero") << "0" << false << 0;
+        QTest::newRow("one") << "1" << true << 1;
+        QTest::newRow("minus one") << "-1" << true << -1;
+        QTest::newRow("any number") << "7" << true << 7;
+        QTest::newRow("word True") << "True" << true << 1;
+        QTest::newRow("word false") << "false" << false << 1;
+        QTest::newRow("garbage") << "abc" << true << 1;
+        QTest::newRow("empty") << "" << true << 1;
+        QTest::newRow("blanks around") << " 12 " << true << 12;
+        QTest::newRow("half to even") << "2.5" << true << 2;
+        QTest::newRow("beyond 16 bits") << "40000" << true << 1;
+        QTest::newRow("lowest 16 bits") << "-32768" << true << -32768;
+    }
+    void handEditedValuesConvert() {
+        QFETCH(QString, stored);
+        QFETCH(bool, asBool);
+        QFETCH(int, asInt);
+        gRegistry().SaveSetting(clsApp::RootKey(), "ShowCountdown", stored);
+        gRegistry().SaveSetting(clsApp::RootKey(), "ShowGrid", stored);
+        QCOMPARE(gApp().ShowCountdown(), asBool);
+        QCOMPARE(gApp().ShowGrid(), asInt);
+    }
+
+    void showNotesFollowsTheCurrentPage() {
+        gApp().SetShowForm(7);
+        gApp().SetShowNotes(false);
+        QCOMPARE(StoredValue("ShowNotes7"), QStringLiteral("0"));
+        QVERIFY(!gApp().ShowNotes());
+        gApp().SetShowForm(2);
+        QVERIFY(gApp().ShowNotes());
+        gApp().SetShowForm(7);
+        QVERIFY(!gApp().ShowNotes());
+    }
+
+    void showFormKeepsEveryPageNumber_data() {
+        QTest::addColumn<int>("page");
+        for (int page : {0, 1, 9, 10, 12, 13, 99, -3})
+            QTest::newRow(qPrintable(QString::number(page))) << page;
+    }
+    void showFormKeepsEveryPageNumber() {
+        QFETCH(int, page);
+        gApp().SetShowForm(page);
+        QCOMPARE(gApp().ShowForm(), page);
+    }
+
+    void settingsSurviveANewStore() {
+        gApp().SetSongPath(QStringLiteral("/music/Zoë's songs"));
+        gApp().SetDelimiter(QStringLiteral(";"));
+        SetRegistryStore(nullptr); // read the file again
+        QCOMPARE(gApp().SongPath(), QStringLiteral("/music/Zoë's songs"));
+        QCOMPARE(gApp().Delimiter(), QStringLiteral(";"));
+        QSettings raw(VowrenPaths::SettingsFilePath(), QSettings::IniFormat);
+        QCOMPARE(raw.value("Software/QuillSoftware/Vowren/Delimiter").toString(), QStringLiteral(";"));
+        const auto permissions = QFile::permissions(VowrenPaths::SettingsFilePath());
+        QVERIFY(permissions.testFlags(QFileDevice::ReadOwner | QFileDevice::WriteOwner));
+        QCOMPARE(int(permissions & 0x00FF), 0); // nothing for the group or others
+    }
+
+    void startValuesAreWrittenForOutsideReaders() {
+        gApp().WriteStartValues();
+        QCOMPARE(StoredValue("Release"), clsApp::MajorMinor());
+        QVERIFY(StoredValue("AppPath") != QStringLiteral("<unset>"));
+        QCOMPARE(clsApp::Release(), QStringLiteral("Release ") + clsApp::MajorMinor());
+        QVERIFY(clsApp::MajorMinorRevision().startsWith(clsApp::MajorMinor() + "."));
+        QCOMPARE(gApp().ReleaseKey(), QStringLiteral("Software/QuillSoftware/Vowren/Release ") + clsApp::MajorMinor());
+    }
+
+    void databasePathFollowsTheConnectFile_data() {
+        QTest::addColumn<bool>("dataFile");
+        QTest::addColumn<QString>("connectText");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("nothing there") << false << QString() << "<data>";
+        QTest::newRow("data file only") << true << QString() << "<data>";
+        QTest::newRow("connect only") << false << "/srv/share/Wedding.quilldata\nignored" << "/srv/share/Wedding.quilldata";
+        QTest::newRow("connect with CRLF") << false << "/srv/x.quilldata\r\n" << "/srv/x.quilldata";
+        QTest::newRow("data file wins") << true << "/srv/share/Wedding.quilldata" << "<data>";
+        QTest::newRow("empty connect") << false << "" << "";
+    }
+    void databasePathFollowsTheConnectFile() {
+        QFETCH(bool, dataFile);
+        QFETCH(QString, connectText);
+        QFETCH(QString, expected);
+        const QString folder = home->File("Database");
+        QDir().mkpath(folder);
+        const QString data = folder + "/Vowren.quilldata";
+        if (dataFile) {
+            QFile f(data);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+        }
+        if (!connectText.isNull()) {
+            QFile f(folder + "/Vowren.connect");
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            f.write(connectText.toUtf8());
+        }
+        QCOMPARE(gApp().DatabasePath(), expected == "<data>" ? data : expected);
+    }
+
+    void foldersAreMadeBelowTheDataRoot() {
+        gApp().MakeReportPath();
+        gApp().MakePlaylistPath();
+        gApp().MakeReportPath(); // a second time is no failure
+        QVERIFY(QDir(home->File("Reports")).exists());
+        QVERIFY(QDir(home->File("Playlists")).exists());
+        QCOMPARE(gApp().ReportPath(), home->File("Reports"));
+    }
+
+    void marriedOnlyAfterTheMoment_data() {
+        QTest::addColumn<QString>("wedding");
+        QTest::addColumn<QDateTime>("now");
+        QTest::addColumn<bool>("married");
+        const QDateTime moment(QDate(2027, 6, 5), QTime(15, 0));
+        QTest::newRow("a second before") << "05-Jun-2027 3:00 PM" << moment.addSecs(-1) << false;
+        QTest::newRow("the second itself") << "05-Jun-2027 3:00 PM" << moment << false;
+        QTest::newRow("a second after") << "05-Jun-2027 3:00 PM" << moment.addSecs(1) << true;
+        QTest::newRow("date only, that evening") << "05-Jun-2027" << moment << true;
+        QTest::newRow("no wedding date") << "" << moment << false;
+    }
+    void marriedOnlyAfterTheMoment() {
+        QFETCH(QString, wedding);
+        QFETCH(QDateTime, now);
+        QFETCH(bool, married);
+        QCOMPARE(clsApp::Married(wedding, now), married);
+    }
+
+    void coreInformationNeedsAllFive() {
+        QVERIFY(clsApp::CoreInformationGathered("Ann", "Lee", "Bo", "Kim", "05-Jun-2027"));
+        QVERIFY(!clsApp::CoreInformationGathered("Ann", "", "Bo", "Kim", "05-Jun-2027"));
+        QVERIFY(!clsApp::CoreInformationGathered("Ann", "Lee", "Bo", "Kim", ""));
+    }
+
+    void screenSize() {
+        QVERIFY(clsApp::Screen_800_x_600(800, 600));
+        QVERIFY(!clsApp::Screen_800_x_600(1024, 600));
+        QVERIFY(!clsApp::Screen_800_x_600(800, 601));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_clsApp)
+#include "tst_clsApp.moc"
