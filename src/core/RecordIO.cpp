@@ -1,0 +1,44 @@
+#include "core/RecordIO.h"
+
+namespace RecordIO {
+
+QVariant ToDbValue(const QString& column, const QString& text) {
+    if (text.isEmpty())
+        return {};
+    if (DbDates::IsDateColumn(column))
+        return DbDates::ToStorage(text, column);
+    return text;
+}
+
+QString NextID(const QString& table, const QString& keyColumn) {
+    const QString next =
+        gDB().Execute(QStringLiteral("SELECT Max(%1) + 1 AS MAXID FROM %2").arg(keyColumn, table)).Scalar();
+    return next.isEmpty() ? QStringLiteral("1") : next;
+}
+
+void Report(const clsDbError& error) { ShowMessage(error.Message(), Msg::OKOnly); }
+
+bool Run(const QString& sql, const QVariantList& values) {
+    try {
+        gDB().Execute(sql, values);
+        return true;
+    } catch (const clsDbError& e) {
+        Report(e);
+        return false;
+    }
+}
+
+long Count(const QString& sql, const QVariantList& values) {
+    try {
+        return gDB().Execute(sql, values).Scalar().toLong();
+    } catch (const clsDbError& e) {
+        Report(e);
+        return 0;
+    }
+}
+
+bool Delete(const QString& table, const QString& keyColumn, const QString& keyValue) {
+    return Run(QStringLiteral("DELETE FROM %1 WHERE %2 = ?").arg(table, keyColumn), {keyValue});
+}
+
+} // namespace RecordIO

@@ -1,0 +1,148 @@
+#pragma once
+
+#include "core/ShowMessage.h"
+#include "core/clsDB.h"
+
+#include <QList>
+#include <QString>
+#include <QVariantList>
+#include <vector>
+
+// The one pattern every record class follows: one QString member per column, read as text, written
+// whole on every Save, keys from Max(key) + 1. A class describes its table once as a RecordTable
+// (key first, then the columns in their fixed order) and hands it to these routines.
+
+template <class T>
+struct RecordField {
+    const char* Column;
+    QString T::*Member;
+};
+
+template <class T>
+struct RecordTable {
+    const char* Table;
+    const char* Key;
+    std::vector<RecordField<T>> Fields; // the key first
+};
+
+namespace RecordIO {
+
+// A member's text as a value to bind: empty is NULL, a date column goes to its stored form.
+QVariant ToDbValue(const QString& column, const QString& text);
+// "SELECT Max(key) + 1 ..." as text, "1" for an empty table. Throws clsDbError.
+QString NextID(const QString& table, const QString& keyColumn);
+// Runs a statement, showing any failure through ShowMessage; true when it ran.
+bool Run(const QString& sql, const QVariantList& values = {});
+// Runs a count; 0 (after the message) when it fails.
+long Count(const QString& sql, const QVariantList& values = {});
+// Deletes by key, showing any failure (a row still referred to, say) through ShowMessage.
+bool Delete(const QString& table, const QString& keyColumn, const QString& keyValue);
+// The message of a failure, shown the one way messages are shown.
+void Report(const clsDbError& error);
+
+template <class T>
+void Fill(T& record, const clsRecordset& rs, int row, const RecordTable<T>& table) {
+    for (const auto& field : table.Fields) {
+        const int column = rs.ColumnIndex(QString::fromLatin1(field.Column));
+        if (column >= 0)
+            record.*(field.Member) = rs.Value(row, column);
+    }
+}
+
+// Fills the record from the first row of a query; no row leaves it as it was. False on failure or no row.
+template <class T>
+bool OpenFirst(T& record, const RecordTable<T>& table, const QString& sql, const QVariantList& values) {
+    try {
+        const clsRecordset rs = gDB().Execute(sql, values);
+        if (rs.IsEmpty())
+            return false;
+        Fill(record, rs, 0, table);
+        return true;
+    } catch (const clsDbError& e) {
+        Report(e);
+        return false;
+    }
+}
+
+template <class T>
+bool OpenRecord(T& record, const RecordTable<T>& table, const QString& key) {
+    if (key.isEmpty())
+        return false;
+    return OpenFirst(record, table,
+                     QStringLiteral("SELECT * FROM %1 WHERE %2 = ?").arg(QLatin1String(table.Table),
+                                                                         QLatin1String(table.Key)),
+                     {key});
+}
+
+// A new object for every row, in the query's order. After a failure the rows read so far come back.
+template <class T>
+QList<T> OpenRecords(const RecordTable<T>& table, const QString& sql, const QVariantList& values = {}) {
+    QList<T> records;
+    try {
+        const clsRecordset rs = gDB().Execute(sql, values);
+        records.reserve(rs.RowCount());
+        for (int row = 0; row < rs.RowCount(); ++row) {
+            T record;
+            Fill(record, rs, row, table);
+            records.append(std::move(record));
+        }
+    } catch (const clsDbError& e) {
+        Report(e);
+    }
+    return records;
+}
+
+// The INSERT or UPDATE of every column. An insert gets its new key first (unless assignKey is false,
+// for rows that come with their key) and the record holds it afterwards. Throws clsDbError.
+template <class T>
+void SaveOrThrow(T& record, const RecordTable<T>& table, bool insert, bool assignKey = true) {
+    const QString tableName = QLatin1String(table.Table);
+    const QString keyName = QLatin1String(table.Key);
+    QStringList columns;
+    QVariantList values;
+    QString* keyMember = nullptr;
+    for (const auto& field : table.Fields) {
+        const QString column = QLatin1String(field.Column);
+        if (column == keyName) {
+            keyMember = &(record.*(field.Member));
+            continue;
+        }
+        columns << column;
+        values << ToDbValue(column, record.*(field.Member));
+    }
+    if (insert) {
+        if (assignKey)
+            *keyMember = NextID(tableName, keyName);
+        columns.prepend(keyName);
+        values.prepend(*keyMember);
+        QStringList marks;
+        for (qsizetype i = 0; i < columns.size(); ++i)
+            marks << QStringLiteral("?");
+        gDB().Execute(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                          .arg(tableName, columns.join(QStringLiteral(", ")), marks.join(QStringLiteral(", "))),
+                      values);
+    } else {
+        QStringList sets;
+        for (const QString& column : columns)
+            sets << column + QStringLiteral(" = ?");
+        values << *keyMember;
+        gDB().Execute(
+            QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?").arg(tableName, sets.join(QStringLiteral(", ")), keyName),
+            values);
+    }
+}
+
+// SaveOrThrow with the failure shown; true when the statement ran (an UPDATE of a row that is gone
+// is a success that changes nothing).
+template <class T>
+bool Save(T& record, const RecordTable<T>& table, bool insert, bool assignKey = true) {
+    try {
+        SaveOrThrow(record, table, insert, assignKey);
+        return true;
+    } catch (const clsDbError& e) {
+        Report(e);
+        return false;
+    }
+}
+
+} // namespace RecordIO

@@ -1,0 +1,419 @@
+#include "core/clsDB.h"
+
+#include "core/modGeneral.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <sqlite3.h>
+
+namespace {
+
+QString EngineText(sqlite3* db) { return db ? QString::fromUtf8(sqlite3_errmsg(db)) : QString(); }
+
+QString RealText(double value) { return QString::number(value, 'g', 15); }
+
+QString ColumnText(sqlite3_stmt* stmt, int column) {
+    switch (sqlite3_column_type(stmt, column)) {
+    case SQLITE_NULL:
+        return {};
+    case SQLITE_INTEGER:
+        return QString::number(sqlite3_column_int64(stmt, column));
+    case SQLITE_FLOAT:
+        return RealText(sqlite3_column_double(stmt, column));
+    default: {
+        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(stmt, column));
+        return QString::fromUtf8(text, sqlite3_column_bytes(stmt, column));
+    }
+    }
+}
+
+void Bind(sqlite3_stmt* stmt, int index, const QVariant& value) {
+    if (value.isNull() || (value.typeId() == QMetaType::QString && value.toString().isEmpty())) {
+        sqlite3_bind_null(stmt, index);
+        return;
+    }
+    switch (value.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+    case QMetaType::UInt:
+    case QMetaType::Bool:
+        sqlite3_bind_int64(stmt, index, value.toLongLong());
+        break;
+    case QMetaType::Double:
+        sqlite3_bind_double(stmt, index, value.toDouble());
+        break;
+    default: {
+        const QByteArray utf8 = value.toString().toUtf8();
+        sqlite3_bind_text(stmt, index, utf8.constData(), static_cast<int>(utf8.size()), SQLITE_TRANSIENT);
+    }
+    }
+}
+
+// Frees a prepared statement at the end of a scope.
+struct Statement {
+    sqlite3_stmt* stmt = nullptr;
+    ~Statement() { sqlite3_finalize(stmt); }
+};
+
+} // namespace
+
+clsDbError::clsDbError(const QString& message, int code)
+    : std::runtime_error(message.toStdString()), mMessage(message), mCode(code) {}
+
+clsDB::~clsDB() { CloseConnection(); }
+
+bool clsDB::OpenConnection() {
+    if (mDb)
+        return true;
+    mOpenError.clear();
+    const QFileInfo file(DatabasePath);
+    if (DatabasePath.isEmpty()) {
+        mOpenError = QStringLiteral("No database file is named.");
+        return false;
+    }
+    if (!file.exists()) {
+        mOpenError = QStringLiteral("The database file \"%1\" does not exist.\n\n"
+                                    "Check the path (and Database/Vowren.connect, if you use one).")
+                         .arg(DatabasePath);
+        return false;
+    }
+    if (!file.isFile()) {
+        mOpenError = QStringLiteral("\"%1\" is a folder, not a database file.").arg(DatabasePath);
+        return false;
+    }
+    if (!file.isWritable()) {
+        mOpenError = QStringLiteral("The database file \"%1\" is read-only.\n\n"
+                                    "Give your user permission to change it, then start Vowren again.")
+                         .arg(DatabasePath);
+        return false;
+    }
+    if (!QFileInfo(file.absolutePath()).isWritable()) {
+        mOpenError = QStringLiteral("The folder \"%1\" can't be written to, so changes to the database could not "
+                                    "be saved safely.\n\nGive your user permission to write to that folder.")
+                         .arg(file.absolutePath());
+        return false;
+    }
+    sqlite3* db = nullptr;
+    const QByteArray path = QDir::toNativeSeparators(file.absoluteFilePath()).toUtf8();
+    if (sqlite3_open_v2(path.constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
+        mOpenError = QStringLiteral("Unable to open \"%1\": %2").arg(DatabasePath, EngineText(db));
+        sqlite3_close(db);
+        return false;
+    }
+    mDb = db;
+    sqlite3_extended_result_codes(mDb, 1);
+    try {
+        // A file that is no database fails at its first read; a cut-off file is shorter than its pages.
+        Execute(QStringLiteral("SELECT count(*) FROM sqlite_master"));
+        const qint64 pages = Execute(QStringLiteral("PRAGMA page_count")).Scalar().toLongLong();
+        const qint64 pageSize = Execute(QStringLiteral("PRAGMA page_size")).Scalar().toLongLong();
+        if (file.size() < pages * pageSize)
+            throw clsDbError(QStringLiteral("the file is shorter than its contents (it was cut off)"), SQLITE_CORRUPT);
+        SetPragmas();
+    } catch (const clsDbError& e) {
+        CloseConnection();
+        mOpenError = QStringLiteral("The file \"%1\" is not a Vowren database, or it is damaged (%2).\n\n"
+                                    "Nothing was changed. Restore the file from a backup, or move it "
+                                    "away and start Vowren again to begin a new database.")
+                         .arg(DatabasePath, e.Message());
+        return false;
+    }
+    return true;
+}
+
+void clsDB::SetPragmas() {
+    ExecuteScript(QStringLiteral("PRAGMA foreign_keys=ON; PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL;"));
+}
+
+void clsDB::CloseConnection() {
+    if (mDb) {
+        sqlite3_close_v2(mDb);
+        mDb = nullptr;
+        mSavepointDepth = 0;
+    }
+}
+
+clsRecordset clsDB::Execute(const QString& sql, const QVariantList& values) { return Run(sql, values, true); }
+
+clsRecordset clsDB::ExecuteRaw(const QString& sql, const QVariantList& values) { return Run(sql, values, false); }
+
+clsRecordset clsDB::Run(const QString& sql, const QVariantList& values, bool convertDates) {
+    if (!mDb && !OpenConnection())
+        throw clsDbError(mOpenError, SQLITE_CANTOPEN);
+    Statement st;
+    const QByteArray utf8 = sql.toUtf8();
+    int rc = sqlite3_prepare_v2(mDb, utf8.constData(), static_cast<int>(utf8.size()), &st.stmt, nullptr);
+    if (rc != SQLITE_OK)
+        throw ErrorFor(rc, sql, values);
+    for (int i = 0; i < values.size(); ++i)
+        Bind(st.stmt, i + 1, values[i]);
+    const int columnCount = sqlite3_column_count(st.stmt);
+    QStringList columns;
+    QList<bool> isDate;
+    for (int c = 0; c < columnCount; ++c) {
+        columns << QString::fromUtf8(sqlite3_column_name(st.stmt, c));
+        isDate << (convertDates && DbDates::IsDateColumn(columns.last()));
+    }
+    clsRecordset result(columns);
+    while ((rc = sqlite3_step(st.stmt)) == SQLITE_ROW) {
+        QStringList row;
+        row.reserve(columnCount);
+        for (int c = 0; c < columnCount; ++c) {
+            QString text = ColumnText(st.stmt, c);
+            row << (isDate[c] ? DbDates::FromStorage(text) : text);
+        }
+        result.AppendRow(std::move(row));
+    }
+    if (rc != SQLITE_DONE)
+        throw ErrorFor(rc, sql, values);
+    return result;
+}
+
+void clsDB::ExecuteScript(const QString& sql) {
+    if (!mDb && !OpenConnection())
+        throw clsDbError(mOpenError, SQLITE_CANTOPEN);
+    char* error = nullptr;
+    const int rc = sqlite3_exec(mDb, sql.toUtf8().constData(), nullptr, nullptr, &error);
+    if (rc != SQLITE_OK) {
+        const QString text = error ? QString::fromUtf8(error) : EngineText(mDb);
+        sqlite3_free(error);
+        throw clsDbError(text, rc);
+    }
+}
+
+int clsDB::Changes() const { return mDb ? sqlite3_changes(mDb) : 0; }
+
+clsDbError clsDB::ErrorFor(int code, const QString& sql, const QVariantList& values) {
+    const QString engine = EngineText(mDb);
+    const int extended = mDb ? sqlite3_extended_errcode(mDb) : code;
+    switch (extended) {
+    case SQLITE_CONSTRAINT_FOREIGNKEY: {
+        const QString child = ReferringTable(sql, values);
+        if (!child.isEmpty())
+            return clsDbError(QStringLiteral("The record cannot be deleted or changed because table '%1' includes "
+                                             "related records.")
+                                  .arg(child),
+                              extended);
+        return clsDbError(QStringLiteral("You cannot add or change a record because a related record is required "
+                                         "(%1).")
+                              .arg(engine),
+                          extended);
+    }
+    case SQLITE_CONSTRAINT_UNIQUE:
+    case SQLITE_CONSTRAINT_PRIMARYKEY:
+        return clsDbError(QStringLiteral("The changes you requested to the table were not successful because they "
+                                         "would create duplicate values in the index, primary key, or relationship "
+                                         "(%1).")
+                              .arg(engine),
+                          extended);
+    case SQLITE_CONSTRAINT_NOTNULL:
+        return clsDbError(QStringLiteral("A value is required: %1.").arg(engine), extended);
+    default:
+        return clsDbError(engine.isEmpty() ? QStringLiteral("Database error %1").arg(code) : engine, extended);
+    }
+}
+
+// Works out which table still refers to the rows a failed DELETE meant to remove.
+QString clsDB::ReferringTable(const QString& sql, const QVariantList& values) {
+    static const QRegularExpression deletePattern(
+        QStringLiteral(R"(^\s*DELETE\s+(?:\*\s+)?FROM\s+([A-Za-z_][A-Za-z0-9_]*)\s*(.*)$)"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    const auto match = deletePattern.match(sql);
+    if (!match.hasMatch())
+        return {};
+    const QString parent = match.captured(1);
+    const QString condition = match.captured(2);
+    try {
+        const clsRecordset links = Run(QStringLiteral(
+            "SELECT m.name, f.\"from\", f.\"to\" FROM sqlite_master AS m, pragma_foreign_key_list(m.name) AS f "
+            "WHERE m.type = 'table' AND f.\"table\" = ? COLLATE NOCASE ORDER BY m.name"), {parent}, false);
+        for (int i = 0; i < links.RowCount(); ++i) {
+            const QString probe = QStringLiteral("SELECT 1 FROM %1 WHERE %2 IN (SELECT %3 FROM %4 %5) LIMIT 1")
+                                      .arg(links.Value(i, 0), links.Value(i, 1), links.Value(i, 2), parent, condition);
+            if (!Run(probe, values, false).IsEmpty())
+                return links.Value(i, 0);
+        }
+    } catch (const clsDbError&) {
+        return {};
+    }
+    return {};
+}
+
+bool clsDB::TableExists(const QString& table) {
+    try {
+        Run(QStringLiteral("SELECT * FROM %1 LIMIT 0").arg(table), {}, false);
+        return true;
+    } catch (const clsDbError&) {
+        return false;
+    }
+}
+
+bool clsDB::FieldExists(const QString& table, const QString& column) {
+    try {
+        Run(QStringLiteral("SELECT %1 FROM %2 LIMIT 0").arg(column, table), {}, false);
+        return true;
+    } catch (const clsDbError&) {
+        return false;
+    }
+}
+
+bool clsDB::ForeignKeyExists(const QString& table, const QString& keyName) {
+    try {
+        const QString createSql =
+            Run(QStringLiteral("SELECT sql FROM sqlite_master WHERE type = 'table' AND name = ?"), {table}, false)
+                .Scalar();
+        const QRegularExpression named(QStringLiteral("\\bCONSTRAINT\\s+\"?%1\"?\\s").arg(QRegularExpression::escape(keyName)),
+                                       QRegularExpression::CaseInsensitiveOption);
+        return named.match(createSql).hasMatch();
+    } catch (const clsDbError&) {
+        return false;
+    }
+}
+
+bool clsDB::IsReadOnlyStatement(const QString& sql, QString* error) {
+    if (!mDb && !OpenConnection()) {
+        if (error)
+            *error = mOpenError;
+        return false;
+    }
+    Statement st;
+    const QByteArray utf8 = sql.toUtf8();
+    const char* tail = nullptr;
+    if (sqlite3_prepare_v2(mDb, utf8.constData(), static_cast<int>(utf8.size()), &st.stmt, &tail) != SQLITE_OK) {
+        if (error)
+            *error = EngineText(mDb);
+        return false;
+    }
+    if (tail && !QByteArray(tail).trimmed().isEmpty() && QByteArray(tail).trimmed() != ";") {
+        if (error)
+            *error = QStringLiteral("Only one statement can be run at a time.");
+        return false;
+    }
+    return st.stmt != nullptr && sqlite3_stmt_readonly(st.stmt) != 0;
+}
+
+QString clsDB::FormatSQL(const QString& sql, bool upperCase) {
+    QString text = upperCase ? sql.toUpper() : sql;
+    const QString crlf = QStringLiteral("\r\n");
+    if (text.contains(crlf))
+        return text;
+    const std::pair<const char*, const char*> replacements[] = {
+        {" DECODE", "       DECODE"}, {" FROM ", "  FROM "},    {" WHERE ", " WHERE "},
+        {" AND ", "   AND "},         {" ORDER BY ", "ORDER BY "}, {" VALUES ", "VALUES "},
+        {" SET ", "   SET "},         {" UNION ", " UNION "},   {"MINUS ", " MINUS "},
+    };
+    for (const auto& [find, replace] : replacements)
+        text.replace(QLatin1String(find), crlf + QLatin1String(replace));
+    return text;
+}
+
+void clsDB::BeginSavepoint() {
+    ExecuteScript(QStringLiteral("SAVEPOINT vowren_%1").arg(mSavepointDepth));
+    ++mSavepointDepth;
+}
+
+void clsDB::ReleaseSavepoint() {
+    if (mSavepointDepth == 0)
+        return;
+    --mSavepointDepth;
+    ExecuteScript(QStringLiteral("RELEASE vowren_%1").arg(mSavepointDepth));
+}
+
+void clsDB::RollbackSavepoint() {
+    if (mSavepointDepth == 0)
+        return;
+    --mSavepointDepth;
+    ExecuteScript(QStringLiteral("ROLLBACK TO vowren_%1; RELEASE vowren_%1").arg(mSavepointDepth));
+}
+
+void clsDB::RebuildTable(const QString& table, const QString& createSql) {
+    if (mSavepointDepth > 0)
+        throw clsDbError(QStringLiteral("A table can't be rebuilt inside another change."), SQLITE_MISUSE);
+    const QString temp = QStringLiteral("vowren_rebuild_") + table;
+    QString createTemp = createSql;
+    createTemp.replace(QRegularExpression(QStringLiteral("^\\s*CREATE\\s+TABLE\\s+\"?%1\"?").arg(table),
+                                          QRegularExpression::CaseInsensitiveOption),
+                       QStringLiteral("CREATE TABLE ") + temp);
+    const clsRecordset indexes = Run(
+        QStringLiteral("SELECT sql FROM sqlite_master WHERE type = 'index' AND tbl_name = ? AND sql IS NOT NULL"),
+        {table}, false);
+    ExecuteScript(QStringLiteral("PRAGMA foreign_keys=OFF"));
+    try {
+        clsTransaction tx(*this);
+        ExecuteScript(createTemp);
+        QStringList shared;
+        const clsRecordset oldColumns = Run(QStringLiteral("SELECT name FROM pragma_table_info(?)"), {table}, false);
+        const clsRecordset newColumns = Run(QStringLiteral("SELECT name FROM pragma_table_info(?)"), {temp}, false);
+        for (int i = 0; i < newColumns.RowCount(); ++i) {
+            for (int j = 0; j < oldColumns.RowCount(); ++j) {
+                if (newColumns.Value(i, 0).compare(oldColumns.Value(j, 0), Qt::CaseInsensitive) == 0)
+                    shared << newColumns.Value(i, 0);
+            }
+        }
+        const QString list = shared.join(QStringLiteral(", "));
+        ExecuteScript(QStringLiteral("INSERT INTO %1 (%2) SELECT %2 FROM %3").arg(temp, list, table));
+        ExecuteScript(QStringLiteral("DROP TABLE %1").arg(table));
+        ExecuteScript(QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(temp, table));
+        for (int i = 0; i < indexes.RowCount(); ++i)
+            ExecuteScript(indexes.Value(i, 0));
+        if (!Run(QStringLiteral("PRAGMA foreign_key_check"), {}, false).IsEmpty())
+            throw clsDbError(QStringLiteral("Rebuilding %1 would break the links between tables.").arg(table),
+                             SQLITE_CONSTRAINT_FOREIGNKEY);
+        tx.Commit();
+    } catch (...) {
+        ExecuteScript(QStringLiteral("PRAGMA foreign_keys=ON"));
+        throw;
+    }
+    ExecuteScript(QStringLiteral("PRAGMA foreign_keys=ON"));
+}
+
+clsTransaction::clsTransaction(clsDB& db) : mDb(db) { mDb.BeginSavepoint(); }
+
+clsTransaction::~clsTransaction() {
+    if (!mDone) {
+        try {
+            mDb.RollbackSavepoint();
+        } catch (const clsDbError&) {
+            // The connection is gone; there is nothing left to undo.
+        }
+    }
+}
+
+void clsTransaction::Commit() {
+    mDb.ReleaseSavepoint();
+    mDone = true;
+}
+
+namespace DbDates {
+
+bool IsDateColumn(const QString& column) { return column.endsWith(QLatin1String("_DT"), Qt::CaseInsensitive); }
+
+QString FromStorage(const QString& stored) {
+    if (stored.isEmpty())
+        return stored;
+    const QDateTime moment = ParseDateTimeText(stored);
+    if (!moment.isValid())
+        return stored;
+    if (moment.time() == QTime(0, 0))
+        return FormatDate(moment.date());
+    return FormatDate(moment.date()) + QLatin1Char(' ') + FormatTime(moment.time());
+}
+
+QString ToStorage(const QString& text, const QString& column) {
+    if (text.trimmed().isEmpty())
+        return {};
+    const QDateTime moment = ParseDateTimeText(text);
+    if (!moment.isValid())
+        throw clsDbError(QStringLiteral("\"%1\" is not a date (%2).").arg(text, column), SQLITE_MISMATCH);
+    if (moment.time() == QTime(0, 0))
+        return moment.date().toString(QStringLiteral("yyyy-MM-dd"));
+    return moment.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+} // namespace DbDates
+
+clsDB& gDB() {
+    static clsDB db;
+    return db;
+}
