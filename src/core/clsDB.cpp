@@ -50,6 +50,10 @@ void Bind(sqlite3_stmt* stmt, int index, const QVariant& value) {
     }
 }
 
+int DenyAttach(void*, int action, const char*, const char*, const char*, const char*) {
+    return action == SQLITE_ATTACH || action == SQLITE_DETACH ? SQLITE_DENY : SQLITE_OK;
+}
+
 // Frees a prepared statement at the end of a scope.
 struct Statement {
     sqlite3_stmt* stmt = nullptr;
@@ -280,7 +284,11 @@ bool clsDB::IsReadOnlyStatement(const QString& sql, QString* error) {
     Statement st;
     const QByteArray utf8 = sql.toUtf8();
     const char* tail = nullptr;
-    if (sqlite3_prepare_v2(mDb, utf8.constData(), static_cast<int>(utf8.size()), &st.stmt, &tail) != SQLITE_OK) {
+    // Attaching another file would create it, though the engine counts that as reading.
+    sqlite3_set_authorizer(mDb, DenyAttach, nullptr);
+    const int rc = sqlite3_prepare_v2(mDb, utf8.constData(), static_cast<int>(utf8.size()), &st.stmt, &tail);
+    sqlite3_set_authorizer(mDb, nullptr, nullptr);
+    if (rc != SQLITE_OK) {
         if (error)
             *error = EngineText(mDb);
         return false;
