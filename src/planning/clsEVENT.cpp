@@ -1,0 +1,142 @@
+#include "planning/clsEVENT.h"
+
+#include "core/clsApp.h"
+#include "core/modGeneral.h"
+#include "guests/clsParseAddress.h"
+#include "platform/clsShell.h"
+
+namespace {
+
+const QString kCrLf = QStringLiteral("\r\n");
+
+// The country of the map links: row 9 of the settings kept with the data.
+int MapCountryIndex() {
+    try {
+        return gDB()
+            .Execute(QStringLiteral("SELECT VOWREN_TX FROM VOWREN WHERE VOWREN_ID = 9"))
+            .Scalar()
+            .toInt();
+    } catch (const clsDbError&) {
+        return 0;
+    }
+}
+
+QString FormatStored(const QString& stored, const QString& format) {
+    return FormatDateTime(ParseDateTimeText(stored), format);
+}
+
+} // namespace
+
+const RecordTable<clsEVENT>& clsEVENT::Table() {
+    static const RecordTable<clsEVENT> table{"EVENT",
+                                             "EVENT_ID",
+                                             {{"EVENT_ID", &clsEVENT::EVENT_ID},
+                                              {"EVENT_TX", &clsEVENT::EVENT_TX},
+                                              {"EVENT_DT", &clsEVENT::EVENT_DT},
+                                              {"ADDRESS_TX", &clsEVENT::ADDRESS_TX},
+                                              {"CITY_TX", &clsEVENT::CITY_TX},
+                                              {"STATE_TX", &clsEVENT::STATE_TX},
+                                              {"ZIP_TX", &clsEVENT::ZIP_TX},
+                                              {"COUNTRY_TX", &clsEVENT::COUNTRY_TX},
+                                              {"CONTACT_NM", &clsEVENT::CONTACT_NM},
+                                              {"PHONE_TX", &clsEVENT::PHONE_TX},
+                                              {"FAX_TX", &clsEVENT::FAX_TX},
+                                              {"EMAIL_TX", &clsEVENT::EMAIL_TX},
+                                              {"WEB_SITE_TX", &clsEVENT::WEB_SITE_TX},
+                                              {"NOTES_TX", &clsEVENT::NOTES_TX}}};
+    return table;
+}
+
+QString clsEVENT::DisplayAddress(bool multiLine) const {
+    clsParseAddress address;
+    address.ADDRESS_TX = QString(ADDRESS_TX).replace(kCrLf, multiLine ? kCrLf : QStringLiteral(", "));
+    address.CITY_TX = CITY_TX;
+    address.STATE_TX = STATE_TX;
+    address.ZIP_TX = ZIP_TX;
+    address.COUNTRY_TX = COUNTRY_TX;
+    return address.DisplayAddress(multiLine);
+}
+
+QString clsEVENT::EVENT_DT_DateTimeFormat() const {
+    return FormatStored(EVENT_DT, DateTimeFormat());
+}
+
+QString clsEVENT::EVENT_DT_DateFormat() const {
+    return FormatStored(EVENT_DT, QLatin1String(kDateFormat));
+}
+
+QString clsEVENT::EVENT_DT_TimeFormat() const {
+    return FormatStored(EVENT_DT, TimeFormat());
+}
+
+bool clsEVENT::Delete(const QString& eventId) {
+    if (eventId.trimmed() == QLatin1String("1")) {
+        ShowMessage(QStringLiteral("You cannot delete the Wedding Day event."), Msg::OKOnly, ProgramTitle());
+        return false;
+    }
+    return RecordIO::Delete(QStringLiteral("EVENT"), QStringLiteral("EVENT_ID"), eventId);
+}
+
+long clsEVENT::GetTotal() const {
+    return RecordIO::Count(QStringLiteral("SELECT COUNT(*) AS CNT FROM EVENT"));
+}
+
+QString clsEVENT::MapURL() const {
+    return MapAddressURL(DisplayAddress(true), MapCountryIndex());
+}
+
+bool clsEVENT::MapIt() const {
+    return gShell().OpenDocument(MapURL());
+}
+
+bool clsEVENT::OpenRecord(const QString& eventId) {
+    return RecordIO::OpenRecord(*this, Table(), eventId);
+}
+
+QList<clsEVENT> clsEVENT::OpenRecords(const QString& onDate) const {
+    if (onDate.isEmpty())
+        return RecordIO::OpenRecords(Table(), QStringLiteral("SELECT * FROM EVENT ORDER BY EVENT_DT"));
+    // A text that is no date is compared as it stands, and so matches nothing.
+    const QDateTime day = ParseDateTimeText(onDate);
+    const QString isoDay = day.isValid() ? day.date().toString(QStringLiteral("yyyy-MM-dd")) : onDate;
+    return RecordIO::OpenRecords(
+        Table(), QStringLiteral("SELECT * FROM EVENT WHERE date(EVENT_DT) = ? ORDER BY EVENT_DT"), {isoDay});
+}
+
+bool clsEVENT::Save(bool isNew) {
+    const clsEVENT before = *this;
+    if (!RecordIO::Save(*this, Table(), isNew)) {
+        *this = before;
+        return false;
+    }
+    if (EVENT_ID == QLatin1String("1")) {
+        gApp().SetWeddingDate(EVENT_DT_DateTimeFormat());
+        gWeddingEvent().OpenRecord(QStringLiteral("1"));
+    }
+    return true;
+}
+
+void clsEVENT::Patch_1_Apply() {
+    const QList<clsEVENT> events = clsEVENT().OpenRecords();
+    clsTransaction tx(gDB());
+    for (clsEVENT event : events) {
+        clsParseAddress address;
+        address.ADDRESS_TX = event.ADDRESS_TX;
+        address.CITY_TX = event.CITY_TX;
+        address.STATE_TX = event.STATE_TX;
+        address.ZIP_TX = event.ZIP_TX;
+        address.COUNTRY_TX = event.COUNTRY_TX;
+        event.ADDRESS_TX = address.DisplayAddress(true);
+        event.CITY_TX.clear();
+        event.STATE_TX.clear();
+        event.ZIP_TX.clear();
+        event.COUNTRY_TX.clear();
+        RecordIO::SaveOrThrow(event, Table(), false);
+    }
+    tx.Commit();
+}
+
+clsEVENT& gWeddingEvent() {
+    static clsEVENT wedding;
+    return wedding;
+}
