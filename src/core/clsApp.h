@@ -97,6 +97,27 @@ public:
     // Set by the main window's countdown, read by the statistics report; empty until then.
     QString TimeToWedding;
 
+    // ---- Counts for the Home page and the statistics ----
+    // Each asks a new record object of its class and passes its arguments through unchanged.
+    long TotalBudget(int filter, const QString& categoryId = QString()) const;
+    long TotalBudgetCategories() const;
+    long TotalContacts(int filter, const QString& customWhere = QString(), bool excludeBrideGroom = false) const;
+    long TotalEvents() const;
+    long TotalGifts(int filter, const QString& customWhere = QString()) const;
+    long TotalInvitations(int filter, const QString& customWhere = QString()) const;
+    long TotalNotes() const;
+    long TotalSettings(int dictionaryKind) const;
+    long TotalTables(int kind) const;
+    long TotalTasks(int filter) const;
+    long TotalTentcards() const;
+    long TotalTimelineEntries(const QString& eventId = QString()) const;
+    long TotalTimelineEvents() const;
+    long TotalVendors() const;
+    double TotalBudgetSumEstimates() const;
+    long TotalFlights() const;
+    long TotalHotels() const;
+    long TotalSongs() const;
+
     // ---- Conversions, shared with every other setting of the program ----
     static bool ToBool(const QString& text, bool defaultValue);
     static int ToInt16(const QString& text, int defaultValue);

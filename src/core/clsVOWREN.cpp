@@ -1,0 +1,116 @@
+#include "core/clsVOWREN.h"
+
+#include "core/clsApp.h"
+#include "core/modSchema.h"
+
+namespace {
+
+// Inserts rows that come with their key, all or none.
+void InsertRows(const QList<std::pair<int, QString>>& rows) {
+    clsTransaction tx(gDB());
+    for (const auto& [id, text] : rows) {
+        clsVOWREN row;
+        row.VOWREN_ID = QString::number(id);
+        row.VOWREN_TX = text;
+        RecordIO::SaveOrThrow(row, clsVOWREN::Table(), true, false);
+    }
+    tx.Commit();
+}
+
+QString NextFreeID() {
+    return RecordIO::NextID(QStringLiteral("VOWREN"), QStringLiteral("VOWREN_ID"));
+}
+
+} // namespace
+
+const RecordTable<clsVOWREN>& clsVOWREN::Table() {
+    static const RecordTable<clsVOWREN> table{
+        "VOWREN", "VOWREN_ID", {{"VOWREN_ID", &clsVOWREN::VOWREN_ID}, {"VOWREN_TX", &clsVOWREN::VOWREN_TX}}};
+    return table;
+}
+
+QString clsVOWREN::Get_VOWREN_TX(int id) const {
+    return Get_VOWREN_TX(QString::number(id));
+}
+
+QString clsVOWREN::Get_VOWREN_TX(const QString& id) const {
+    const auto it = mItems.constFind(ItemKey(id));
+    if (it == mItems.constEnd()) {
+        ShowMessage(QStringLiteral("Invalid procedure call or argument"), Msg::OKOnly);
+        return {};
+    }
+    return it.value();
+}
+
+// ---- Schema ----
+
+bool clsVOWREN::CreateTable() {
+    clsTransaction tx(gDB());
+    if (!modSchema::CreateTableIfMissing(gDB(), QStringLiteral("VOWREN")))
+        return false;
+    modSchema::SeedTable(gDB(), QStringLiteral("VOWREN"));
+    tx.Commit();
+    return true;
+}
+
+bool clsVOWREN::Patch_6_Apply() {
+    if (NextFreeID() != QLatin1String("4"))
+        return false;
+    InsertRows({{4, QString::number(modSchema::ReportColour(0))},
+                {5, QString::number(modSchema::ReportColour(1))},
+                {6, QString::number(modSchema::ReportColour(2))}});
+    return true;
+}
+
+bool clsVOWREN::Patch_7_Apply() {
+    if (NextFreeID() != QLatin1String("7"))
+        return false;
+    // A Boolean kept as text reads "True" or "False".
+    const QString formal = gApp().EtiquetteIsFormal() ? QStringLiteral("True") : QStringLiteral("False");
+    InsertRows({{7, formal}, {8, formal}, {9, QString::number(gApp().GoogleMapIndex())}});
+    return true;
+}
+
+// ---- Records ----
+
+bool clsVOWREN::Delete(const QString& id) {
+    if (!RecordIO::Delete(QStringLiteral("VOWREN"), QStringLiteral("VOWREN_ID"), id))
+        return false;
+    mItems.remove(ItemKey(id));
+    return true;
+}
+
+bool clsVOWREN::OpenRecord(const QString& id) {
+    return RecordIO::OpenRecord(*this, Table(), id);
+}
+
+QList<clsVOWREN> clsVOWREN::OpenRecords() {
+    const QList<clsVOWREN> rows = RecordIO::OpenRecords(Table(), QStringLiteral("SELECT * FROM VOWREN"));
+    mItems.clear();
+    for (const clsVOWREN& row : rows)
+        mItems.insert(ItemKey(row.VOWREN_ID), row.VOWREN_TX);
+    return rows;
+}
+
+bool clsVOWREN::QuickUpdate(int id, const QString& value) {
+    return QuickUpdate(QString::number(id), value);
+}
+
+bool clsVOWREN::QuickUpdate(const QString& id, const QString& value) {
+    if (!RecordIO::Run(QStringLiteral("UPDATE VOWREN SET VOWREN_TX = ? WHERE VOWREN_ID = ?"), {value, id}))
+        return false;
+    mItems.insert(ItemKey(id), value);
+    return true;
+}
+
+bool clsVOWREN::Save(bool isNew) {
+    if (!RecordIO::Save(*this, Table(), isNew))
+        return false;
+    mItems.insert(ItemKey(VOWREN_ID), VOWREN_TX);
+    return true;
+}
+
+clsVOWREN& gVowren() {
+    static clsVOWREN vowren;
+    return vowren;
+}

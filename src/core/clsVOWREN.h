@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/RecordIO.h"
+
+#include <QList>
+#include <QMap>
+#include <QString>
+
+// The settings that travel with the database rather than with the machine: row 1 and 2 the icons of
+// the bride and the groom, 3 kept without a reader, 4 to 6 the report colours, 7 and 8 the etiquette of
+// invitations and of tent cards, 9 the map country. gVowren() keeps every row in memory once
+// OpenRecords has run, so that reading a value costs no query.
+class clsVOWREN {
+public:
+    QString VOWREN_ID;
+    QString VOWREN_TX;
+
+    static const RecordTable<clsVOWREN>& Table();
+
+    // The value of a row from memory. A key that was never loaded is reported as the collection's
+    // error and reads as the empty string.
+    QString Get_VOWREN_TX(int id) const;
+    QString Get_VOWREN_TX(const QString& id) const;
+    bool Contains(const QString& id) const { return mItems.contains(ItemKey(id)); }
+
+    // ---- Schema ----
+    static bool CreateTable();
+    // Rows 4 to 6 (the report colours) when the next free id is 4.
+    static bool Patch_6_Apply();
+    // Rows 7 and 8 (etiquette) and 9 (map country) from the machine's old settings when the next free
+    // id is 7. From then on the rows are the settings.
+    static bool Patch_7_Apply();
+
+    // ---- Records ----
+    bool Delete(const QString& id);
+    bool OpenRecord(const QString& id);
+    // Every row, also kept in this object's memory (replacing what it held).
+    QList<clsVOWREN> OpenRecords();
+    // Writes the value at once and keeps it in memory, so the next Get_VOWREN_TX answers it without a
+    // reload. False after a message; memory then keeps the old value.
+    bool QuickUpdate(int id, const QString& value);
+    bool QuickUpdate(const QString& id, const QString& value);
+    // INSERT (with the next free id) or UPDATE; memory follows a successful write.
+    bool Save(bool isNew);
+
+private:
+    static QString ItemKey(const QString& id) { return id.trimmed() + QStringLiteral(" KEY"); }
+    QMap<QString, QString> mItems;
+};
+
+clsVOWREN& gVowren();

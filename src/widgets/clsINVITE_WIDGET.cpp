@@ -1,0 +1,135 @@
+#include "widgets/clsINVITE_WIDGET.h"
+
+#include "core/modSchema.h"
+#include "guests/clsCONTACT.h"
+#include "guests/clsINVITE.h"
+
+namespace {
+
+// The list of an event, contacts and invitations sorted together by last name or display name. The
+// columns are named one by one: through the right joins the engine would rename the row's own
+// CONTACT_ID and INVITE_ID ("CONTACT_ID:1"), as the joined tables hold columns of the same names.
+const QString kListSelect = QStringLiteral(
+    "SELECT INVITE_WIDGET.INVITE_WIDGET_ID AS INVITE_WIDGET_ID, INVITE_WIDGET.EVENT_ID AS EVENT_ID, "
+    "INVITE_WIDGET.INVITE_ID AS INVITE_ID, INVITE_WIDGET.CONTACT_ID AS CONTACT_ID, EVENT.EVENT_TX, "
+    "iif(INVITE_WIDGET.CONTACT_ID IS NULL, INVITE.DISPLAY_AS_TX, CONTACT.LAST_NM) AS DISPLAY_NM "
+    "FROM INVITE RIGHT JOIN (CONTACT RIGHT JOIN (EVENT INNER JOIN INVITE_WIDGET ON EVENT.EVENT_ID = "
+    "INVITE_WIDGET.EVENT_ID) ON CONTACT.CONTACT_ID = INVITE_WIDGET.CONTACT_ID) ON INVITE.INVITE_ID = "
+    "INVITE_WIDGET.INVITE_ID "
+    "WHERE INVITE_WIDGET.EVENT_ID = ? "
+    "ORDER BY iif(INVITE_WIDGET.CONTACT_ID IS NULL, INVITE.DISPLAY_AS_TX, CONTACT.LAST_NM) COLLATE NOCASE, "
+    "INVITE_WIDGET.INVITE_WIDGET_ID");
+
+// Reads the display fields from the row's contact or invitation.
+void FillDisplay(clsINVITE_WIDGET& row) {
+    if (!row.CONTACT_ID.isEmpty()) {
+        clsCONTACT contact;
+        if (!contact.OpenRecord(row.CONTACT_ID))
+            return;
+        row.NAME_TX = contact.TitleFirstMiddleLastSuffix_OuterEnvelope();
+        row.OUTER_ENVELOPE_ADDRESS_TX = contact.DisplayAddress(true);
+        row.PHONE_TX = contact.PHONE_TX;
+        row.EMAIL_TX = contact.EMAIL_TX;
+        row.PEOPLE_NB = 1;
+        return;
+    }
+    clsINVITE invite;
+    bool found = false;
+    invite.OpenRecord(row.INVITE_ID, true, &found);
+    if (!found)
+        return;
+    row.NAME_TX = invite.OUTER_ENVELOPE_TX;
+    row.OUTER_ENVELOPE_ADDRESS_TX = invite.OUTER_ENVELOPE_ADDRESS_TX;
+    row.PHONE_TX = invite.PHONE_TX;
+    row.EMAIL_TX = invite.EMAIL_TX;
+    row.PEOPLE_NB = static_cast<int>(invite.GUESTS.size());
+}
+
+} // namespace
+
+const RecordTable<clsINVITE_WIDGET>& clsINVITE_WIDGET::Table() {
+    static const RecordTable<clsINVITE_WIDGET> table{
+        "INVITE_WIDGET",
+        "INVITE_WIDGET_ID",
+        {{"INVITE_WIDGET_ID", &clsINVITE_WIDGET::INVITE_WIDGET_ID},
+         {"EVENT_ID", &clsINVITE_WIDGET::EVENT_ID},
+         {"INVITE_ID", &clsINVITE_WIDGET::INVITE_ID},
+         {"CONTACT_ID", &clsINVITE_WIDGET::CONTACT_ID}}};
+    return table;
+}
+
+QString clsINVITE_WIDGET::OUTER_ENVELOPE_ADDRESS_TX_Text(bool multiLine) const {
+    if (multiLine)
+        return OUTER_ENVELOPE_ADDRESS_TX;
+    QString text = OUTER_ENVELOPE_ADDRESS_TX;
+    return text.replace(QLatin1String("\r\n"), QLatin1String(", "));
+}
+
+bool clsINVITE_WIDGET::CreateTable() {
+    return modSchema::CreateTableIfMissing(gDB(), QStringLiteral("INVITE_WIDGET"));
+}
+
+bool clsINVITE_WIDGET::Delete(const QString& eventID, const QString& contactID, const QString& inviteID) {
+    if (!contactID.isEmpty())
+        return RecordIO::Run(
+            QStringLiteral("DELETE FROM INVITE_WIDGET WHERE EVENT_ID = ? AND CONTACT_ID = ?"),
+            {eventID, contactID});
+    if (!inviteID.isEmpty())
+        return RecordIO::Run(QStringLiteral("DELETE FROM INVITE_WIDGET WHERE EVENT_ID = ? AND INVITE_ID = ?"),
+                             {eventID, inviteID});
+    return RecordIO::Run(QStringLiteral("DELETE FROM INVITE_WIDGET WHERE EVENT_ID = ?"), {eventID});
+}
+
+long clsINVITE_WIDGET::GetTotal(const QString& eventID) {
+    return RecordIO::Count(
+        QStringLiteral("SELECT Count(INVITE_WIDGET_ID) AS CNT FROM INVITE_WIDGET WHERE EVENT_ID = ?"),
+        {eventID});
+}
+
+long clsINVITE_WIDGET::GetTotalContacts(const QString& eventID) {
+    long total = 0;
+    for (const clsINVITE_WIDGET& row : OpenRecords(eventID))
+        total += row.PEOPLE_NB;
+    return total;
+}
+
+QList<clsINVITE_WIDGET> clsINVITE_WIDGET::OpenEvents() {
+    QList<clsINVITE_WIDGET> events;
+    try {
+        const clsRecordset rs = gDB().Execute(QStringLiteral(
+            "SELECT EVENT.EVENT_ID, EVENT.EVENT_TX FROM EVENT INNER JOIN INVITE_WIDGET ON EVENT.EVENT_ID = "
+            "INVITE_WIDGET.EVENT_ID GROUP BY EVENT.EVENT_ID, EVENT.EVENT_TX, EVENT.EVENT_DT ORDER BY "
+            "EVENT.EVENT_DT"));
+        for (int row = 0; row < rs.RowCount(); ++row) {
+            clsINVITE_WIDGET event;
+            event.EVENT_ID = rs.Value(row, QStringLiteral("EVENT_ID"));
+            event.EVENT_TX = rs.Value(row, QStringLiteral("EVENT_TX"));
+            events.append(event);
+        }
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+    }
+    return events;
+}
+
+QList<clsINVITE_WIDGET> clsINVITE_WIDGET::OpenRecords(const QString& eventID) {
+    QList<clsINVITE_WIDGET> rows;
+    try {
+        const clsRecordset rs = gDB().Execute(kListSelect, {eventID});
+        for (int i = 0; i < rs.RowCount(); ++i) {
+            clsINVITE_WIDGET row;
+            RecordIO::Fill(row, rs, i, Table());
+            row.EVENT_TX = rs.Value(i, QStringLiteral("EVENT_TX"));
+            row.DISPLAY_NM = rs.Value(i, QStringLiteral("DISPLAY_NM"));
+            FillDisplay(row);
+            rows.append(row);
+        }
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+    }
+    return rows;
+}
+
+bool clsINVITE_WIDGET::Save(bool isNew) {
+    return RecordIO::Save(*this, Table(), isNew);
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/RecordIO.h"
+
+#include <QList>
+#include <QString>
+
+// Who is invited to an event other than the wedding day: a row holds either a contact or a whole
+// invitation (one of CONTACT_ID and INVITE_ID is filled).
+class clsINVITE_WIDGET {
+public:
+    QString INVITE_WIDGET_ID;
+    QString EVENT_ID;
+    QString INVITE_ID;
+    QString CONTACT_ID;
+    // From the event.
+    QString EVENT_TX;
+    // Display fields, read from the contact or the invitation when the rows are opened.
+    QString DISPLAY_NM;                // the invitation's display name, or the contact's last name
+    QString NAME_TX;                   // the envelope name of the contact or of the invitation
+    QString OUTER_ENVELOPE_ADDRESS_TX; // the contact's address, or the invitation's primary contact's
+    QString PHONE_TX;
+    QString EMAIL_TX;
+    int PEOPLE_NB = 0; // the people the row stands for: 1 for a contact, the guests of an invitation
+
+    static const RecordTable<clsINVITE_WIDGET>& Table();
+
+    // The address with its line breaks as ", " unless multiLine is set.
+    QString OUTER_ENVELOPE_ADDRESS_TX_Text(bool multiLine) const;
+    static bool CreateTable();
+    // Takes a contact or an invitation off the event's list; with neither, the whole list goes.
+    static bool Delete(const QString& eventID, const QString& contactID = QString(),
+                       const QString& inviteID = QString());
+    // Rows on the event's list.
+    static long GetTotal(const QString& eventID);
+    // People on the event's list: each invitation counts with all of its guests.
+    static long GetTotalContacts(const QString& eventID);
+    // The events that have a list, by date: EVENT_ID and EVENT_TX are filled.
+    static QList<clsINVITE_WIDGET> OpenEvents();
+    // The event's list, contacts and invitations together, sorted by last name or display name.
+    static QList<clsINVITE_WIDGET> OpenRecords(const QString& eventID);
+    bool Save(bool isNew);
+};

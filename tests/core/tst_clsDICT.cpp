@@ -1,0 +1,398 @@
+#include "TestDatabase.h"
+#include "core/clsDICT.h"
+
+#include <QtTest>
+#include <memory>
+
+class tst_clsDICT : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<TestDatabase> db;
+
+    QStringList Messages() const { return db->Messages().Prompts; }
+    static QStringList Texts(const QList<clsDICT>& rows) {
+        QStringList texts;
+        for (const clsDICT& row : rows)
+            texts << row.TX;
+        return texts;
+    }
+    static QString Count(const QString& table) {
+        return TestDatabase::Scalar(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table));
+    }
+
+private slots:
+    void init() { db = std::make_unique<TestDatabase>(); }
+    void cleanup() { db.reset(); }
+
+    void listsEveryKind_data() {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("last");
+        QTest::newRow("budget category") << 0 << "BUDGET_CATEGORY_DICT" << 10 << "Ceremony"
+                                         << "Stationery";
+        QTest::newRow("meal") << 1 << "MEAL_DICT" << 6 << "Beef"
+                              << "Vegetarian";
+        QTest::newRow("paid by") << 2 << "PAID_BY_DICT" << 5 << "Bride"
+                                 << "Groom's Family";
+        QTest::newRow("role") << 3 << "ROLE_DICT" << 18 << "Best Man"
+                              << "Usher";
+        QTest::newRow("title") << 4 << "TITLE_DICT" << 12 << "Dr."
+                               << "Sra.";
+        QTest::newRow("task group") << 7 << "TASK_GROUP_DICT" << 11 << "1 year+"
+                                    << "Wedding day";
+        QTest::newRow("songlist by its own order") << 8 << "SONGLIST_DICT" << 2 << "Ceremony"
+                                                   << "Reception";
+        QTest::newRow("vendor category") << 10 << "VENDOR_CATEGORY_DICT" << 13 << "Baker"
+                                         << "Wedding/Event Planner";
+    }
+    void listsEveryKind() {
+        QFETCH(int, kind);
+        QFETCH(QString, table);
+        QFETCH(int, rows);
+        QFETCH(QString, first);
+        QFETCH(QString, last);
+        clsDICT dict;
+        const QList<clsDICT> list = dict.OpenRecords(kind);
+        QCOMPARE(dict.DICT_TYPE, kind);
+        QCOMPARE(dict.DICT_NAME(), table);
+        QCOMPARE(list.size(), rows);
+        QCOMPARE(clsDICT::GetTotal(kind), long(rows));
+        QCOMPARE(list.first().TX, first);
+        QCOMPARE(list.last().TX, last);
+        for (const clsDICT& row : list) {
+            QCOMPARE(row.DICT_TYPE, kind);
+            QVERIFY(!row.ID.isEmpty());
+            QCOMPARE(row.SORT_ORDER_NB.isEmpty(), kind != clsDICT::Songlist);
+            QCOMPARE(row.PRICE_NB.isEmpty(), kind != clsDICT::Meal);
+        }
+        QVERIFY(Messages().isEmpty());
+    }
+
+    void listsAlphabeticallyWhateverTheCase() {
+        TestDatabase::Exec(
+            "INSERT INTO PAID_BY_DICT (PAID_BY_ID, PAID_BY_TX) VALUES (6, 'aunt May'), (7, 'Zed')");
+        const QStringList texts = Texts(clsDICT().OpenRecords(clsDICT::PaidBy));
+        QCOMPARE(texts, QStringList({"aunt May", "Bride", "Bride and Groom", "Bride's Family", "Groom",
+                                     "Groom's Family", "Zed"}));
+    }
+
+    void songlistsFollowTheirSortOrderNotTheText() {
+        TestDatabase::Exec("UPDATE SONGLIST_DICT SET SORT_ORDER_NB = 3 WHERE SONGLIST_ID = 1");
+        QCOMPARE(Texts(clsDICT().OpenRecords(clsDICT::Songlist)), QStringList({"Reception", "Ceremony"}));
+    }
+
+    void savesNewRowsAndEdits_data() {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("extra"); // price of a meal
+        QTest::addColumn<QString>("expectedID");
+        QTest::addColumn<QString>("expectedExtra"); // price, or sort number of a songlist
+        QTest::newRow("meal with price") << 1 << "Lamb"
+                                         << "24.5"
+                                         << "7"
+                                         << "24.5";
+        QTest::newRow("payer") << 2 << "Godparents"
+                               << ""
+                               << "6"
+                               << "";
+        QTest::newRow("role") << 3 << "Usherette"
+                              << ""
+                              << "19"
+                              << "";
+        QTest::newRow("title") << 4 << "Capt."
+                               << ""
+                               << "13"
+                               << "";
+        QTest::newRow("task group starts at 0") << 7 << "Honeymoon"
+                                                << ""
+                                                << "11"
+                                                << "";
+        QTest::newRow("songlist gets next sort number") << 8 << "Cocktails"
+                                                        << ""
+                                                        << "3"
+                                                        << "3";
+        QTest::newRow("vendor category") << 10 << "Calligrapher"
+                                         << ""
+                                         << "14"
+                                         << "";
+        QTest::newRow("budget category") << 0 << "Favors"
+                                         << ""
+                                         << "11"
+                                         << "";
+    }
+    void savesNewRowsAndEdits() {
+        QFETCH(int, kind);
+        QFETCH(QString, text);
+        QFETCH(QString, extra);
+        QFETCH(QString, expectedID);
+        QFETCH(QString, expectedExtra);
+        clsDICT row(kind);
+        row.TX = text;
+        row.PRICE_NB = extra;
+        QVERIFY(row.Save(true));
+        QCOMPARE(row.ID, expectedID);
+
+        clsDICT read(kind);
+        QVERIFY(read.OpenRecord(expectedID));
+        QCOMPARE(read.TX, text);
+        if (kind == clsDICT::Meal)
+            QCOMPARE(read.PRICE_NB, expectedExtra);
+        if (kind == clsDICT::Songlist) {
+            QCOMPARE(row.SORT_ORDER_NB, expectedExtra);
+            QCOMPARE(read.SORT_ORDER_NB, expectedExtra);
+        }
+
+        read.TX = text + QStringLiteral(" (changed)");
+        if (kind == clsDICT::Meal)
+            read.PRICE_NB = QStringLiteral("30");
+        QVERIFY(read.Save(false));
+        clsDICT again(kind);
+        QVERIFY(again.OpenRecord(expectedID));
+        QCOMPARE(again.TX, text + QStringLiteral(" (changed)"));
+        if (kind == clsDICT::Meal)
+            QCOMPARE(again.PRICE_NB, QStringLiteral("30"));
+        QVERIFY(Messages().isEmpty());
+    }
+
+    void firstSonglistOfAnEmptyTableIsOneAndOne() {
+        TestDatabase::Exec("DELETE FROM SONGLIST_DICT");
+        clsDICT row(clsDICT::Songlist);
+        row.TX = QStringLiteral("Cake cutting");
+        QVERIFY(row.Save(true));
+        QCOMPARE(row.ID, QStringLiteral("1"));
+        QCOMPARE(row.SORT_ORDER_NB, QStringLiteral("1"));
+    }
+
+    void reorderingSonglistsWritesTheirPositions() {
+        clsDICT dict;
+        QList<clsDICT> lists = dict.OpenRecords(clsDICT::Songlist);
+        std::reverse(lists.begin(), lists.end());
+        for (int i = 0; i < lists.size(); ++i) {
+            lists[i].SORT_ORDER_NB = QString::number(i + 1);
+            QVERIFY(lists[i].Save(false));
+        }
+        QCOMPARE(Texts(dict.OpenRecords(clsDICT::Songlist)), QStringList({"Reception", "Ceremony"}));
+    }
+
+    void refusesDuplicatesOfUniqueTexts_data() {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("title") << 4 << "Mr.";
+        QTest::newRow("title in other case") << 4 << "MRS.";
+        QTest::newRow("budget category") << 0 << "Music";
+        QTest::newRow("budget category in other case") << 0 << "flowers";
+    }
+    void refusesDuplicatesOfUniqueTexts() {
+        QFETCH(int, kind);
+        QFETCH(QString, text);
+        const QString table = clsDICT::DICT_NAME_ByEnum(kind);
+        const QString before = Count(table);
+
+        clsDICT added(kind);
+        added.TX = text;
+        QVERIFY(!added.Save(true));
+        QCOMPARE(Messages(), QStringList({"Duplicate value.  Ensure that entry is unique."}));
+        QCOMPARE(Count(table), before);
+
+        // Renaming another row to the taken text is refused the same way and leaves the row as it was.
+        clsDICT other(kind);
+        QVERIFY(other.OpenRecord("2"));
+        const QString oldText = other.TX;
+        other.TX = text;
+        QVERIFY(!other.Save(false));
+        QCOMPARE(Messages().size(), 2);
+        QCOMPARE(Messages().last(), QStringLiteral("Duplicate value.  Ensure that entry is unique."));
+        clsDICT reread(kind);
+        QVERIFY(reread.OpenRecord("2"));
+        QCOMPARE(reread.TX, oldText);
+    }
+
+    void refusesDeletingRowsInUse_data() {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("use");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("meal chosen by a contact")
+            << 1 << "UPDATE CONTACT SET MEAL_ID = 3 WHERE CONTACT_ID = 2"
+            << "Unable to delete.  Contacts are associated with this entry.";
+        QTest::newRow("role of a contact")
+            << 3 << "INSERT INTO CONTACT (CONTACT_ID, LAST_NM, ROLE_ID) VALUES (3, 'Best', 3)"
+            << "Unable to delete.  Contacts are associated with this entry.";
+        QTest::newRow("songlist with songs") << 8
+                                             << "INSERT INTO SONG (SONG_ID, SONG_FILE_PATH_TX, "
+                                                "SORT_ORDER_NB, SONGLIST_ID) VALUES (1, '/a.mp3', 1, 3)"
+                                             << "Unable to delete.  Songs are associated with this songlist.";
+        QTest::newRow("payer of a budget line")
+            << 2
+            << "INSERT INTO BUDGET (BUDGET_ID, DUE_DT, ITEM_NM, PAID_BY_ID) VALUES (1, '2027-06-05', 'Cake', "
+               "3)"
+            << "Unable to delete.  Budget entries are associated with this entry.";
+        QTest::newRow("budget category of a budget line")
+            << 0
+            << "INSERT INTO BUDGET (BUDGET_ID, DUE_DT, ITEM_NM, BUDGET_CATEGORY_ID) VALUES (1, '2027-06-05', "
+               "'Cake', 3)"
+            << "Unable to delete.  Budget entries are associated with this entry.";
+        QTest::newRow("vendor category of a vendor")
+            << 10 << "INSERT INTO VENDOR (VENDOR_ID, VENDOR_NM, VENDOR_CATEGORY_ID) VALUES (1, 'Bakery', 3)"
+            << "The record cannot be deleted or changed because table 'VENDOR' includes related records.";
+    }
+    void refusesDeletingRowsInUse() {
+        QFETCH(int, kind);
+        QFETCH(QString, use);
+        QFETCH(QString, message);
+        if (kind == clsDICT::Songlist) {
+            clsDICT extra(kind);
+            extra.TX = QStringLiteral("Dances");
+            QVERIFY(extra.Save(true));
+            QCOMPARE(extra.ID, QStringLiteral("3"));
+        }
+        TestDatabase::Exec(use);
+        const QString table = clsDICT::DICT_NAME_ByEnum(kind);
+        const QString before = Count(table);
+        clsDICT dict(kind);
+        QVERIFY(!dict.Delete("3"));
+        QCOMPARE(Messages(), QStringList({message}));
+        QCOMPARE(Count(table), before);
+        QVERIFY(dict.OpenRecord("3"));
+    }
+
+    void deletesRowsNotInUse() {
+        clsDICT dict(clsDICT::Meal);
+        QVERIFY(dict.Delete("5"));
+        QCOMPARE(dict.ID, QStringLiteral("5"));
+        QCOMPARE(clsDICT::GetTotal(clsDICT::Meal), 5L);
+        QVERIFY(Messages().isEmpty());
+        // The key of the highest row comes back after it is deleted.
+        QVERIFY(dict.Delete("6"));
+        clsDICT added(clsDICT::Meal);
+        added.TX = QStringLiteral("Pasta");
+        added.PRICE_NB = QStringLiteral("0");
+        QVERIFY(added.Save(true));
+        QCOMPARE(added.ID, QStringLiteral("5"));
+    }
+
+    void brideAndGroomRolesAreNeverDeleted_data() {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<bool>("deletable");
+        QTest::newRow("role 1") << 3 << "1" << false;
+        QTest::newRow("role 2") << 3 << "2" << false;
+        QTest::newRow("role 3") << 3 << "3" << true;
+        QTest::newRow("title 1") << 4 << "1" << true;
+        QTest::newRow("meal 2") << 1 << "2" << true;
+        QTest::newRow("group 5 is no dictionary") << 5 << "1" << false;
+        QTest::newRow("group 9 is no dictionary") << 9 << "1" << false;
+    }
+    void brideAndGroomRolesAreNeverDeleted() {
+        QFETCH(int, kind);
+        QFETCH(QString, key);
+        QFETCH(bool, deletable);
+        QCOMPARE(clsDICT::CanDelete(kind, key), deletable);
+        if (kind != clsDICT::Role)
+            return;
+        // Even with nobody holding the role any more, rows 1 and 2 stay.
+        TestDatabase::Exec("UPDATE CONTACT SET ROLE_ID = NULL");
+        clsDICT dict(kind);
+        QCOMPARE(dict.Delete(key), deletable);
+        clsDICT reread(kind);
+        QCOMPARE(reread.OpenRecord(key), !deletable);
+    }
+
+    void brideAndGroomRolesCanBeRenamed() {
+        clsDICT role(clsDICT::Role);
+        QVERIFY(role.OpenRecord("1"));
+        QCOMPARE(role.TX, QStringLiteral("Bride"));
+        role.TX = QStringLiteral("Partner");
+        QVERIFY(role.Save(false));
+        QCOMPARE(TestDatabase::Scalar("SELECT ROLE_TX FROM ROLE_DICT WHERE ROLE_ID = 1"),
+                 QStringLiteral("Partner"));
+    }
+
+    void kindsWithoutTableFailInTheEngine_data() {
+        QTest::addColumn<int>("kind");
+        QTest::newRow("5") << 5;
+        QTest::newRow("9") << 9;
+        QTest::newRow("42") << 42;
+    }
+    void kindsWithoutTableFailInTheEngine() {
+        QFETCH(int, kind);
+        QCOMPARE(clsDICT::DICT_NAME_ByEnum(kind), QString());
+        QVERIFY(clsDICT().OpenRecords(kind).isEmpty());
+        QCOMPARE(Messages().size(), 1);
+        QCOMPARE(clsDICT::GetTotal(kind), 0L);
+        QCOMPARE(Messages().size(), 2);
+        clsDICT row(kind);
+        row.TX = QStringLiteral("x");
+        QVERIFY(!row.Save(true));
+        QCOMPARE(Messages().size(), 3);
+    }
+
+    void createTableMakesAndSeedsAMissingTable_data() {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<QString>("firstById");
+        QTest::newRow("paid by") << "PAID_BY_DICT" << 2 << 5 << "Bride";
+        QTest::newRow("songlist") << "SONGLIST_DICT" << 8 << 2 << "Ceremony";
+        QTest::newRow("title") << "TITLE_DICT" << 4 << 12 << "Dr.";
+        QTest::newRow("vendor category") << "VENDOR_CATEGORY_DICT" << 10 << 13 << "Miscellaneous";
+    }
+    void createTableMakesAndSeedsAMissingTable() {
+        QFETCH(QString, table);
+        QFETCH(int, kind);
+        QFETCH(int, rows);
+        QFETCH(QString, firstById);
+        auto create = [&] {
+            if (table == QLatin1String("PAID_BY_DICT"))
+                return clsDICT::CreateTable_PAID_BY_DICT();
+            if (table == QLatin1String("SONGLIST_DICT"))
+                return clsDICT::CreateTable_SONGLIST_DICT();
+            if (table == QLatin1String("TITLE_DICT"))
+                return clsDICT::CreateTable_TITLE_DICT();
+            return clsDICT::CreateTable_VENDOR_CATEGORY_DICT();
+        };
+        // A current database: nothing changes, even a row of the user's stays.
+        TestDatabase::Exec(QStringLiteral("INSERT INTO %1 VALUES (%2)")
+                               .arg(table, kind == clsDICT::Songlist ? "50, 'Mine', 50" : "50, 'Mine'"));
+        QVERIFY(!create());
+        QCOMPARE(Count(table), QString::number(rows + 1));
+
+        TestDatabase::Exec(QStringLiteral("DROP TABLE %1").arg(table));
+        QVERIFY(!gDB().TableExists(table));
+        QVERIFY(create());
+        QCOMPARE(clsDICT::GetTotal(kind), long(rows));
+        clsDICT first(kind);
+        QVERIFY(first.OpenRecord("1"));
+        QCOMPARE(first.TX, firstById);
+        QVERIFY(!create());
+        QCOMPARE(clsDICT::GetTotal(kind), long(rows));
+        QVERIFY(Messages().isEmpty());
+    }
+
+    void recreatedTitlesKeepTheirUniqueIndex() {
+        TestDatabase::Exec("DROP TABLE TITLE_DICT");
+        QVERIFY(clsDICT::CreateTable_TITLE_DICT());
+        clsDICT title(clsDICT::Title);
+        title.TX = QStringLiteral("dr.");
+        QVERIFY(!title.Save(true));
+        QCOMPARE(Messages(), QStringList({"Duplicate value.  Ensure that entry is unique."}));
+    }
+
+    void mealPricePatchAddsTheColumnOnce() {
+        TestDatabase::Exec("ALTER TABLE MEAL_DICT DROP COLUMN PRICE_NB");
+        QVERIFY(!gDB().FieldExists("MEAL_DICT", "PRICE_NB"));
+        QVERIFY(clsDICT::Patch_MEAL_DICT_Add_PRICE_NB());
+        QCOMPARE(Count("MEAL_DICT WHERE PRICE_NB = 0"), QStringLiteral("6"));
+        TestDatabase::Exec("UPDATE MEAL_DICT SET PRICE_NB = 17.5 WHERE MEAL_ID = 1");
+        QVERIFY(!clsDICT::Patch_MEAL_DICT_Add_PRICE_NB());
+        QCOMPARE(TestDatabase::Scalar("SELECT PRICE_NB FROM MEAL_DICT WHERE MEAL_ID = 1"),
+                 QStringLiteral("17.5"));
+        clsDICT meal(clsDICT::Meal);
+        QVERIFY(meal.OpenRecord("2"));
+        QCOMPARE(meal.PRICE_NB, QStringLiteral("0"));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_clsDICT)
+#include "tst_clsDICT.moc"

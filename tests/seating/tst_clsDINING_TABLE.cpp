@@ -1,0 +1,222 @@
+#include "TestDatabase.h"
+#include "seating/clsDINING_TABLE.h"
+
+#include <QtTest>
+#include <memory>
+
+class tst_clsDINING_TABLE : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<TestDatabase> db;
+
+    static clsDINING_TABLE AddTable(const QString& number, const QString& seats = QStringLiteral("8"),
+                                    const QString& label = QString()) {
+        clsDINING_TABLE table;
+        table.DINING_TABLE_NB = number;
+        table.DINING_TABLE_NM = label;
+        table.SEATS_NB = seats;
+        table.POS_X = QStringLiteral("0");
+        table.POS_Y = QStringLiteral("0");
+        table.DINING_TABLE_TYPE_ID = QStringLiteral("1");
+        if (!table.Save(true))
+            qFatal("table not saved");
+        return table;
+    }
+    // Guests 3, 4, ... seated at the table; the couple are contacts 1 and 2.
+    static void Seat(int contactID, const QString& tableID, const QString& attending = QStringLiteral("Y")) {
+        if (contactID > 2)
+            TestDatabase::Exec(
+                "INSERT INTO CONTACT (CONTACT_ID, LAST_NM, ATTENDING_FG) VALUES (?, 'Guest', ?)",
+                {contactID, attending});
+        TestDatabase::Exec("UPDATE CONTACT SET DINING_TABLE_ID = ? WHERE CONTACT_ID = ?",
+                           {tableID, contactID});
+    }
+    static QString TableOf(int contactID) {
+        return TestDatabase::Scalar("SELECT DINING_TABLE_ID FROM CONTACT WHERE CONTACT_ID = ?", {contactID});
+    }
+
+private slots:
+    void init() { db = std::make_unique<TestDatabase>(); }
+    void cleanup() { db.reset(); }
+
+    void firstTableOfAnEmptyRoomIsNumberOneKeyOne() {
+        QCOMPARE(clsDINING_TABLE::NEXT_NB(), QStringLiteral("1"));
+        const clsDINING_TABLE table = AddTable(clsDINING_TABLE::NEXT_NB());
+        QCOMPARE(table.DINING_TABLE_ID, QStringLiteral("1"));
+        QCOMPARE(table.DINING_TABLE_NB, QStringLiteral("1"));
+        QCOMPARE(clsDINING_TABLE::NEXT_NB(), QStringLiteral("2"));
+    }
+
+    void nextNumberAfterDeletes_data() {
+        QTest::addColumn<QStringList>("numbers");
+        QTest::addColumn<QStringList>("deleteNumbers");
+        QTest::addColumn<QString>("next");
+        QTest::newRow("highest deleted: its number comes back")
+            << QStringList{"1", "2", "3"} << QStringList{"3"} << "3";
+        QTest::newRow("a gap stays") << QStringList{"1", "2", "3"} << QStringList{"2"} << "4";
+        QTest::newRow("typed numbers") << QStringList{"5", "12"} << QStringList{} << "13";
+        QTest::newRow("all deleted") << QStringList{"1", "2"} << QStringList{"1", "2"} << "1";
+    }
+    void nextNumberAfterDeletes() {
+        QFETCH(QStringList, numbers);
+        QFETCH(QStringList, deleteNumbers);
+        QFETCH(QString, next);
+        for (const QString& number : numbers)
+            AddTable(number);
+        for (const QString& number : deleteNumbers) {
+            clsDINING_TABLE table;
+            QVERIFY(table.OpenRecord(QString(), number));
+            QVERIFY(table.Delete(table.DINING_TABLE_ID));
+        }
+        QCOMPARE(clsDINING_TABLE::NEXT_NB(), next);
+        QVERIFY(db->Messages().Prompts.isEmpty());
+    }
+
+    void deleteSendsTheSeatedGuestsBack() {
+        const clsDINING_TABLE first = AddTable("1");
+        const clsDINING_TABLE second = AddTable("2");
+        Seat(1, first.DINING_TABLE_ID);
+        Seat(2, first.DINING_TABLE_ID);
+        Seat(3, first.DINING_TABLE_ID, "N");
+        Seat(4, second.DINING_TABLE_ID);
+        TestDatabase::Exec("INSERT INTO TENTCARD VALUES (1, 'Mr. and Mrs. Groom', 'Groom', ?), "
+                           "(2, 'Ms. Guest', 'Guest', ?)",
+                           {first.DINING_TABLE_ID, second.DINING_TABLE_ID});
+
+        clsDINING_TABLE table;
+        QVERIFY(table.Delete(first.DINING_TABLE_ID));
+        QVERIFY(db->Messages().Prompts.isEmpty());
+        QCOMPARE(TableOf(1), QString());
+        QCOMPARE(TableOf(2), QString());
+        QCOMPARE(TableOf(3), QString());
+        QCOMPARE(TableOf(4), second.DINING_TABLE_ID);
+        QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM DINING_TABLE"), QStringLiteral("1"));
+        QCOMPARE(TestDatabase::Scalar("SELECT GROUP_CONCAT(TENTCARD_ID) FROM TENTCARD"), QStringLiteral("2"));
+    }
+
+    void aRefusedDeleteKeepsEveryGuestSeated() {
+        const clsDINING_TABLE first = AddTable("1");
+        Seat(3, first.DINING_TABLE_ID);
+        TestDatabase::Exec("CREATE TRIGGER keep_tables BEFORE DELETE ON DINING_TABLE "
+                           "BEGIN SELECT RAISE(ABORT, 'tables are kept'); END");
+        clsDINING_TABLE table;
+        QVERIFY(!table.Delete(first.DINING_TABLE_ID));
+        QCOMPARE(db->Messages().Prompts, QStringList({"tables are kept"}));
+        QCOMPARE(TableOf(3), first.DINING_TABLE_ID);
+    }
+
+    void totals_data() {
+        QTest::addColumn<QString>("seats");
+        QTest::addColumn<int>("seated");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<long>("expected");
+        QTest::newRow("tables in the room") << "8" << 3 << 0 << 2L;
+        QTest::newRow("free seats") << "8" << 3 << 1 << 5L;
+        QTest::newRow("taken seats count the absent too") << "8" << 3 << 2 << 3L;
+        QTest::newRow("empty table") << "10" << 0 << 1 << 10L;
+        QTest::newRow("over-full goes below zero") << "2" << 3 << 1 << -1L;
+        QTest::newRow("over-full taken") << "2" << 3 << 2 << 3L;
+    }
+    void totals() {
+        QFETCH(QString, seats);
+        QFETCH(int, seated);
+        QFETCH(int, kind);
+        QFETCH(long, expected);
+        const clsDINING_TABLE table = AddTable("1", seats);
+        const clsDINING_TABLE other = AddTable("2");
+        for (int i = 0; i < seated; ++i)
+            Seat(3 + i, table.DINING_TABLE_ID, i == 0 ? QStringLiteral("N") : QStringLiteral("Y"));
+        Seat(20, other.DINING_TABLE_ID);
+        QCOMPARE(table.GetTotal(kind), expected);
+    }
+
+    void openRecordByKeyOrNumber_data() {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QString>("expectedLabel");
+        QTest::newRow("by key") << "2"
+                                << ""
+                                << "Family";
+        QTest::newRow("by number") << ""
+                                   << "7"
+                                   << "Friends";
+        QTest::newRow("the key wins") << "2"
+                                      << "7"
+                                      << "Family";
+        QTest::newRow("neither: nothing happens") << ""
+                                                  << ""
+                                                  << "untouched";
+        QTest::newRow("missing key") << "99"
+                                     << ""
+                                     << "untouched";
+        QTest::newRow("missing number") << ""
+                                        << "99"
+                                        << "untouched";
+    }
+    void openRecordByKeyOrNumber() {
+        QFETCH(QString, key);
+        QFETCH(QString, number);
+        QFETCH(QString, expectedLabel);
+        AddTable("7", "8", "Friends");
+        AddTable("3", "8", "Family");
+        clsDINING_TABLE table;
+        table.DINING_TABLE_NM = QStringLiteral("untouched");
+        table.OpenRecord(key, number);
+        QCOMPARE(table.DINING_TABLE_NM, expectedLabel);
+        QVERIFY(db->Messages().Prompts.isEmpty());
+    }
+
+    void listsTablesByNumber() {
+        for (const char* number : {"10", "2", "7"})
+            AddTable(number);
+        QStringList numbers;
+        for (const clsDINING_TABLE& table : clsDINING_TABLE::OpenRecords())
+            numbers << table.DINING_TABLE_NB;
+        QCOMPARE(numbers, QStringList({"2", "7", "10"}));
+    }
+
+    void editWritesEveryColumn() {
+        clsDINING_TABLE table = AddTable("4", "8", "Old friends");
+        table.DINING_TABLE_NM.clear();
+        table.SEATS_NB = QStringLiteral("12");
+        table.DINING_TABLE_TYPE_ID = QStringLiteral("3");
+        table.POS_X = QStringLiteral("480");
+        QVERIFY(table.Save(false));
+        clsDINING_TABLE read;
+        QVERIFY(read.OpenRecord(table.DINING_TABLE_ID));
+        QCOMPARE(read.DINING_TABLE_NM, QString());
+        QCOMPARE(TestDatabase::Scalar("SELECT DINING_TABLE_NM IS NULL FROM DINING_TABLE"),
+                 QStringLiteral("1"));
+        QCOMPARE(read.SEATS_NB, QStringLiteral("12"));
+        QCOMPARE(read.DINING_TABLE_TYPE_ID, QStringLiteral("3"));
+        QCOMPARE(read.POS_X, QStringLiteral("480"));
+    }
+
+    void aNumberThatIsNoNumberIsRefused() {
+        clsDINING_TABLE table;
+        table.DINING_TABLE_NB = QStringLiteral("A1");
+        table.SEATS_NB = QStringLiteral("8");
+        QVERIFY(!table.Save(true));
+        QCOMPARE(db->Messages().Prompts.size(), 1);
+        QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM DINING_TABLE"), QStringLiteral("0"));
+    }
+
+    void shapePatchGivesOldTablesShapeOne() {
+        AddTable("1");
+        AddTable("2");
+        TestDatabase::Exec("ALTER TABLE DINING_TABLE DROP COLUMN DINING_TABLE_TYPE_ID");
+        QVERIFY(!clsDINING_TABLE::Patch_Field_Exists("DINING_TABLE_TYPE_ID"));
+        QVERIFY(clsDINING_TABLE::Patch_Field_Exists("SEATS_NB"));
+        QVERIFY(clsDINING_TABLE::Patch_6_Apply());
+        QVERIFY(clsDINING_TABLE::Patch_Field_Exists("DINING_TABLE_TYPE_ID"));
+        QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM DINING_TABLE WHERE DINING_TABLE_TYPE_ID = 1"),
+                 QStringLiteral("2"));
+        TestDatabase::Exec("UPDATE DINING_TABLE SET DINING_TABLE_TYPE_ID = 4");
+        QVERIFY(!clsDINING_TABLE::Patch_6_Apply());
+        QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM DINING_TABLE WHERE DINING_TABLE_TYPE_ID = 4"),
+                 QStringLiteral("2"));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_clsDINING_TABLE)
+#include "tst_clsDINING_TABLE.moc"

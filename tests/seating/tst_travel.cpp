@@ -1,0 +1,240 @@
+#include "TestDatabase.h"
+#include "core/modGeneral.h"
+#include "seating/clsFLIGHT.h"
+#include "seating/clsHOTEL.h"
+
+#include <QtTest>
+#include <memory>
+
+// Hotels and flights: the two kinds of travel a guest from out of town is assigned to.
+class tst_travel : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<TestDatabase> db;
+
+    static clsHOTEL AddHotel(const QString& name, const QString& number = QString()) {
+        clsHOTEL hotel;
+        hotel.HOTEL_NB = number.isEmpty() ? clsHOTEL::NEXT_NB() : number;
+        hotel.HOTEL_NM = name;
+        hotel.ROOMS_NB = QStringLiteral("20");
+        hotel.POS_X = QStringLiteral("0");
+        hotel.POS_Y = QStringLiteral("0");
+        if (!hotel.Save(true))
+            qFatal("hotel not saved");
+        return hotel;
+    }
+    static clsFLIGHT AddFlight(const QString& name, const QString& number = QString()) {
+        clsFLIGHT flight;
+        flight.FLIGHT_NB = number.isEmpty() ? clsFLIGHT::NEXT_NB() : number;
+        flight.FLIGHT_NM = name;
+        flight.DEPARTS_AIRPORT_NM = QStringLiteral("BOS");
+        flight.DEPARTS_DT = QStringLiteral("04-Jun-2027 9:15 AM");
+        flight.ARRIVES_AIRPORT_NM = QStringLiteral("SFO");
+        flight.ARRIVES_DT = QStringLiteral("04-Jun-2027 12:40 PM");
+        flight.POS_X = QStringLiteral("0");
+        flight.POS_Y = QStringLiteral("0");
+        if (!flight.Save(true))
+            qFatal("flight not saved");
+        return flight;
+    }
+    // Guest 3, 4, ... with a hotel or a flight.
+    static void AddGuest(int id, const char* column, const QString& value) {
+        TestDatabase::Exec(
+            QStringLiteral("INSERT INTO CONTACT (CONTACT_ID, LAST_NM, ATTENDING_FG, %1) VALUES (?, "
+                           "'Guest', 'Y', ?)")
+                .arg(QLatin1String(column)),
+            {id, value});
+    }
+
+private slots:
+    void init() { db = std::make_unique<TestDatabase>(); }
+    void cleanup() { db.reset(); }
+
+    void totals_data() {
+        QTest::addColumn<int>("places");
+        QTest::addColumn<QList<int>>("guestsPerPlace");
+        QTest::newRow("none") << 0 << QList<int>{};
+        QTest::newRow("one empty") << 1 << QList<int>{0};
+        QTest::newRow("three") << 3 << QList<int>{2, 0, 5};
+    }
+    void totals() {
+        QFETCH(int, places);
+        QFETCH(QList<int>, guestsPerPlace);
+        int guest = 3;
+        QStringList hotels, flights;
+        for (int i = 0; i < places; ++i) {
+            hotels << AddHotel(QStringLiteral("Hotel %1").arg(i)).HOTEL_ID;
+            flights << AddFlight(QStringLiteral("Flight %1").arg(i)).FLIGHT_ID;
+            for (int g = 0; g < guestsPerPlace[i]; ++g) {
+                AddGuest(guest, "HOTEL_ID", hotels.last());
+                TestDatabase::Exec("UPDATE CONTACT SET FLIGHT_ID = ? WHERE CONTACT_ID = ?",
+                                   {flights.last(), guest});
+                ++guest;
+            }
+        }
+        QCOMPARE(clsHOTEL::Total(), long(places));
+        QCOMPARE(clsFLIGHT::Total(), long(places));
+        for (int i = 0; i < places; ++i) {
+            QCOMPARE(clsHOTEL::TotalOccupants(hotels[i]), long(guestsPerPlace[i]));
+            QCOMPARE(clsFLIGHT::TotalPassengers(flights[i]), long(guestsPerPlace[i]));
+        }
+        QCOMPARE(clsHOTEL::TotalOccupants("99"), 0L);
+    }
+
+    void nextNumbers_data() {
+        QTest::addColumn<QStringList>("numbers");
+        QTest::addColumn<int>("deleteLast");
+        QTest::addColumn<QString>("next");
+        QTest::newRow("empty") << QStringList{} << 0 << "1";
+        QTest::newRow("in a row") << QStringList{"1", "2"} << 0 << "3";
+        QTest::newRow("highest deleted") << QStringList{"1", "2", "3"} << 1 << "3";
+        QTest::newRow("typed number") << QStringList{"1", "9"} << 0 << "10";
+    }
+    void nextNumbers() {
+        QFETCH(QStringList, numbers);
+        QFETCH(int, deleteLast);
+        QFETCH(QString, next);
+        QStringList hotels, flights;
+        for (const QString& number : numbers) {
+            hotels << AddHotel(QStringLiteral("H"), number).HOTEL_ID;
+            flights << AddFlight(QStringLiteral("F"), number).FLIGHT_ID;
+        }
+        for (int i = 0; i < deleteLast; ++i) {
+            QVERIFY(clsHOTEL().Delete(hotels.takeLast()));
+            QVERIFY(clsFLIGHT().Delete(flights.takeLast()));
+        }
+        QCOMPARE(clsHOTEL::NEXT_NB(), next);
+        QCOMPARE(clsFLIGHT::NEXT_NB(), next);
+    }
+
+    void deletingAFlightSendsPassengersBack() {
+        const clsFLIGHT flight = AddFlight("Southwest Flight #555");
+        const clsFLIGHT other = AddFlight("Delta 12");
+        AddGuest(3, "FLIGHT_ID", flight.FLIGHT_ID);
+        AddGuest(4, "FLIGHT_ID", other.FLIGHT_ID);
+        QVERIFY(clsFLIGHT().Delete(flight.FLIGHT_ID));
+        QVERIFY(db->Messages().Prompts.isEmpty());
+        QCOMPARE(
+            TestDatabase::Scalar("SELECT COUNT(*) FROM CONTACT WHERE FLIGHT_ID IS NULL AND CONTACT_ID = 3"),
+            QStringLiteral("1"));
+        QCOMPARE(clsFLIGHT::TotalPassengers(other.FLIGHT_ID), 1L);
+        QCOMPARE(clsFLIGHT::Total(), 1L);
+    }
+
+    void deletingAHotelLeavesItsGuestsToTheDatabase() {
+        const clsHOTEL housed = AddHotel("Grand");
+        const clsHOTEL empty = AddHotel("Inn");
+        AddGuest(3, "HOTEL_ID", housed.HOTEL_ID);
+        QVERIFY(!clsHOTEL().Delete(housed.HOTEL_ID));
+        QCOMPARE(db->Messages().Prompts,
+                 QStringList({"Unable to delete.  Contacts are associated with this entry."}));
+        QCOMPARE(clsHOTEL::TotalOccupants(housed.HOTEL_ID), 1L);
+        QVERIFY(clsHOTEL().Delete(empty.HOTEL_ID));
+        QCOMPARE(clsHOTEL::Total(), 1L);
+    }
+
+    void hotelsAndFlightsAreListedByNumber() {
+        AddHotel("B", "5");
+        AddHotel("A", "2");
+        AddFlight("B", "9");
+        AddFlight("A", "3");
+        const QList<clsHOTEL> hotels = clsHOTEL::OpenRecords();
+        const QList<clsFLIGHT> flights = clsFLIGHT::OpenRecords();
+        QCOMPARE(hotels.size(), 2);
+        QCOMPARE(hotels.first().HOTEL_NB, QStringLiteral("2"));
+        QCOMPARE(flights.first().FLIGHT_NB, QStringLiteral("3"));
+    }
+
+    void addressOnOneLine_data() {
+        QTest::addColumn<QString>("address");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("two lines") << "1 Pier Rd\r\nSausalito, CA"
+                                   << "1 Pier Rd, Sausalito, CA";
+        QTest::newRow("line ends around") << "\r\n  1 Pier Rd\r\nSausalito \r\n"
+                                          << "1 Pier Rd, Sausalito";
+        QTest::newRow("bare line feeds") << "1 Pier Rd\nSausalito"
+                                         << "1 Pier Rd, Sausalito";
+        QTest::newRow("one line") << "1 Pier Rd"
+                                  << "1 Pier Rd";
+        QTest::newRow("empty") << ""
+                               << "";
+    }
+    void addressOnOneLine() {
+        QFETCH(QString, address);
+        QFETCH(QString, expected);
+        clsHOTEL hotel;
+        hotel.ADDRESS_TX = address;
+        QCOMPARE(hotel.ADDRESS_TX_NO_CRLF(), expected);
+    }
+
+    void flightTimesRoundTrip() {
+        const clsFLIGHT flight = AddFlight("United 88");
+        QCOMPARE(gDB().ExecuteRaw("SELECT DEPARTS_DT FROM FLIGHT").Scalar(),
+                 QStringLiteral("2027-06-04 09:15:00"));
+        clsFLIGHT read;
+        QVERIFY(read.OpenRecord(flight.FLIGHT_ID));
+        QCOMPARE(read.DEPARTS_DT_DateTimeFormat(),
+                 FormatDateTime(QDateTime(QDate(2027, 6, 4), QTime(9, 15)), DateTimeFormat()));
+        QCOMPARE(read.ARRIVES_DT_DateTimeFormat(),
+                 FormatDateTime(QDateTime(QDate(2027, 6, 4), QTime(12, 40)), DateTimeFormat()));
+    }
+
+    void requiredFlightFieldsAreRefused() {
+        clsFLIGHT flight;
+        flight.FLIGHT_NB = QStringLiteral("1");
+        flight.FLIGHT_NM = QStringLiteral("No times");
+        QVERIFY(!flight.Save(true));
+        QCOMPARE(db->Messages().Prompts.size(), 1);
+        QCOMPARE(clsFLIGHT::Total(), 0L);
+    }
+
+    void createTablesOnlyWhenMissing() {
+        AddHotel("Kept");
+        QVERIFY(!clsHOTEL::CreateTable());
+        QVERIFY(!clsFLIGHT::CreateTable());
+        QCOMPARE(clsHOTEL::Total(), 1L);
+        TestDatabase::Exec("DROP TABLE FLIGHT");
+        QVERIFY(clsFLIGHT::CreateTable());
+        QCOMPARE(clsFLIGHT::Total(), 0L);
+        AddFlight("New");
+        QCOMPARE(clsFLIGHT::Total(), 1L);
+    }
+
+    void hotelPatchMakesAddressAndContactOptional() {
+        // The shape of an older file: address and contact required.
+        TestDatabase::Exec("PRAGMA foreign_keys=OFF");
+        TestDatabase::Exec("DROP TABLE HOTEL");
+        TestDatabase::Exec(
+            "CREATE TABLE HOTEL (HOTEL_ID INTEGER NOT NULL PRIMARY KEY, HOTEL_NB INTEGER NOT NULL, "
+            "HOTEL_NM TEXT NOT NULL, ADDRESS_TX TEXT NOT NULL, CONTACT_NM TEXT NOT NULL, "
+            "PHONE_TX TEXT, FAX_TX TEXT, EMAIL_TX TEXT, WEB_SITE_TX TEXT, ROOMS_NB INTEGER NOT NULL, "
+            "POS_X INTEGER NOT NULL, POS_Y INTEGER NOT NULL, NOTES_TX TEXT)");
+        TestDatabase::Exec("PRAGMA foreign_keys=ON");
+        TestDatabase::Exec(
+            "INSERT INTO HOTEL VALUES (1, 1, 'Grand', '5 Main St', 'Desk', NULL, NULL, NULL, NULL, "
+            "40, 100, 200, 'near')");
+        AddGuest(3, "HOTEL_ID", "1");
+
+        clsHOTEL noAddress;
+        noAddress.HOTEL_NB = QStringLiteral("2");
+        noAddress.HOTEL_NM = QStringLiteral("Inn");
+        noAddress.ROOMS_NB = noAddress.POS_X = noAddress.POS_Y = QStringLiteral("0");
+        QVERIFY(!noAddress.Save(true));
+        db->Messages().Prompts.clear();
+
+        QVERIFY(clsHOTEL::Patch_7_Apply());
+        QVERIFY(noAddress.Save(true));
+        clsHOTEL grand;
+        QVERIFY(grand.OpenRecord("1"));
+        QCOMPARE(grand.ADDRESS_TX, QStringLiteral("5 Main St"));
+        QCOMPARE(grand.CONTACT_NM, QStringLiteral("Desk"));
+        QCOMPARE(grand.NOTES_TX, QStringLiteral("near"));
+        QCOMPARE(clsHOTEL::TotalOccupants("1"), 1L);
+        QVERIFY(gDB().ForeignKeyExists("CONTACT", "CONTACT_TO_HOTEL_FK"));
+        QVERIFY(!clsHOTEL::Patch_7_Apply());
+        QVERIFY(db->Messages().Prompts.isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_travel)
+#include "tst_travel.moc"
