@@ -1,0 +1,667 @@
+#include "guests/clsINVITE.h"
+
+#include "core/clsApp.h"
+#include "core/modGeneral.h"
+
+#include <initializer_list>
+
+namespace {
+
+const QString kCrLf = QStringLiteral("\r\n");
+const QString kPrimary = QStringLiteral("CONTACT.PRIMARY_CONTACT_FG = 'Y'");
+
+bool OneOf(const QString& upper, std::initializer_list<const char*> words) {
+    for (const char* word : words) {
+        if (upper == QLatin1String(word))
+            return true;
+    }
+    return false;
+}
+
+bool IsBrought(const clsCONTACT& c) {
+    return !c.GUEST_OF_ID.isEmpty();
+}
+
+// The first person's title that lets the second join them as a couple.
+bool OuterCoupleHead(const QString& upper) {
+    return OneOf(upper, {"DR.", "JUDGE", "MR.", "RABBI", "REV.", "HERR", "M.", "SR.", "DR", "MR", "REV"});
+}
+bool InnerCoupleHead(const QString& upper) {
+    return OneOf(upper, {"DR.", "JUDGE", "MR.", "RABBI", "REV.", "HERR", "M.", "SR."});
+}
+bool OuterLady(const QString& upper) {
+    return OneOf(upper, {"MRS.", "MME.", "MME", "FRAU", "SRA.", "SRA", "MRS"});
+}
+bool InnerLady(const QString& upper) {
+    return OneOf(upper, {"MRS.", "MME.", "MME", "FRAU", "SRA.", "SRA"});
+}
+
+QString LineBreaks(const QString& text, bool MultiLine) {
+    QString out = text;
+    if (!MultiLine)
+        out.replace(kCrLf, QStringLiteral(", "));
+    return TrimBlanks(out);
+}
+
+} // namespace
+
+const RecordTable<clsINVITE>& clsINVITE::Table() {
+    static const RecordTable<clsINVITE> table{"INVITE",
+                                              "INVITE_ID",
+                                              {{"INVITE_ID", &clsINVITE::INVITE_ID},
+                                               {"INVITE_RSVP_ID", &clsINVITE::INVITE_RSVP_ID},
+                                               {"DISPLAY_AS_TX", &clsINVITE::DISPLAY_AS_TX},
+                                               {"OUTER_ENVELOPE_TX", &clsINVITE::OUTER_ENVELOPE_TX},
+                                               {"INNER_ENVELOPE_TX", &clsINVITE::INNER_ENVELOPE_TX},
+                                               {"INVITE_SENT_FG", &clsINVITE::INVITE_SENT_FG},
+                                               {"RSVP_RECEIVED_FG", &clsINVITE::RSVP_RECEIVED_FG},
+                                               {"AUTO_UPDATE_FG", &clsINVITE::AUTO_UPDATE_FG}}};
+    return table;
+}
+
+const RecordTable<clsINVITE>& clsINVITE::ReadTable() {
+    static const RecordTable<clsINVITE> table = [] {
+        RecordTable<clsINVITE> t = Table();
+        t.Fields.insert(t.Fields.end(), {{"OUTER_ENVELOPE_ADDRESS_TX", &clsINVITE::OUTER_ENVELOPE_ADDRESS_TX},
+                                         {"PHONE_TX", &clsINVITE::PHONE_TX},
+                                         {"EMAIL_TX", &clsINVITE::EMAIL_TX},
+                                         {"AB_LIST_CD", &clsINVITE::AB_LIST_CD}});
+        return t;
+    }();
+    return table;
+}
+
+// ---- Values ---------------------------------------------------------------------------------------
+
+int clsINVITE::AUTO_UPDATE_FG_VALUE() const {
+    return AUTO_UPDATE_FG == QLatin1String("Y") || AUTO_UPDATE_FG.isEmpty() ? 1 : 0;
+}
+
+void clsINVITE::SetAUTO_UPDATE_FG_VALUE(int value) {
+    AUTO_UPDATE_FG = value == 1 ? QStringLiteral("Y") : QStringLiteral("N");
+}
+
+QString clsINVITE::INVITE_SENT_FG_Text() const {
+    return INVITE_SENT_FG == QLatin1String("Y") ? QStringLiteral("Yes") : QString();
+}
+
+QString clsINVITE::RSVP_RECEIVED_FG_Text() const {
+    return RSVP_RECEIVED_FG == QLatin1String("Y") ? QStringLiteral("Yes") : QString();
+}
+
+long clsINVITE::NUMBER_INVITED_NB() const {
+    if (INVITE_ID.isEmpty())
+        return 0;
+    return RecordIO::Count(
+        QStringLiteral("SELECT Count(CONTACT.CONTACT_ID) AS NUMBER_INVITED_NB FROM CONTACT "
+                       "WHERE CONTACT.INVITE_ID = ?"),
+        {INVITE_ID});
+}
+
+long clsINVITE::NUMBER_ATTENDING_NB() const {
+    if (INVITE_ID.isEmpty())
+        return 0;
+    return RecordIO::Count(
+        QStringLiteral("SELECT Count(CONTACT.CONTACT_ID) AS NUMBER_ATTENDING_NB FROM CONTACT "
+                       "WHERE CONTACT.ATTENDING_FG = 'Y' AND CONTACT.INVITE_ID = ? "
+                       "GROUP BY CONTACT.INVITE_ID"),
+        {INVITE_ID});
+}
+
+QString clsINVITE::OUTER_ENVELOPE_ADDRESS_Text(bool Hint, bool MultiLine) const {
+    QString text = OUTER_ENVELOPE_ADDRESS_TX;
+    if (text.isEmpty())
+        text = Hint ? QStringLiteral("(Double-click to enter Primary Address)")
+                    : QStringLiteral("(Primary Address Needed)");
+    return LineBreaks(text, MultiLine);
+}
+
+QString clsINVITE::OUTER_ENVELOPE_TX_AND_OUTER_ENVELOPE_ADDRESS_TX(bool MultiLine) const {
+    return LineBreaks(OUTER_ENVELOPE_TX + kCrLf + OUTER_ENVELOPE_ADDRESS_Text(false, true), MultiLine);
+}
+
+// ---- Filters --------------------------------------------------------------------------------------
+
+QString clsINVITE::WHERE_CLAUSE(int filter) {
+    const QString sent = QStringLiteral("INVITE.INVITE_SENT_FG = 'Y' ");
+    QString text;
+    switch (filter) {
+    case 0:
+        return kPrimary;
+    case 1:
+        text = QStringLiteral("INVITE.INVITE_SENT_FG = 'Y'");
+        break;
+    case 2:
+        text = QStringLiteral("INVITE.INVITE_SENT_FG = 'N'");
+        break;
+    case 3:
+        text = QStringLiteral("INVITE.RSVP_RECEIVED_FG = 'Y' AND INVITE.INVITE_SENT_FG = 'Y'");
+        break;
+    case 4:
+        text = QStringLiteral("INVITE.RSVP_RECEIVED_FG = 'N' AND INVITE.INVITE_SENT_FG = 'Y'");
+        break;
+    case 5:
+    case 6:
+    case 7:
+        text = QStringLiteral("CONTACT.FRIEND_OF_CD = ") + QString::number(filter - 4);
+        break;
+    case 8:
+        text = QStringLiteral("CONTACT.ADDRESS_TX Is Null");
+        break;
+    case 9:
+        text = QStringLiteral("CONTACT.OUT_OF_TOWNER_FG = 'N'");
+        break;
+    case 10:
+        text = QStringLiteral("CONTACT.OUT_OF_TOWNER_FG = 'Y'");
+        break;
+    case 11:
+    case 12:
+    case 13:
+        text = sent + QStringLiteral("AND CONTACT.FRIEND_OF_CD = ") + QString::number(filter - 10);
+        break;
+    case 14:
+        text = sent + QStringLiteral("AND CONTACT.OUT_OF_TOWNER_FG = 'N'");
+        break;
+    case 15:
+        text = sent + QStringLiteral("AND CONTACT.OUT_OF_TOWNER_FG = 'Y'");
+        break;
+    case 16:
+        text = QStringLiteral("CONTACT.AB_LIST_CD = 'A'");
+        break;
+    case 17:
+        text = QStringLiteral("CONTACT.AB_LIST_CD = 'B'");
+        break;
+    case 18:
+        text = sent + QStringLiteral("AND CONTACT.AB_LIST_CD = 'A'");
+        break;
+    case 19:
+        text = sent + QStringLiteral("AND CONTACT.AB_LIST_CD = 'B'");
+        break;
+    default:
+        return {};
+    }
+    return kPrimary + QStringLiteral(" AND ") + text;
+}
+
+QString clsINVITE::BuildInviteWhere(int filter, const QString& customWhere) {
+    if (!customWhere.trimmed().isEmpty())
+        return QStringLiteral("WHERE ") + customWhere + QStringLiteral(" AND ") + kPrimary;
+    const QString condition = WHERE_CLAUSE(filter);
+    return QStringLiteral("WHERE ") + (condition.isEmpty() ? kPrimary : condition);
+}
+
+// ---- Records --------------------------------------------------------------------------------------
+
+QString clsINVITE::SelectSQL() {
+    return QStringLiteral("SELECT INVITE.*, CONTACT.PHONE_TX AS PHONE_TX, CONTACT.EMAIL_TX AS EMAIL_TX, "
+                          "CONTACT.ADDRESS_TX AS OUTER_ENVELOPE_ADDRESS_TX, CONTACT.AB_LIST_CD AS AB_LIST_CD "
+                          "FROM INVITE INNER JOIN CONTACT ON INVITE.INVITE_ID = CONTACT.INVITE_ID ");
+}
+
+bool clsINVITE::OpenBy(const QString& condition, const QString& value, bool LoadGuests, bool* Found) {
+    if (Found)
+        *Found = false;
+    if (value.isEmpty())
+        return true;
+    const clsRecordset rs =
+        gDB().Execute(SelectSQL() + QStringLiteral("WHERE ") + kPrimary + QStringLiteral(" AND ") +
+                          condition + QStringLiteral(" ORDER BY INVITE.INVITE_ID LIMIT 1"),
+                      {value});
+    if (rs.IsEmpty())
+        return true;
+    RecordIO::Fill(*this, rs, 0, ReadTable());
+    if (Found)
+        *Found = true;
+    if (LoadGuests)
+        SetGuestsOrThrow();
+    return true;
+}
+
+bool clsINVITE::OpenRecordOrThrow(const QString& inviteId, bool LoadGuests) {
+    bool found = false;
+    OpenBy(QStringLiteral("INVITE.INVITE_ID = ?"), inviteId, LoadGuests, &found);
+    return found;
+}
+
+bool clsINVITE::OpenRecord(const QString& inviteId, bool LoadGuests, bool* Found) {
+    try {
+        return OpenBy(QStringLiteral("INVITE.INVITE_ID = ?"), inviteId, LoadGuests, Found);
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+        return false;
+    }
+}
+
+bool clsINVITE::OpenRecordByRSVP_ID(const QString& rsvpId, bool LoadGuests, bool* Found) {
+    try {
+        return OpenBy(QStringLiteral("INVITE.INVITE_RSVP_ID = ?"), rsvpId, LoadGuests, Found);
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+        return false;
+    }
+}
+
+QList<clsINVITE> clsINVITE::OpenRecordsOrThrow(int filter, bool SortByName, const QString& customWhere) {
+    const QString order =
+        SortByName ? QStringLiteral(" ORDER BY INVITE.DISPLAY_AS_TX COLLATE NOCASE, INVITE.INVITE_ID")
+                   : QStringLiteral(" ORDER BY INVITE.INVITE_RSVP_ID, INVITE.INVITE_ID");
+    const clsRecordset rs = gDB().Execute(SelectSQL() + BuildInviteWhere(filter, customWhere) + order);
+    QList<clsINVITE> records;
+    records.reserve(rs.RowCount());
+    for (int row = 0; row < rs.RowCount(); ++row) {
+        clsINVITE record;
+        RecordIO::Fill(record, rs, row, ReadTable());
+        records.append(std::move(record));
+    }
+    return records;
+}
+
+QList<clsINVITE> clsINVITE::OpenRecords(int filter, bool SortByName, const QString& customWhere) {
+    try {
+        return OpenRecordsOrThrow(filter, SortByName, customWhere);
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+        return {};
+    }
+}
+
+long clsINVITE::GetTotal(int filter, const QString& customWhere) {
+    return RecordIO::Count(QStringLiteral("SELECT COUNT(INVITE.INVITE_ID) FROM INVITE INNER JOIN CONTACT ON "
+                                          "INVITE.INVITE_ID = CONTACT.INVITE_ID ") +
+                           BuildInviteWhere(filter, customWhere));
+}
+
+void clsINVITE::SaveOrThrow(bool Add) {
+    clsTransaction tx(gDB());
+    if (Add) {
+        INVITE_ID = RecordIO::NextID(QStringLiteral("INVITE"), QStringLiteral("INVITE_ID"));
+        if (INVITE_RSVP_ID.isEmpty())
+            INVITE_RSVP_ID = NEXT_INVITE_RSVP_ID();
+        if (INVITE_SENT_FG.isEmpty())
+            INVITE_SENT_FG = QStringLiteral("N");
+        if (RSVP_RECEIVED_FG.isEmpty())
+            RSVP_RECEIVED_FG = QStringLiteral("N");
+        if (AUTO_UPDATE_FG.isEmpty())
+            AUTO_UPDATE_FG = QStringLiteral("Y");
+        RecordIO::SaveOrThrow(*this, Table(), true, false);
+    } else {
+        // An invitation that is not sent has no attendees, no meals and no seats.
+        if (INVITE_SENT_FG == QLatin1String("N") && !INVITE_ID.isEmpty())
+            gDB().Execute(QStringLiteral("UPDATE CONTACT SET ATTENDING_FG = 'N', MEAL_ID = NULL, "
+                                         "DINING_TABLE_ID = NULL WHERE INVITE_ID = ?"),
+                          {INVITE_ID});
+        RecordIO::SaveOrThrow(*this, Table(), false);
+    }
+    tx.Commit();
+}
+
+bool clsINVITE::Save(bool Add) {
+    const clsINVITE before = *this;
+    try {
+        SaveOrThrow(Add);
+        return true;
+    } catch (const clsDbError& e) {
+        *this = before;
+        RecordIO::Report(e);
+        return false;
+    }
+}
+
+bool clsINVITE::Delete(const QString& inviteId) {
+    try {
+        clsTransaction tx(gDB());
+        gDB().Execute(
+            QStringLiteral("UPDATE CONTACT SET INVITE_ID = NULL, PRIMARY_CONTACT_FG = 'N', "
+                           "ATTENDING_FG = 'N', MEAL_ID = NULL, DINING_TABLE_ID = NULL WHERE INVITE_ID = ?"),
+            {inviteId});
+        gDB().Execute(QStringLiteral("DELETE FROM INVITE WHERE INVITE_ID = ?"), {inviteId});
+        // Brought guests exist only through an invitation.
+        gDB().Execute(
+            QStringLiteral("DELETE FROM CONTACT WHERE GUEST_OF_ID Is Not Null AND INVITE_ID Is Null"));
+        tx.Commit();
+        return true;
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+        return false;
+    }
+}
+
+void clsINVITE::DeleteInvitesWithNoGuestsOrThrow() {
+    // The iif keeps NULL out of the list: NOT IN over a list holding NULL is never true.
+    gDB().Execute(
+        QStringLiteral("DELETE FROM INVITE WHERE INVITE_ID NOT IN (SELECT iif(CONTACT.INVITE_ID IS NULL, "
+                       "0, CONTACT.INVITE_ID) AS INVITE_ID FROM CONTACT GROUP BY CONTACT.INVITE_ID)"));
+}
+
+bool clsINVITE::DeleteInvitesWithNoGuests() {
+    try {
+        DeleteInvitesWithNoGuestsOrThrow();
+        return true;
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+        return false;
+    }
+}
+
+// ---- People -----------------------------------------------------------------------------------------
+
+void clsINVITE::SetGuestsOrThrow() {
+    GUESTS.clear();
+    GUEST_CONTACT_ID.clear();
+    GUEST_OF_CONTACT_ID.clear();
+    GUESTS =
+        clsCONTACT::OpenRecordsOrThrow(0, QStringLiteral("CONTACT.INVITE_ID = ") + QuoteSQL(INVITE_ID),
+                                       QStringLiteral("CONTACT.SORT_ORDER_NB, CONTACT.CONTACT_ID"), true);
+    for (const clsCONTACT& c : GUESTS) {
+        if (IsBrought(c)) {
+            GUEST_CONTACT_ID = c.CONTACT_ID;
+            GUEST_OF_CONTACT_ID = c.GUEST_OF_ID;
+            break;
+        }
+    }
+}
+
+bool clsINVITE::SetGuests() {
+    try {
+        SetGuestsOrThrow();
+        return true;
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+        return false;
+    }
+}
+
+void clsINVITE::mxSetOUTER_ENVELOPE_ADDRESS_TX() {
+    if (!GUESTS.isEmpty())
+        OUTER_ENVELOPE_ADDRESS_TX = GUESTS.first().ADDRESS_TX;
+}
+
+void clsINVITE::RefreshPrimaryContactOrThrow(const QString& inviteId) {
+    if (inviteId.isEmpty())
+        return;
+    clsINVITE invite;
+    invite.INVITE_ID = inviteId;
+    invite.SetGuestsOrThrow();
+    if (invite.GUESTS.isEmpty())
+        return;
+    clsCONTACT& first = invite.GUESTS.first();
+    first.PRIMARY_CONTACT_FG = QStringLiteral("Y");
+    first.SaveOrThrow(false, false);
+}
+
+bool clsINVITE::RefreshPrimaryContact(const QString& inviteId) {
+    try {
+        clsTransaction tx(gDB());
+        RefreshPrimaryContactOrThrow(inviteId);
+        tx.Commit();
+        return true;
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+        return false;
+    }
+}
+
+// ---- Labels -----------------------------------------------------------------------------------------
+
+bool clsINVITE::EtiquetteIsFormal() {
+    const QString text =
+        gDB().Execute(QStringLiteral("SELECT VOWREN_TX FROM VOWREN WHERE VOWREN_ID = 7")).Scalar();
+    return clsApp::ToBool(text, false);
+}
+
+QString clsINVITE::Joiner(const QString& firstTitle) {
+    const QString upper = firstTitle.toUpper();
+    if (upper == QLatin1String("HERR"))
+        return QStringLiteral(" und ");
+    if (upper == QLatin1String("M."))
+        return QStringLiteral(" et ");
+    if (upper == QLatin1String("SR."))
+        return QStringLiteral(" y ");
+    return QStringLiteral(" and ");
+}
+
+QString clsINVITE::GuestTail() const {
+    if (GUESTS.size() != 2 || !IsBrought(GUESTS.at(1)))
+        return {};
+    const clsCONTACT& guest = GUESTS.at(1);
+    return QStringLiteral(" and ") +
+           (guest.MIDDLE_NM == QLatin1String("Guest") ? QStringLiteral("Guest") : guest.FIRST_NM);
+}
+
+// In all three texts a brought guest never counts as a main person, and a first person without a
+// last name gives way to the next main person.
+QString clsINVITE::BuildDisplayAs() const {
+    const qsizetype count = GUESTS.size();
+    QString text;
+    QString firstLast;
+    qsizetype seen = 0;
+    for (const clsCONTACT& c : GUESTS) {
+        if (IsBrought(c))
+            continue;
+        ++seen;
+        if (firstLast.isEmpty()) {
+            text = c.LAST_NM + QStringLiteral(", ") + c.FirstMiddle();
+            firstLast = c.LAST_NM;
+        } else if (c.LAST_NM == firstLast) {
+            const bool last = count == 2 || (count > 2 && seen == count);
+            text += (last ? QStringLiteral(" and ") : QStringLiteral(", ")) + c.FirstMiddle();
+        } else {
+            text += QStringLiteral(" & ") + c.FirstMiddle() + QLatin1Char(' ') + c.LAST_NM;
+        }
+    }
+    return text + GuestTail();
+}
+
+QString clsINVITE::BuildOuterEnvelope() const {
+    QString text;
+    QString joiner;
+    clsCONTACT first;
+    bool done = false;
+    for (const clsCONTACT& p : GUESTS) {
+        if (IsBrought(p))
+            continue;
+        if (first.LAST_NM.isEmpty()) {
+            text = p.TitleFirstMiddleLastSuffix_OuterEnvelope();
+            first = p;
+            joiner = Joiner(p.TITLE_TX);
+            done = false;
+            continue;
+        }
+        const QString t1 = first.TITLE_TX.toUpper();
+        const QString t2 = p.TITLE_TX.toUpper();
+        if (p.LAST_NM != first.LAST_NM) {
+            text += joiner + p.TitleFirstMiddleLastSuffix();
+            continue;
+        }
+        if (done)
+            continue; // a joined couple is complete; their children stay off the outer envelope
+        if (!OuterCoupleHead(t1)) {
+            text += joiner + p.TitleFirstMiddleLastSuffix();
+            continue;
+        }
+        done = true;
+        // The second person of a couple, named as formal usage has it: with the first one's name.
+        clsCONTACT q;
+        q.TITLE_TX = p.TITLE_TX;
+        q.FIRST_NM = first.FIRST_NM;
+        q.MIDDLE_NM = first.MIDDLE_NM;
+        q.LAST_NM = first.LAST_NM;
+        q.SUFFIX_TX = first.SUFFIX_TX;
+        if (t2 == QLatin1String("JUDGE")) {
+            if (t1 == QLatin1String("JUDGE"))
+                text = QStringLiteral("The Honorable ") + first.FIRST_NM + QLatin1Char(' ') + first.LAST_NM +
+                       QStringLiteral(" and The Honorable ") + p.FirstLast();
+            else
+                text = QStringLiteral("The Honorable ") + p.FIRST_NM + QLatin1Char(' ') + p.LAST_NM + joiner +
+                       first.TITLE_TX + QLatin1Char(' ') + first.FIRST_NM + QLatin1Char(' ') + first.LAST_NM;
+        } else if (OuterLady(t2)) {
+            if (t1 == QLatin1String("JUDGE"))
+                text = QStringLiteral("The Honorable and ") + q.TitleFirstMiddleLastSuffix();
+            else
+                text = first.TITLE_TX + joiner + q.TitleFirstMiddleLastSuffix();
+        } else if (OneOf(t2, {"DR.", "DR"})) {
+            if (OneOf(t1, {"DR.", "DR"}))
+                text = QStringLiteral("Drs. ") + q.FirstMiddle() + joiner + p.FirstMiddle() +
+                       QLatin1Char(' ') + first.LAST_NM;
+            else
+                text = p.TitleFirstMiddleLastSuffix() + joiner + text; // the doctor goes first
+        } else {
+            text += joiner + p.TitleFirstMiddleLastSuffix();
+        }
+    }
+    return text;
+}
+
+QString clsINVITE::BuildInnerEnvelope(bool formal) const {
+    const qsizetype count = GUESTS.size();
+    QString text;
+    QString joiner;
+    clsCONTACT first;
+    bool done = false;
+    qsizetype seen = 0;
+    for (const clsCONTACT& p : GUESTS) {
+        if (IsBrought(p))
+            continue;
+        ++seen;
+        if (first.LAST_NM.isEmpty()) {
+            text = formal ? p.TitleLastOrFirst() : p.NickOrFirstMiddle();
+            first = p;
+            joiner = Joiner(p.TITLE_TX);
+            done = false;
+            continue;
+        }
+        if (!formal) {
+            const bool last = count == 2 || (count > 2 && seen == count);
+            text += (last ? joiner : QStringLiteral(", ")) + p.NickOrFirstMiddle();
+            continue;
+        }
+        const QString t1 = first.TITLE_TX.toUpper();
+        const QString t2 = p.TITLE_TX.toUpper();
+        const QString& l1 = first.LAST_NM;
+        if (p.LAST_NM != l1) {
+            text += joiner + p.TitleLastOrFirst();
+        } else if (done) {
+            text += joiner + p.FIRST_NM; // children by first name, after their parents
+        } else if (!InnerCoupleHead(t1)) {
+            text += joiner + p.TitleLastOrFirst();
+        } else {
+            done = true;
+            if (t2 == QLatin1String("JUDGE"))
+                text = QStringLiteral("Judge ") + l1 + joiner + first.TITLE_TX + QLatin1Char(' ') + l1;
+            else if (InnerLady(t2))
+                text = first.TITLE_TX + joiner + p.TitleLastOrFirst();
+            else if (t2 == QLatin1String("DR.") && t1 == QLatin1String("DR."))
+                text = QStringLiteral("The Doctors ") + l1;
+            else if (t2 == QLatin1String("DR."))
+                text = QStringLiteral("Doctor ") + l1 + joiner + first.TITLE_TX + QLatin1Char(' ') + l1;
+            else
+                text += joiner + p.TitleLastOrFirst();
+        }
+    }
+    return text + GuestTail();
+}
+
+void clsINVITE::RefreshLabelingOrThrow(bool ReloadGuests, bool Force) {
+    if (ReloadGuests)
+        SetGuestsOrThrow();
+    DISPLAY_AS_TX = BuildDisplayAs();
+    mxSetOUTER_ENVELOPE_ADDRESS_TX();
+    if (AUTO_UPDATE_FG_VALUE() == 1 || Force) {
+        OUTER_ENVELOPE_TX = BuildOuterEnvelope();
+        INNER_ENVELOPE_TX = BuildInnerEnvelope(EtiquetteIsFormal());
+    }
+}
+
+bool clsINVITE::RefreshLabeling(bool ReloadGuests, bool Force) {
+    try {
+        RefreshLabelingOrThrow(ReloadGuests, Force);
+        return true;
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+        return false;
+    }
+}
+
+bool clsINVITE::RefreshInnerEnvelope() {
+    try {
+        SetGuestsOrThrow();
+        if (AUTO_UPDATE_FG == QLatin1String("Y"))
+            INNER_ENVELOPE_TX = BuildInnerEnvelope(EtiquetteIsFormal());
+        return true;
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+        return false;
+    }
+}
+
+// ---- RSVP IDs ---------------------------------------------------------------------------------------
+
+QString clsINVITE::NEXT_INVITE_RSVP_ID() {
+    const QString next =
+        gDB().Execute(QStringLiteral("SELECT Max(INVITE_RSVP_ID) + 1 AS MAXID FROM INVITE")).Scalar();
+    return next.isEmpty() ? QStringLiteral("1") : next;
+}
+
+bool clsINVITE::ClearIDs() {
+    // The numbers of sent invitations are printed on cards and must stay.
+    return RecordIO::Run(
+        QStringLiteral("UPDATE INVITE SET INVITE_RSVP_ID = NULL WHERE INVITE_SENT_FG = 'N'"));
+}
+
+namespace {
+bool RsvpIdSentOrThrow(const QString& rsvpId) {
+    return gDB()
+               .Execute(
+                   QStringLiteral("SELECT Count(INVITE_ID) AS CNT FROM INVITE WHERE INVITE_RSVP_ID = ? AND "
+                                  "INVITE_SENT_FG = 'Y'"),
+                   {rsvpId})
+               .Scalar()
+               .toLong() == 1;
+}
+} // namespace
+
+bool clsINVITE::INVITE_RSVP_ID_Sent(const QString& rsvpId) {
+    try {
+        return RsvpIdSentOrThrow(rsvpId);
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+        return false;
+    }
+}
+
+bool clsINVITE::SortRSVPIDs() {
+    try {
+        clsTransaction tx(gDB());
+        gDB().Execute(QStringLiteral("UPDATE INVITE SET INVITE_RSVP_ID = NULL WHERE INVITE_SENT_FG = 'N'"));
+        QList<clsINVITE> invites = OpenRecordsOrThrow(0, true);
+        int counter = 0;
+        for (clsINVITE& invite : invites) {
+            if (invite.INVITE_SENT_FG != QLatin1String("N"))
+                continue;
+            do {
+                ++counter;
+            } while (counter <= 10000 && RsvpIdSentOrThrow(QString::number(counter)));
+            if (counter > 10000)
+                continue;
+            invite.INVITE_RSVP_ID = QString::number(counter);
+            invite.SaveOrThrow(false);
+        }
+        tx.Commit();
+        return true;
+    } catch (const clsDbError& e) {
+        RecordIO::Report(e);
+        return false;
+    }
+}
+
+// ---- Schema -----------------------------------------------------------------------------------------
+
+bool clsINVITE::Patch_2_Apply() {
+    if (gDB().FieldExists(QStringLiteral("INVITE"), QStringLiteral("AUTO_UPDATE_FG")))
+        return true;
+    clsTransaction tx(gDB());
+    gDB().Execute(QStringLiteral("ALTER TABLE INVITE ADD COLUMN AUTO_UPDATE_FG TEXT"));
+    gDB().Execute(QStringLiteral("UPDATE INVITE SET AUTO_UPDATE_FG = 'Y'"));
+    tx.Commit();
+    return true;
+}

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "core/RecordIO.h"
+#include "guests/clsCONTACT.h"
+
+#include <QList>
+#include <QString>
+
+// One envelope: a row of INVITE, to which its people point by CONTACT.INVITE_ID in SORT_ORDER_NB
+// order. The first of them is the primary contact, whose address is the envelope's. The class
+// writes the envelope by itself, the way etiquette addresses a person, a couple or a family: the
+// name in lists (DISPLAY_AS_TX), the outer envelope and the inner envelope. With AUTO_UPDATE_FG 'N'
+// the two envelope texts are the user's own and stay as typed.
+class clsINVITE {
+public:
+    // ---- Columns of INVITE ----
+    QString INVITE_ID;
+    QString INVITE_RSVP_ID; // the number written on the response card
+    QString DISPLAY_AS_TX;
+    QString OUTER_ENVELOPE_TX;
+    QString INNER_ENVELOPE_TX;
+    QString INVITE_SENT_FG;
+    QString RSVP_RECEIVED_FG;
+    QString AUTO_UPDATE_FG;
+
+    // ---- Of the primary contact ----
+    QString OUTER_ENVELOPE_ADDRESS_TX; // the envelope's address, held only in memory
+    QString PHONE_TX;
+    QString EMAIL_TX;
+    QString AB_LIST_CD;
+
+    // ---- The people, after SetGuests ----
+    QList<clsCONTACT> GUESTS;    // in SORT_ORDER_NB order, bride and groom left out
+    QString GUEST_CONTACT_ID;    // the first person brought as a guest
+    QString GUEST_OF_CONTACT_ID; // and who brings them
+
+    static const RecordTable<clsINVITE>& Table();
+
+    // ---- Values ----
+    // An unset flag means on.
+    int AUTO_UPDATE_FG_VALUE() const;
+    void SetAUTO_UPDATE_FG_VALUE(int value);
+    QString INVITE_SENT_FG_Text() const;
+    QString RSVP_RECEIVED_FG_Text() const;
+    long NUMBER_ATTENDING_NB() const;
+    long NUMBER_INVITED_NB() const;
+    QString OUTER_ENVELOPE_ADDRESS_Text(bool Hint, bool MultiLine) const;
+    QString OUTER_ENVELOPE_TX_AND_OUTER_ENVELOPE_ADDRESS_TX(bool MultiLine) const;
+
+    // ---- Records ----
+    // True when it ran; Found tells whether the invitation (with a primary contact) was there. An
+    // empty id reads nothing.
+    bool OpenRecord(const QString& inviteId, bool LoadGuests = false, bool* Found = nullptr);
+    bool OpenRecordOrThrow(const QString& inviteId, bool LoadGuests);
+    bool OpenRecordByRSVP_ID(const QString& rsvpId, bool LoadGuests = false, bool* Found = nullptr);
+    static QList<clsINVITE> OpenRecords(int filter, bool SortByName, const QString& customWhere = {});
+    static QList<clsINVITE> OpenRecordsOrThrow(int filter, bool SortByName, const QString& customWhere = {});
+    static long GetTotal(int filter, const QString& customWhere = {});
+
+    // Inserts (with a new key, and a new RSVP ID when none is given) or updates. Saving an unsent
+    // invitation first clears the attendance, meals and seats of its people.
+    bool Save(bool Add);
+    void SaveOrThrow(bool Add);
+    // Sets its people free, removes the invitation and the guests they brought; the invited people
+    // stay as uninvited contacts.
+    static bool Delete(const QString& inviteId);
+    // Removes every invitation no contact points to.
+    static bool DeleteInvitesWithNoGuests();
+    static void DeleteInvitesWithNoGuestsOrThrow();
+
+    // ---- People and labels ----
+    bool SetGuests();
+    void SetGuestsOrThrow();
+    void mxSetOUTER_ENVELOPE_ADDRESS_TX();
+    // Rewrites DISPLAY_AS_TX always, the envelope texts when automatic update is on or Force is set.
+    // Nothing is saved here.
+    bool RefreshLabeling(bool ReloadGuests, bool Force);
+    void RefreshLabelingOrThrow(bool ReloadGuests, bool Force);
+    // Rewrites the inner envelope alone, when automatic update is 'Y' (after the etiquette changed).
+    bool RefreshInnerEnvelope();
+    // The first person of the invitation becomes its primary contact.
+    static bool RefreshPrimaryContact(const QString& inviteId);
+    static void RefreshPrimaryContactOrThrow(const QString& inviteId);
+
+    // The builders, on GUESTS as they stand.
+    QString BuildDisplayAs() const;
+    QString BuildOuterEnvelope() const;
+    QString BuildInnerEnvelope(bool formal) const;
+    // " and Guest", or " and " + the guest's first name, when the invitation is one person and the
+    // guest they bring; "" otherwise.
+    QString GuestTail() const;
+    // " und " after "Herr", " et " after "M.", " y " after "Sr.", " and " otherwise.
+    static QString Joiner(const QString& firstTitle);
+    // The etiquette of invitations kept with the data (formal or personal).
+    static bool EtiquetteIsFormal();
+
+    // ---- RSVP IDs ----
+    static QString NEXT_INVITE_RSVP_ID();
+    static bool ClearIDs();
+    // True when exactly one sent invitation holds the number.
+    static bool INVITE_RSVP_ID_Sent(const QString& rsvpId);
+    // Numbers every unsent invitation from 1 by name, skipping the numbers sent invitations hold;
+    // all or nothing.
+    static bool SortRSVPIDs();
+
+    // ---- Filters ----
+    static QString WHERE_CLAUSE(int filter);
+    static QString BuildInviteWhere(int filter, const QString& customWhere);
+
+    // ---- Schema ----
+    static bool Patch_2_Apply();
+
+private:
+    static const RecordTable<clsINVITE>& ReadTable();
+    static QString SelectSQL();
+    bool OpenBy(const QString& condition, const QString& value, bool LoadGuests, bool* Found);
+};
