@@ -1,6 +1,7 @@
 // vowren: the desktop program.
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
+#include "core/modSubMain.h"
 #include "platform/VowrenPaths.h"
 #include "platform/clsShell.h"
 
@@ -63,14 +64,15 @@ int main(int argc, char** argv) {
                                                                                    : QUrl::fromLocalFile(target));
     });
 
-    gApp().WriteStartValues();
-    gApp().MakeReportPath();
-    gApp().MakePlaylistPath();
-
-    ShowMessage(QStringLiteral("Vowren %1\n\nYour wedding data lives in %2.\n\n"
+    QString failure;
+    if (!modSubMain::Start(&failure)) {
+        ShowMessage(failure, Msg::OKOnly | Msg::Exclamation);
+        return 1;
+    }
+    ShowMessage(QStringLiteral("Vowren %1\n\nYour wedding database is ready: %2\n\n"
                                "The planner's pages are not part of this build yet; "
                                "use vowren-cli for the jobs that are.")
-                    .arg(clsApp::MajorMinorRevision(), VowrenPaths::DataRoot()),
+                    .arg(clsApp::MajorMinorRevision(), gApp().DatabasePath()),
                 Msg::Information);
     return 0;
 }

@@ -15,6 +15,12 @@ struct CliCommand {
     std::function<int(const QStringList& args, QTextStream& out, QTextStream& err)> Run;
 };
 
+// The commands, each defined beside the code it drives.
+CliCommand InitCommand();
+CliCommand SqlCommand();
+CliCommand ParseNameCommand();
+CliCommand ParseAddressCommand();
+
 // Every command the program knows, in the order --help lists them.
 const std::vector<CliCommand>& CliCommands();
 

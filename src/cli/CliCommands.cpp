@@ -26,6 +26,10 @@ const std::vector<CliCommand>& CliCommands() {
     static const std::vector<CliCommand> commands = {
         {QStringLiteral("info"), QStringLiteral("info"),
          QStringLiteral("Print the version, the data root, the settings file and the resolved paths."), RunInfo},
+        InitCommand(),
+        SqlCommand(),
+        ParseNameCommand(),
+        ParseAddressCommand(),
     };
     return commands;
 }

@@ -36,5 +36,26 @@ mkdir -p "$home/Database"
 printf '/srv/shared/Wedding.quilldata\r\n' >"$home/Database/Vowren.connect"
 check "info follows the connect file" 0 "Database: +/srv/shared/Wedding.quilldata$" "$cli" info
 
+rm -f "$home/Database/Vowren.connect"
+check "init creates the database" 0 "Database ready: $home/Database/Vowren.quilldata" "$cli" init
+check "init a second time" 0 "Database ready" "$cli" init
+check "sql prints CSV" 0 '^"CONTACT_ID","ROLE_ID"' "$cli" sql "SELECT CONTACT_ID, ROLE_ID FROM CONTACT ORDER BY 1"
+check "sql doubles inner quotes" 0 '^"say ""hi"", O.K."' "$cli" sql "SELECT 'say \"hi\", O.K.' AS x"
+check "sql refuses a delete" 1 'only a statement that reads' "$cli" sql "DELETE FROM CONTACT"
+check "the delete did not run" 0 '^"2"' "$cli" sql "SELECT COUNT(*) FROM CONTACT"
+check "sql refuses two statements" 1 'one statement' "$cli" sql "SELECT 1; DROP TABLE CONTACT"
+check "sql without statement" 2 'takes one statement' "$cli" sql
+check "sql with a typo" 1 'syntax error' "$cli" sql "SELEC 1"
+check "parse-name" 0 '"first":"Ann".*"title":"Dr\."' "$cli" parse-name "Dr. Ann Lee"
+check "parse-name without titles" 0 '"first":"Dr\."' "$cli" parse-name --no-title "Dr. Ann Lee"
+check "parse-name keeps accents" 0 '"last":"Łukasik"' "$cli" parse-name "Zoë Łukasik"
+check "parse-address CR LF" 0 '"city":"Springfield".*"zip":"62704"' "$cli" parse-address $'12 Maple Ave\r\nSpringfield, IL 62704'
+check "parse-address LF" 0 '"state":"IL"' "$cli" parse-address $'12 Maple Ave\nSpringfield, IL 62704'
+check "parse-name needs a name" 2 'takes one name' "$cli" parse-name
+
+printf 'not a database at all' >"$home/Database/Vowren.quilldata"
+check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
+check "the damaged file is untouched" 0 'not a database at all' cat "$home/Database/Vowren.quilldata"
+
 echo "$passed passed, $failed failed"
 [ "$failed" -eq 0 ]
