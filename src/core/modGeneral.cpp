@@ -294,6 +294,7 @@ QString MapEndpoint(int countryIndex) {
 QString MapAddressURL(const QString& address, int countryIndex) {
     QString query = address;
     query.replace(QLatin1Char(' '), QLatin1Char('+'));
+    query.replace(QLatin1String("\r\n"), QLatin1String("+"));
     query.replace(QLatin1Char('\r'), QLatin1Char('+'));
     query.replace(QLatin1Char('\n'), QLatin1Char('+'));
     return MapEndpoint(countryIndex) + query;

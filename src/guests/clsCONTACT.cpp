@@ -662,17 +662,7 @@ bool clsCONTACT::Patch_1_Apply() {
     clsTransaction tx(gDB());
     QList<clsCONTACT> all = Query(SelectSQL() + QStringLiteral("ORDER BY CONTACT.CONTACT_ID"));
     for (clsCONTACT& c : all) {
-        clsParseAddress address;
-        address.ADDRESS_TX = c.ADDRESS_TX;
-        address.CITY_TX = c.CITY_TX;
-        address.STATE_TX = c.STATE_TX;
-        address.ZIP_TX = c.ZIP_TX;
-        address.COUNTRY_TX = c.COUNTRY_TX;
-        c.ADDRESS_TX = address.DisplayAddress(true);
-        c.CITY_TX.clear();
-        c.STATE_TX.clear();
-        c.ZIP_TX.clear();
-        c.COUNTRY_TX.clear();
+        JoinAddressParts(c);
         c.SaveOrThrow(false, false);
     }
     tx.Commit();

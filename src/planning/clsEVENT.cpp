@@ -120,17 +120,7 @@ void clsEVENT::Patch_1_Apply() {
     const QList<clsEVENT> events = clsEVENT().OpenRecords();
     clsTransaction tx(gDB());
     for (clsEVENT event : events) {
-        clsParseAddress address;
-        address.ADDRESS_TX = event.ADDRESS_TX;
-        address.CITY_TX = event.CITY_TX;
-        address.STATE_TX = event.STATE_TX;
-        address.ZIP_TX = event.ZIP_TX;
-        address.COUNTRY_TX = event.COUNTRY_TX;
-        event.ADDRESS_TX = address.DisplayAddress(true);
-        event.CITY_TX.clear();
-        event.STATE_TX.clear();
-        event.ZIP_TX.clear();
-        event.COUNTRY_TX.clear();
+        JoinAddressParts(event);
         RecordIO::SaveOrThrow(event, Table(), false);
     }
     tx.Commit();

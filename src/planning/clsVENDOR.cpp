@@ -119,17 +119,7 @@ void clsVENDOR::Patch_1_Apply() {
         RecordIO::OpenRecords(Table(), QStringLiteral("SELECT * FROM VENDOR ORDER BY VENDOR_ID"));
     clsTransaction tx(gDB());
     for (clsVENDOR vendor : vendors) {
-        clsParseAddress address;
-        address.ADDRESS_TX = vendor.ADDRESS_TX;
-        address.CITY_TX = vendor.CITY_TX;
-        address.STATE_TX = vendor.STATE_TX;
-        address.ZIP_TX = vendor.ZIP_TX;
-        address.COUNTRY_TX = vendor.COUNTRY_TX;
-        vendor.ADDRESS_TX = address.DisplayAddress(true);
-        vendor.CITY_TX.clear();
-        vendor.STATE_TX.clear();
-        vendor.ZIP_TX.clear();
-        vendor.COUNTRY_TX.clear();
+        JoinAddressParts(vendor);
         RecordIO::SaveOrThrow(vendor, Table(), false);
     }
     tx.Commit();

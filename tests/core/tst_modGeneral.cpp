@@ -219,7 +219,7 @@ private slots:
         QTest::addColumn<int>("country");
         QTest::addColumn<QString>("address");
         QTest::addColumn<QString>("url");
-        QTest::newRow("US") << 0 << "1 Main St\r\nBoston, MA" << "https://www.google.com/maps?q=1+Main+St++Boston,+MA";
+        QTest::newRow("US") << 0 << "1 Main St\r\nBoston, MA" << "https://www.google.com/maps?q=1+Main+St+Boston,+MA";
         QTest::newRow("Canada") << 1 << "Ottawa" << "https://www.google.ca/maps?q=Ottawa";
         QTest::newRow("UK") << 2 << "10 Downing St" << "https://www.google.co.uk/maps?q=10+Downing+St";
         QTest::newRow("Australia") << 7 << "Sydney" << "https://www.google.com.au/maps?q=Sydney";

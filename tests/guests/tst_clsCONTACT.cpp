@@ -578,7 +578,7 @@ private slots:
         clsCONTACT c;
         c.ADDRESS_TX = "1 Elm St\r\nOttawa";
         QCOMPARE(c.MapURL(), MapAddressURL("1 Elm St\r\nOttawa", 1));
-        QVERIFY(c.MapURL().endsWith("1+Elm+St++Ottawa"));
+        QVERIFY(c.MapURL().endsWith("1+Elm+St+Ottawa"));
         QVERIFY(c.MapIt());
     }
 
