@@ -20,6 +20,7 @@ CliCommand InitCommand();
 CliCommand SqlCommand();
 CliCommand ParseNameCommand();
 CliCommand ParseAddressCommand();
+CliCommand DemoCommand();
 
 // Every command the program knows, in the order --help lists them.
 const std::vector<CliCommand>& CliCommands();

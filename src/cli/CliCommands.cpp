@@ -30,6 +30,7 @@ const std::vector<CliCommand>& CliCommands() {
         SqlCommand(),
         ParseNameCommand(),
         ParseAddressCommand(),
+        DemoCommand(),
     };
     return commands;
 }

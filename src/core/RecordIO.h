@@ -40,13 +40,28 @@ bool Delete(const QString& table, const QString& keyColumn, const QString& keyVa
 // The message of a failure, shown the one way messages are shown.
 void Report(const clsDbError& error);
 
+// Where each field of the table stands in the recordset (-1 when the statement did not give it).
+template <class T>
+std::vector<int> FieldColumns(const clsRecordset& rs, const RecordTable<T>& table) {
+    std::vector<int> columns;
+    columns.reserve(table.Fields.size());
+    for (const auto& field : table.Fields)
+        columns.push_back(rs.ColumnIndex(QString::fromLatin1(field.Column)));
+    return columns;
+}
+
+template <class T>
+void Fill(T& record, const clsRecordset& rs, int row, const RecordTable<T>& table, const std::vector<int>& columns) {
+    const QStringList& values = rs.Row(row);
+    for (size_t i = 0; i < columns.size(); ++i) {
+        if (columns[i] >= 0)
+            record.*(table.Fields[i].Member) = values.value(columns[i]);
+    }
+}
+
 template <class T>
 void Fill(T& record, const clsRecordset& rs, int row, const RecordTable<T>& table) {
-    for (const auto& field : table.Fields) {
-        const int column = rs.ColumnIndex(QString::fromLatin1(field.Column));
-        if (column >= 0)
-            record.*(field.Member) = rs.Value(row, column);
-    }
+    Fill(record, rs, row, table, FieldColumns(rs, table));
 }
 
 // Fills the record from the first row of a query; no row leaves it as it was. False on failure or no row.
@@ -81,9 +96,10 @@ QList<T> OpenRecords(const RecordTable<T>& table, const QString& sql, const QVar
     try {
         const clsRecordset rs = gDB().Execute(sql, values);
         records.reserve(rs.RowCount());
+        const std::vector<int> columns = FieldColumns(rs, table);
         for (int row = 0; row < rs.RowCount(); ++row) {
             T record;
-            Fill(record, rs, row, table);
+            Fill(record, rs, row, table, columns);
             records.append(std::move(record));
         }
     } catch (const clsDbError& e) {

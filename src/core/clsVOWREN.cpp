@@ -114,3 +114,15 @@ clsVOWREN& gVowren() {
     static clsVOWREN vowren;
     return vowren;
 }
+
+QString clsVOWREN::ReadStored(int id) {
+    return gDB().Execute(QStringLiteral("SELECT VOWREN_TX FROM VOWREN WHERE VOWREN_ID = ?"), {id}).Scalar();
+}
+
+int clsVOWREN::MapCountryIndex() {
+    try {
+        return clsApp::ToInt16(ReadStored(9), 0);
+    } catch (const clsDbError&) {
+        return 0;
+    }
+}

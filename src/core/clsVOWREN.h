@@ -23,6 +23,11 @@ public:
     QString Get_VOWREN_TX(const QString& id) const;
     bool Contains(const QString& id) const { return mItems.contains(ItemKey(id)); }
 
+    // A row read straight from the table, whether or not gVowren() has been filled. Throws clsDbError.
+    static QString ReadStored(int id);
+    // The map country kept with the data (row 9); 0, the United States, when it can't be read.
+    static int MapCountryIndex();
+
     // ---- Schema ----
     static bool CreateTable();
     // Rows 4 to 6 (the report colours) when the next free id is 4.

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
+#include <QRegularExpression>
 #include <QTemporaryFile>
 
 namespace {
@@ -152,9 +153,24 @@ QStringList IndexDDL(const QString& table) {
     if (table == QLatin1String("BUDGET_CATEGORY_DICT"))
         return {QStringLiteral("CREATE UNIQUE INDEX BUDGET_CATEGORY_TX_INDEX ON BUDGET_CATEGORY_DICT "
                                "(BUDGET_CATEGORY_TX COLLATE NOCASE)")};
+    if (table == QLatin1String("CONTACT"))
+        return {QStringLiteral("CREATE INDEX CONTACT_INVITE_ID_INDEX ON CONTACT (INVITE_ID)"),
+                QStringLiteral("CREATE INDEX CONTACT_GUEST_OF_ID_INDEX ON CONTACT (GUEST_OF_ID)")};
     if (table == QLatin1String("TITLE_DICT"))
         return {QStringLiteral("CREATE UNIQUE INDEX TITLE_TX_INDEX ON TITLE_DICT (TITLE_TX COLLATE NOCASE)")};
     return {};
+}
+
+void CreateMissingIndexes(clsDB& db) {
+    for (const QString& table : TableNames()) {
+        if (!db.TableExists(table))
+            continue;
+        for (QString index : IndexDDL(table)) {
+            index.replace(QRegularExpression(QStringLiteral("^CREATE (UNIQUE )?INDEX ")),
+                          QStringLiteral("CREATE \\1INDEX IF NOT EXISTS "));
+            db.ExecuteScript(index);
+        }
+    }
 }
 
 bool CreateTableIfMissing(clsDB& db, const QString& table) {

@@ -15,6 +15,8 @@ QStringList TableNames();
 QString TableDDL(const QString& table);
 // The CREATE INDEX statements that belong to a table.
 QStringList IndexDDL(const QString& table);
+// Adds the indexes a table of an older file lacks (lookups only; the unique ones come with their tables).
+void CreateMissingIndexes(clsDB& db);
 // Creates one table with its indexes if it is missing; true when it was created.
 bool CreateTableIfMissing(clsDB& db, const QString& table);
 

@@ -138,6 +138,7 @@ void Run() {
           [] { clsDICT::CreateTable_TITLE_DICT(); }, [] { clsINVITE_WIDGET::CreateTable(); },
           [] { clsCONTACT::Patch_2_Apply(); }, [] { clsINVITE::Patch_2_Apply(); }});
     EachAlone({[] { Patch1(); }});
+    Step({[] { modSchema::CreateMissingIndexes(gDB()); }});
 }
 
 } // namespace modPatchDriver

@@ -1,5 +1,7 @@
 #include "guests/clsCONTACT.h"
 
+#include "core/clsVOWREN.h"
+
 #include "core/clsApp.h"
 #include "core/modGeneral.h"
 #include "core/modSchema.h"
@@ -629,14 +631,7 @@ bool clsCONTACT::UpdateHotel(const QString& contactId, const QString& hotelId) {
 // ---- Map ------------------------------------------------------------------------------------------
 
 QString clsCONTACT::MapURL() const {
-    int country = 0;
-    try {
-        country = clsApp::ToInt16(
-            gDB().Execute(QStringLiteral("SELECT VOWREN_TX FROM VOWREN WHERE VOWREN_ID = 9")).Scalar(), 0);
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-    }
-    return MapAddressURL(ADDRESS_TX, country);
+    return MapAddressURL(ADDRESS_TX, clsVOWREN::MapCountryIndex());
 }
 
 bool clsCONTACT::MapIt() const {

@@ -1,6 +1,7 @@
 #include "guests/clsINVITE.h"
 
 #include "core/clsApp.h"
+#include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
 
 #include <initializer_list>
@@ -404,9 +405,7 @@ bool clsINVITE::RefreshPrimaryContact(const QString& inviteId) {
 // ---- Labels -----------------------------------------------------------------------------------------
 
 bool clsINVITE::EtiquetteIsFormal() {
-    const QString text =
-        gDB().Execute(QStringLiteral("SELECT VOWREN_TX FROM VOWREN WHERE VOWREN_ID = 7")).Scalar();
-    return clsApp::ToBool(text, false);
+    return clsApp::ToBool(clsVOWREN::ReadStored(7), false);
 }
 
 QString clsINVITE::Joiner(const QString& firstTitle) {

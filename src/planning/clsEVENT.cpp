@@ -1,6 +1,7 @@
 #include "planning/clsEVENT.h"
 
 #include "core/clsApp.h"
+#include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
 #include "guests/clsParseAddress.h"
 #include "platform/clsShell.h"
@@ -8,18 +9,6 @@
 namespace {
 
 const QString kCrLf = QStringLiteral("\r\n");
-
-// The country of the map links: row 9 of the settings kept with the data.
-int MapCountryIndex() {
-    try {
-        return gDB()
-            .Execute(QStringLiteral("SELECT VOWREN_TX FROM VOWREN WHERE VOWREN_ID = 9"))
-            .Scalar()
-            .toInt();
-    } catch (const clsDbError&) {
-        return 0;
-    }
-}
 
 QString FormatStored(const QString& stored, const QString& format) {
     return FormatDateTime(ParseDateTimeText(stored), format);
@@ -82,7 +71,7 @@ long clsEVENT::GetTotal() const {
 }
 
 QString clsEVENT::MapURL() const {
-    return MapAddressURL(DisplayAddress(true), MapCountryIndex());
+    return MapAddressURL(DisplayAddress(true), clsVOWREN::MapCountryIndex());
 }
 
 bool clsEVENT::MapIt() const {

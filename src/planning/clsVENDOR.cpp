@@ -1,22 +1,12 @@
 #include "planning/clsVENDOR.h"
 
+#include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
 #include "guests/clsParseAddress.h"
 #include "planning/modPlanningSql.h"
 #include "platform/clsShell.h"
 
 namespace {
-
-int MapCountryIndex() {
-    try {
-        return gDB()
-            .Execute(QStringLiteral("SELECT VOWREN_TX FROM VOWREN WHERE VOWREN_ID = 9"))
-            .Scalar()
-            .toInt();
-    } catch (const clsDbError&) {
-        return 0;
-    }
-}
 
 } // namespace
 
@@ -85,7 +75,7 @@ QString clsVENDOR::MapURL() const {
     address.STATE_TX = STATE_TX;
     address.ZIP_TX = ZIP_TX;
     address.COUNTRY_TX = COUNTRY_TX;
-    return MapAddressURL(address.DisplayAddress(true), MapCountryIndex());
+    return MapAddressURL(address.DisplayAddress(true), clsVOWREN::MapCountryIndex());
 }
 
 bool clsVENDOR::MapIt() const {

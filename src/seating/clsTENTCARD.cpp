@@ -1,6 +1,7 @@
 #include "seating/clsTENTCARD.h"
 
 #include "core/clsApp.h"
+#include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
 #include "core/modSchema.h"
 #include "guests/clsINVITE.h"
@@ -158,9 +159,7 @@ bool clsTENTCARD::DeleteAll() {
 }
 
 bool clsTENTCARD::EtiquetteIsFormal() {
-    const QString text =
-        gDB().Execute(QStringLiteral("SELECT VOWREN_TX FROM VOWREN WHERE VOWREN_ID = 8")).Scalar();
-    return clsApp::ToBool(text, false);
+    return clsApp::ToBool(clsVOWREN::ReadStored(8), false);
 }
 
 QString clsTENTCARD::GetTENTCARD_TX(const QList<clsCONTACT>& group) {

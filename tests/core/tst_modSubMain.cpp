@@ -57,6 +57,10 @@ QStringList SchemaShape(clsDB& db) {
         for (int i = 0; i < keys.RowCount(); ++i)
             shape << table + QStringLiteral(" FK ") + keys.Row(i).join(QLatin1Char(' '));
     }
+    const clsRecordset indexes =
+        db.Execute(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'index' AND sql IS NOT NULL ORDER BY 1"));
+    for (int i = 0; i < indexes.RowCount(); ++i)
+        shape << QStringLiteral("INDEX ") + indexes.Value(i, 0);
     return shape;
 }
 
