@@ -248,12 +248,6 @@ int main(int argc, char** argv) {
     }
     std::printf("%s (made in %lld ms)\n", qPrintable(message), static_cast<long long>(fill.elapsed()));
     gPath = gDB().DatabasePath;
-    // VOWREN_BENCH_INVITE_INDEX=1 measures the same with an index on the people's invitation.
-    if (qEnvironmentVariableIsSet("VOWREN_BENCH_INVITE_INDEX")) {
-        gDB().ExecuteScript(
-            QStringLiteral("CREATE INDEX IF NOT EXISTS CONTACT_INVITE_ID_INDEX ON CONTACT (INVITE_ID)"));
-        std::printf("with an index on CONTACT (INVITE_ID)\n");
-    }
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

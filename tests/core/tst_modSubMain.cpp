@@ -256,6 +256,36 @@ private slots:
         QCOMPARE(upgraded, SchemaShape(gDB()));
     }
 
+    // A file of the release before the sixth patch: no hotels, flights, notebook, table types, attached
+    // files or report colours yet.
+    void aFileBeforePatchSixIsMigrated() {
+        Start();
+        gDB().ExecuteScript(
+            "INSERT INTO DINING_TABLE (DINING_TABLE_ID, DINING_TABLE_NB, DINING_TABLE_NM, SEATS_NB, POS_X, POS_Y) "
+            "  VALUES (1, 1, 'Rose', 8, 100, 100);"
+            "UPDATE CONTACT SET DINING_TABLE_ID = 1;"
+            "DROP TABLE NOTEBOOK; DROP TABLE TENTCARD;"
+            "ALTER TABLE DINING_TABLE DROP COLUMN DINING_TABLE_TYPE_ID; ALTER TABLE VENDOR DROP COLUMN FILE_PATH_TX;"
+            "DELETE FROM VOWREN WHERE VOWREN_ID >= 4;");
+        gDB().RebuildTable("CONTACT", FirstReleaseDDL("CONTACT", {"FLIGHT_ID", "HOTEL_ID"}));
+        gDB().ExecuteScript("DROP TABLE FLIGHT; DROP TABLE HOTEL;");
+        gDB().CloseConnection();
+        Start();
+        QVERIFY2(home->Messages().Prompts.isEmpty(), qPrintable(home->Messages().Prompts.join("\n")));
+        auto value = [](const QString& sql) { return gDB().ExecuteRaw(sql).Scalar(); };
+        QCOMPARE(value("SELECT DINING_TABLE_TYPE_ID FROM DINING_TABLE"), QStringLiteral("1"));
+        QCOMPARE(value("SELECT group_concat(DINING_TABLE_ID) FROM CONTACT"), QStringLiteral("1,1"));
+        QCOMPARE(value("SELECT group_concat(VOWREN_TX) FROM VOWREN WHERE VOWREN_ID BETWEEN 4 AND 6"),
+                 QStringLiteral("15385258,16246749,13158600"));
+        QVERIFY(gDB().ForeignKeyExists("CONTACT", "CONTACT_TO_HOTEL_FK"));
+        QCOMPARE(value("SELECT COUNT(*) FROM TENTCARD"), QStringLiteral("1")); // the couple at table 1
+        const QStringList upgraded = SchemaShape(gDB());
+        gDB().CloseConnection();
+        TestHome fresh;
+        Start();
+        QCOMPARE(upgraded, SchemaShape(gDB()));
+    }
+
     void aBudgetLineWithoutDueDateAndNoWeddingDayShowsTheUpdateMessage() {
         MakeFirstReleaseFile();
         {

@@ -1,0 +1,783 @@
+#include "TestDatabase.h"
+#include "core/modGeneral.h"
+#include "guests/GuestTestData.h"
+#include "reports/clsReportCatalogue.h"
+#include "reports/clsReportClasses.h"
+
+#include <QtTest>
+#include <memory>
+
+using C = clsReportCatalogue;
+
+// A small wedding made by hand: the couple, four guests on two invitations, one table, three events
+// with gifts, timeline entries and one guest list.
+//
+//  id  name  friend  list  gender  child  out of town  address  e-mail  phone  invitation  attends  table
+//   1  Anna  bride   A     F       N      N            -        -       -      -           Y        -
+//   2  Ben   groom   A     M       N      N            -        -       -      -           Y        -
+//   3  Carl  bride   A     M       N      N            yes      yes     yes    1 (first)   Y        1
+//   4  Dora  bride   B     F       Y      Y            -        -       -      1           Y        -
+//   5  Emil  groom   B     M       N      N            -        yes     -      2 (first)   N        -
+//   6  Fay   both    A     F       N      Y            yes      -       yes    -           N        -
+// Invitation 1 is sent and answered, invitation 2 not sent. Fay is the maid of honor.
+static void MakeWedding() {
+    using namespace GuestTestData;
+    TestDatabase::Exec(
+        QStringLiteral("UPDATE CONTACT SET FIRST_NM = 'Anna', LAST_NM = 'Lund' WHERE CONTACT_ID = 1"));
+    TestDatabase::Exec(
+        QStringLiteral("UPDATE CONTACT SET FIRST_NM = 'Ben', LAST_NM = 'Moss' WHERE CONTACT_ID = 2"));
+    AddInvite({{"INVITE_ID", 1}, {"INVITE_RSVP_ID", 1}, {"INVITE_SENT_FG", "Y"}, {"RSVP_RECEIVED_FG", "Y"}});
+    AddInvite({{"INVITE_ID", 2}, {"INVITE_RSVP_ID", 2}});
+    AddDiningTable(1, 1, QStringLiteral("Roses"));
+    AddContact({{"CONTACT_ID", 3},
+                {"FIRST_NM", "Carl"},
+                {"FRIEND_OF_CD", 1},
+                {"AB_LIST_CD", "A"},
+                {"ADDRESS_TX", "1 Main St"},
+                {"EMAIL_TX", "carl@example.org"},
+                {"PHONE_TX", "555-0100"},
+                {"INVITE_ID", 1},
+                {"PRIMARY_CONTACT_FG", "Y"},
+                {"SORT_ORDER_NB", 1},
+                {"ATTENDING_FG", "Y"},
+                {"DINING_TABLE_ID", 1}});
+    AddContact({{"CONTACT_ID", 4},
+                {"FIRST_NM", "Dora"},
+                {"FRIEND_OF_CD", 1},
+                {"AB_LIST_CD", "B"},
+                {"GENDER_FG", "F"},
+                {"CHILD_FG", "Y"},
+                {"OUT_OF_TOWNER_FG", "Y"},
+                {"INVITE_ID", 1},
+                {"SORT_ORDER_NB", 2},
+                {"ATTENDING_FG", "Y"}});
+    AddContact({{"CONTACT_ID", 5},
+                {"FIRST_NM", "Emil"},
+                {"FRIEND_OF_CD", 2},
+                {"AB_LIST_CD", "B"},
+                {"EMAIL_TX", "emil@example.org"},
+                {"INVITE_ID", 2},
+                {"PRIMARY_CONTACT_FG", "Y"},
+                {"SORT_ORDER_NB", 1}});
+    AddContact({{"CONTACT_ID", 6},
+                {"FIRST_NM", "Fay"},
+                {"FRIEND_OF_CD", 3},
+                {"AB_LIST_CD", "A"},
+                {"GENDER_FG", "F"},
+                {"OUT_OF_TOWNER_FG", "Y"},
+                {"ADDRESS_TX", "2 Oak Rd"},
+                {"PHONE_TX", "555-0101"},
+                {"ROLE_ID", 7}});
+
+    TestDatabase::Exec(
+        QStringLiteral("UPDATE EVENT SET EVENT_DT = '2027-06-05 15:00:00' WHERE EVENT_ID = 1"));
+    TestDatabase::Exec(QStringLiteral("INSERT INTO EVENT (EVENT_ID, EVENT_TX, EVENT_DT) VALUES "
+                                      "(2, 'Rehearsal Dinner', '2027-06-04 19:00:00'), "
+                                      "(3, 'Bridal Shower', '2027-05-01 14:00:00')"));
+    TestDatabase::Exec(QStringLiteral("INSERT INTO GIFT (GIFT_ID, EVENT_ID, CONTACT_ID, INVITE_ID, GIFT_TX, "
+                                      "THANK_YOU_SENT_FG) VALUES (1, 1, 3, NULL, 'Vase', 'Y'), "
+                                      "(2, 1, 5, 2, 'Toaster', 'N'), (3, 3, 4, 1, 'Towels', 'N')"));
+    TestDatabase::Exec(QStringLiteral("INSERT INTO TIMELINE (TIMELINE_ID, TIMELINE_START_DT, "
+                                      "TIMELINE_END_DT, TIMELINE_DESC, EVENT_ID) VALUES "
+                                      "(1, '2027-06-05 15:00:00', '2027-06-05 15:30:00', 'Ceremony', 1), "
+                                      "(2, '2027-06-05 18:00:00', '2027-06-05 22:00:00', 'Dinner', 1), "
+                                      "(3, '2027-05-01 14:00:00', '2027-05-01 16:00:00', 'Games', 3)"));
+    TestDatabase::Exec(
+        QStringLiteral("INSERT INTO INVITE_WIDGET (INVITE_WIDGET_ID, EVENT_ID, INVITE_ID, CONTACT_ID) "
+                       "VALUES (1, 2, NULL, 6), (2, 2, 1, NULL)"));
+}
+
+static int PositionOf(const QList<C::FilterRow>& rows, const QString& caption, int key) {
+    for (qsizetype i = 0; i < rows.size(); ++i)
+        if (rows[i].FILTER == caption && rows[i].Key == key)
+            return int(i);
+    return -1;
+}
+
+static QString Shape(const QList<C::FilterRow>& rows) {
+    QStringList parts;
+    for (const auto& row : rows)
+        parts << QStringLiteral("%1=%2:%3").arg(row.FILTER).arg(row.Key).arg(row.COUNT);
+    return parts.join(QStringLiteral("|"));
+}
+
+class tst_ReportCatalogue : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<TestDatabase> mDb;
+
+private slots:
+    void init() {
+        mDb = std::make_unique<TestDatabase>();
+        for (const QString& name : clsReportClasses::Names())
+            clsReportClasses::Unregister(name);
+    }
+    void cleanup() {
+        SetNowForTesting(QDateTime());
+        mDb.reset();
+    }
+
+    void sectionsInDisplayOrder() {
+        QStringList shown;
+        for (const auto& s : C::Sections())
+            shown << QStringLiteral("%1/%2/%3").arg(s.Caption).arg(s.Key).arg(s.Indent);
+        QCOMPARE(shown,
+                 QStringList({"Contacts/1/0", "Invitations/2/0", "RSVPs/3/0", "Attendees/4/0",
+                              "Flights/15/16", "Hotels/16/16", "Tables/5/16", "Tentcards/17/16", "Gifts/6/0",
+                              "Checklist/7/0", "Budget/8/0", "Vendors/9/0", "Timelines/10/0", "Notebook/11/0",
+                              "Events/12/0", "Widgets/13/0", "Wedding Statistics/14/0", "Custom/18/0"}));
+        QCOMPARE(C::SectionIndex(C::Tables), 6);
+        QCOMPARE(C::SectionIndex(19), -1);
+        QVERIFY(C::FilterRows(19).isEmpty());
+    }
+
+    void counts_data() {
+        QTest::addColumn<int>("section");
+        QTest::addColumn<QString>("caption");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("count");
+
+        // The couple count wherever the row's condition does not leave them out ("Not Yet Invited" does).
+        QTest::newRow("contacts all") << 1 << "All Contacts" << 0 << "6";
+        QTest::newRow("contacts bride") << 1 << "Friend of Bride" << 1 << "3";
+        QTest::newRow("contacts groom") << 1 << "Friend of Groom" << 2 << "2";
+        QTest::newRow("contacts both") << 1 << "Friend of Both" << 3 << "1";
+        QTest::newRow("contacts invited") << 1 << "Invited" << 6 << "2";
+        QTest::newRow("contacts not invited") << 1 << "Not Yet Invited" << 7 << "2";
+        QTest::newRow("contacts adult") << 1 << "Adult" << 43 << "5";
+        QTest::newRow("contacts child") << 1 << "Child" << 44 << "1";
+        QTest::newRow("contacts out of town") << 1 << "Out of Towner" << 25 << "2";
+        QTest::newRow("contacts no phone") << 1 << "No Phone Number" << 31 << "4";
+        QTest::newRow("contacts custom") << 1 << "Custom Filter" << 99999 << "--";
+        // Invitations count envelopes, by their first person.
+        QTest::newRow("invitations all") << 2 << "All Invitations" << 0 << "2";
+        QTest::newRow("invitations sent") << 2 << "Sent" << 1 << "1";
+        QTest::newRow("invitations both") << 2 << "Friend of Both" << 7 << "0";
+        QTest::newRow("invitations no address") << 2 << "No Address" << 8 << "1";
+        QTest::newRow("rsvps all") << 3 << "All RSVPs" << 1 << "1";
+        QTest::newRow("rsvps received") << 3 << "Received" << 3 << "1";
+        QTest::newRow("rsvps no reply") << 3 << "No Reply" << 4 << "0";
+        // Attendees include the couple.
+        QTest::newRow("attendees all") << 4 << "All Attendees" << 14 << "4";
+        QTest::newRow("attendees bride") << 4 << "Friend of Bride" << 15 << "3";
+        QTest::newRow("attendees female") << 4 << "Female" << 42 << "2";
+        QTest::newRow("attendees seated") << 4 << "Seated" << 21 << "1";
+        QTest::newRow("attendees to be seated") << 4 << "To be seated" << 22 << "3";
+        QTest::newRow("meals: the meal kinds") << 4 << "Meals" << 98 << "6";
+        QTest::newRow("roles: the couple and the maid of honor") << 4 << "Roles" << 99 << "3";
+        QTest::newRow("tabula rasa as all") << 4 << "Tabula Rasa" << 100 << "4";
+        QTest::newRow("seating chart") << 5 << "Seating Chart" << 1 << "1";
+        QTest::newRow("table overview") << 5 << "Table Overview" << 2 << "1";
+        QTest::newRow("table image") << 5 << "Table Layout Image" << 3 << "1";
+        QTest::newRow("gifts all") << 6 << "All Gifts" << 0 << "3";
+        QTest::newRow("gifts thanked") << 6 << "Thank You Notes Sent" << 1 << "1";
+        QTest::newRow("gifts not thanked") << 6 << "Thank You Notes Unsent" << 2 << "2";
+        QTest::newRow("gifts of the wedding day") << 6 << "Wedding Day" << 1 << "2";
+        QTest::newRow("gifts of the rehearsal") << 6 << "Rehearsal Dinner" << 2 << "0";
+        QTest::newRow("timeline all") << 10 << "All Entries" << 0 << "3";
+        QTest::newRow("timeline wedding day") << 10 << "Wedding Day" << 1 << "2";
+        QTest::newRow("events") << 12 << "All Events" << 1 << "3";
+        QTest::newRow("calendar has no count") << 12 << "Calendar" << 2 << "";
+        QTest::newRow("vows of both") << 13 << "All Wedding Vows" << 2 << "2";
+        QTest::newRow("guest list of the rehearsal") << 13 << "Rehearsal Dinner" << 101 << "2";
+        QTest::newRow("statistics") << 14 << "All" << 0 << "All";
+        QTest::newRow("flights none") << 15 << "Flight Overview" << 2 << "0";
+        QTest::newRow("vendors none") << 9 << "All Vendors" << 0 << "0";
+        QTest::newRow("custom sql") << 18 << "Custom SQL" << 0 << "--";
+    }
+    void counts() {
+        QFETCH(int, section);
+        QFETCH(QString, caption);
+        QFETCH(int, key);
+        QFETCH(QString, count);
+        MakeWedding();
+        const auto rows = C::FilterRows(section);
+        const int at = PositionOf(rows, caption, key);
+        QVERIFY2(at >= 0, qPrintable(Shape(rows)));
+        QCOMPARE(rows[at].COUNT, count);
+        QCOMPARE(mDb->Messages().Prompts, QStringList());
+    }
+
+    // The rows that follow the events: gifts list every event by date, timelines only those with
+    // entries, the widgets only the events with a guest list; the vows carry the partners' names.
+    void rowsMadeFromEvents_data() {
+        QTest::addColumn<int>("section");
+        QTest::addColumn<QString>("shape");
+        QTest::newRow("gifts") << 6
+                               << "All Gifts=0:3|Thank You Notes Sent=1:1|Thank You Notes Unsent=2:2|"
+                                  "Bridal Shower=3:1|Rehearsal Dinner=2:0|Wedding Day=1:2";
+        QTest::newRow("timelines") << 10 << "All Entries=0:3|Bridal Shower=3:1|Wedding Day=1:2";
+        QTest::newRow("widgets") << 13
+                                 << "Invitation Wording=1:1|All Wedding Vows=2:2|Anna's Wedding Vows=3:1|"
+                                    "Ben's Wedding Vows=4:1|Songs=5:0|Rehearsal Dinner=101:2";
+    }
+    void rowsMadeFromEvents() {
+        QFETCH(int, section);
+        QFETCH(QString, shape);
+        MakeWedding();
+        QCOMPARE(Shape(C::FilterRows(section)), shape);
+    }
+
+    void emptyWeddingListsEveryRow() {
+        QCOMPARE(C::FilterRows(C::Contacts).size(), 18);
+        const auto invitations = C::FilterRows(C::Invitations);
+        QCOMPARE(invitations.size(), 12);
+        for (const auto& row : invitations)
+            QCOMPARE(row.COUNT, row.Key == C::CustomFilterKey ? QStringLiteral("--") : QStringLiteral("0"));
+        QCOMPARE(C::FilterRows(C::RSVPs).size(), 11);
+        QCOMPARE(C::FilterRows(C::Attendees).size(), 18);
+        QCOMPARE(C::FilterRows(C::Budget).size(), 6);
+        QCOMPARE(Shape(C::FilterRows(C::Timelines)), QStringLiteral("All Entries=0:0"));
+    }
+
+    void headsIndentsNotesAndIcon() {
+        const auto rows = C::FilterRows(C::Attendees);
+        const auto& all = rows[0];
+        QVERIFY(all.Head);
+        QCOMPARE(all.Indent, 0);
+        QVERIFY(!rows[1].Head);
+        QCOMPARE(rows[1].Indent, 10);
+        const auto& meals = rows[C::FilterRowIndex(rows, 98)];
+        QVERIFY(meals.Head);
+        QCOMPARE(meals.NOTES_TX, QStringLiteral("For Caterer"));
+        QCOMPARE(rows[C::FilterRowIndex(rows, 100)].NOTES_TX,
+                 QStringLiteral("CSV Export file for Tabula Rasa"));
+        const auto& custom = rows.last();
+        QCOMPARE(custom.Key, C::CustomFilterKey);
+        QCOMPARE(custom.Icon, 21);
+        QCOMPARE(rows[0].Icon, 0);
+        QCOMPARE(C::FilterRows(C::Tentcards)[0].NOTES_TX,
+                 QStringLiteral("Use LabelDesk to print on any sized tentcard."));
+        QCOMPARE(C::FilterRowIndex(rows, 12345), -1);
+    }
+
+    // A row whose class is not there yet stays in the list, marked; a registered class makes it
+    // available; a row that only opens a picture needs no class.
+    void availability() {
+        auto rows = C::FilterRows(C::Contacts);
+        for (const auto& row : rows) {
+            QCOMPARE(row.ClassName, QStringLiteral("clsRTFContacts"));
+            QVERIFY(!row.Available);
+        }
+        clsReportClasses::Register(QStringLiteral("clsRTFContacts"),
+                                   [](const clsReportRoute&) { return QString(); });
+        rows = C::FilterRows(C::Contacts);
+        for (const auto& row : rows)
+            QVERIFY(row.Available);
+        QVERIFY(!C::FilterRows(C::Invitations)[0].Available);
+
+        const auto tables = C::FilterRows(C::Tables);
+        QVERIFY(!tables[0].Available);
+        QVERIFY(tables[2].ClassName.isEmpty());
+        QVERIFY(tables[2].Available);
+
+        clsReportClasses::Unregister(QStringLiteral("clsRTFContacts"));
+        QVERIFY(!C::FilterRows(C::Contacts)[0].Available);
+    }
+
+    void buildGoesThroughTheRegisteredClass() {
+        clsReportRoute seen;
+        clsReportClasses::Register(QStringLiteral("clsRTFGift"), [&seen](const clsReportRoute& route) {
+            seen = route;
+            return QStringLiteral("written");
+        });
+        MakeWedding();
+        const auto rows = C::FilterRows(C::Gifts);
+        const auto route = C::Route(C::Gifts, rows, PositionOf(rows, QStringLiteral("Wedding Day"), 1));
+        QCOMPARE(clsReportClasses::Build(route), QStringLiteral("written"));
+        QCOMPARE(seen.CustomWhere, QStringLiteral("WHERE EVENT.EVENT_ID = 1"));
+        clsReportRoute other;
+        other.ClassName = QStringLiteral("clsRTFVendor");
+        QCOMPARE(clsReportClasses::Build(other), QString());
+    }
+
+    void labelsAllowed_data() {
+        QTest::addColumn<int>("section");
+        QTest::addColumn<int>("position"); // from 1, as the screen counts rows
+        QTest::addColumn<bool>("labelDesk");
+        QTest::addColumn<bool>("allowed");
+        QTest::newRow("contacts head") << 1 << 1 << false << true;
+        QTest::newRow("contacts custom filter") << 1 << 18 << false << false;
+        QTest::newRow("invitations sent") << 2 << 2 << false << true;
+        QTest::newRow("invitations custom filter") << 2 << 12 << false << false;
+        QTest::newRow("rsvps never") << 3 << 1 << false << false;
+        QTest::newRow("attendees meals") << 4 << 15 << false << true;
+        QTest::newRow("attendees custom filter") << 4 << 18 << false << false;
+        QTest::newRow("tables never") << 5 << 1 << true << false;
+        QTest::newRow("tentcards without label program") << 17 << 1 << false << false;
+        QTest::newRow("tentcards with label program") << 17 << 1 << true << true;
+        QTest::newRow("gifts of an event") << 6 << 5 << false << true;
+        QTest::newRow("vendors") << 9 << 1 << false << true;
+        QTest::newRow("widgets: songs") << 13 << 5 << false << false;
+        QTest::newRow("widgets: a guest list") << 13 << 6 << false << true;
+        QTest::newRow("statistics") << 14 << 1 << true << false;
+        QTest::newRow("no row selected") << 1 << 0 << false << false;
+    }
+    void labelsAllowed() {
+        QFETCH(int, section);
+        QFETCH(int, position);
+        QFETCH(bool, labelDesk);
+        QFETCH(bool, allowed);
+        MakeWedding();
+        QCOMPARE(C::LabelsAllowed(section, C::FilterRows(section), position - 1, labelDesk), allowed);
+    }
+
+    void runCaption_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("labels");
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("plain row") << 0 << false << "Run";
+        QTest::newRow("custom filter") << 99999 << false << "Continue";
+        QTest::newRow("labels") << 4 << true << "Continue";
+        QTest::newRow("both") << 99999 << true << "Continue";
+    }
+    void runCaption() {
+        QFETCH(int, key);
+        QFETCH(bool, labels);
+        QFETCH(QString, caption);
+        QCOMPARE(C::RunCaption(key, labels), caption);
+    }
+
+    // The edge cases of the screen: the custom filter row turns the button to "Continue" and back;
+    // labels chosen, then a section without labels, falls back to RTF.
+    void commandState_data() {
+        QTest::addColumn<int>("section");
+        QTest::addColumn<int>("position");
+        QTest::addColumn<int>("chosen");
+        QTest::addColumn<bool>("labelDesk");
+        QTest::addColumn<bool>("labelsEnabled");
+        QTest::addColumn<int>("type");
+        QTest::addColumn<bool>("runEnabled");
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("contacts, rtf") << 1 << 1 << 0 << false << true << 0 << true << "Run";
+        QTest::newRow("contacts custom filter") << 1 << 18 << 0 << false << false << 0 << true << "Continue";
+        QTest::newRow("csv stays csv") << 3 << 1 << 1 << false << false << 1 << true << "Run";
+        QTest::newRow("labels on contacts") << 1 << 2 << 2 << false << true << 2 << true << "Continue";
+        QTest::newRow("labels, then rsvps") << 3 << 1 << 2 << false << false << 0 << true << "Run";
+        QTest::newRow("labels, then custom filter")
+            << 4 << 18 << 2 << false << false << 0 << true << "Continue";
+        QTest::newRow("tentcards with label program")
+            << 17 << 1 << 2 << true << true << 2 << true << "Continue";
+        QTest::newRow("no row") << 1 << 0 << 0 << false << false << 0 << false << "Run";
+        QTest::newRow("unknown section") << 42 << 1 << 0 << false << false << 0 << false << "Run";
+    }
+    void commandState() {
+        QFETCH(int, section);
+        QFETCH(int, position);
+        QFETCH(int, chosen);
+        QFETCH(bool, labelDesk);
+        QFETCH(bool, labelsEnabled);
+        QFETCH(int, type);
+        QFETCH(bool, runEnabled);
+        QFETCH(QString, caption);
+        auto rows = C::FilterRows(section);
+        if (section == 42) // a section the catalogue does not know, with rows of another
+            rows = C::FilterRows(C::Contacts);
+        const auto state = C::CommandState(section, rows, position - 1, chosen, labelDesk);
+        QCOMPARE(state.LabelsEnabled, labelsEnabled);
+        QCOMPARE(state.ReportType, type);
+        QCOMPARE(state.RunEnabled, runEnabled);
+        QCOMPARE(state.RunCaption, caption);
+        QCOMPARE(state.LabelsCaption,
+                 labelDesk ? QStringLiteral("LabelDesk") : QStringLiteral("Labels (.RTF)"));
+    }
+
+    void openingSelection_data() {
+        QTest::addColumn<int>("rptRow");
+        QTest::addColumn<int>("filterIndex");
+        QTest::addColumn<int>("sectionIndex");
+        QTest::addColumn<int>("rowIndex");
+        QTest::newRow("attendees, seated") << 4 << 21 << 3 << 12;
+        QTest::newRow("tables, overview") << 5 << 2 << 6 << 1;
+        QTest::newRow("custom filter") << 2 << 99999 << 1 << 11;
+        QTest::newRow("unknown filter key") << 4 << 77 << 3 << 0;
+        QTest::newRow("unknown section") << 0 << 21 << 0 << 0;
+    }
+    void openingSelection() {
+        QFETCH(int, rptRow);
+        QFETCH(int, filterIndex);
+        QFETCH(int, sectionIndex);
+        QFETCH(int, rowIndex);
+        const auto selection = C::OpeningSelection(rptRow, filterIndex);
+        QCOMPARE(selection.SectionIndex, sectionIndex);
+        QCOMPARE(selection.RowIndex, rowIndex);
+    }
+
+    void choicesGoToTheReportSettings_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("paper");
+        QTest::addColumn<int>("orientation");
+        QTest::addColumn<bool>("useRtf");
+        QTest::addColumn<bool>("a4");
+        QTest::addColumn<bool>("landscape");
+        QTest::newRow("rtf letter landscape") << 0 << 0 << 0 << true << false << true;
+        QTest::newRow("csv a4 portrait") << 1 << 1 << 1 << false << true << false;
+    }
+    void choicesGoToTheReportSettings() {
+        QFETCH(int, type);
+        QFETCH(int, paper);
+        QFETCH(int, orientation);
+        QFETCH(bool, useRtf);
+        QFETCH(bool, a4);
+        QFETCH(bool, landscape);
+        C::Choices choices;
+        choices.ReportType = type;
+        choices.FontName = QStringLiteral("Georgia");
+        choices.FontSize = QStringLiteral("11");
+        choices.PaperSizeIndex = paper;
+        choices.PaperOrientationIndex = orientation;
+        choices.Header = clsColor(1, 2, 3);
+        clsRTFMasterTemp settings;
+        settings.USE_RTF = !useRtf;
+        settings.A4 = !a4;
+        settings.LANDSCAPE = !landscape;
+        C::TakeSettings(choices, settings);
+        QCOMPARE(settings.USE_RTF, useRtf);
+        QCOMPARE(settings.A4, a4);
+        QCOMPARE(settings.LANDSCAPE, landscape);
+        QCOMPARE(settings.FONT_NAME, QStringLiteral("Georgia"));
+        QCOMPARE(settings.FONT_SIZE, QStringLiteral("11"));
+        QVERIFY(settings.RTF_COLOR_TABLE().startsWith(QStringLiteral(
+            "\\red1\\green2\\blue3;\\red221\\green231\\blue247;\\red200\\green200\\blue200;")));
+    }
+
+    void filterText_data() {
+        QTest::addColumn<QString>("caption");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("all contacts") << "All Contacts"
+                                      << "All";
+        QTest::newRow("all wedding vows") << "All Wedding Vows"
+                                          << "All";
+        QTest::newRow("bare all") << "All"
+                                  << "All";
+        QTest::newRow("other") << "Friend of Bride"
+                               << "Friend of Bride";
+        QTest::newRow("all inside") << "Not All"
+                                    << "Not All";
+        QTest::newRow("lower case") << "all sorts"
+                                    << "all sorts";
+    }
+    void filterText() {
+        QFETCH(QString, caption);
+        QFETCH(QString, text);
+        QCOMPARE(C::FilterText(caption), text);
+    }
+
+    void route_data() {
+        QTest::addColumn<int>("section");
+        QTest::addColumn<int>("position");
+        QTest::addColumn<QString>("className");
+        QTest::addColumn<QString>("dialog");
+        QTest::addColumn<bool>("usesFilter");
+        QTest::addColumn<int>("filterEnum");
+        QTest::addColumn<QString>("filterText");
+        QTest::addColumn<QString>("customWhere");
+        QTest::addColumn<QString>("argument");
+        QTest::addColumn<QString>("prefix");
+
+        QTest::newRow("contacts all") << 1 << 1 << "clsRTFContacts"
+                                      << "" << true << 0 << "All"
+                                      << ""
+                                      << ""
+                                      << "01_Contacts_";
+        QTest::newRow("contacts male") << 1 << 9 << "clsRTFContacts"
+                                       << "" << true << 37 << "Male"
+                                       << ""
+                                       << ""
+                                       << "01_Contacts_";
+        QTest::newRow("contacts custom") << 1 << 18 << "clsRTFContacts"
+                                         << "frmReportsCustomFilter" << true << 1000 << ""
+                                         << ""
+                                         << ""
+                                         << "01_Contacts_";
+        QTest::newRow("invitations custom") << 2 << 12 << "clsRTFInvitation"
+                                            << "frmReportsCustomFilter" << true << 20 << ""
+                                            << ""
+                                            << ""
+                                            << "02_Invitations_";
+        QTest::newRow("rsvps received") << 3 << 2 << "clsRTFRSVP"
+                                        << "" << true << 3 << "Received"
+                                        << ""
+                                        << ""
+                                        << "03_RSVPs_";
+        QTest::newRow("rsvps custom") << 3 << 11 << "clsRTFRSVP"
+                                      << "frmReportsCustomFilter" << true << 20 << ""
+                                      << ""
+                                      << ""
+                                      << "03_RSVPs_";
+        QTest::newRow("attendees seated") << 4 << 13 << "clsRTFAttendees"
+                                          << "" << true << 21 << "Seated"
+                                          << ""
+                                          << ""
+                                          << "04_Attendees_";
+        QTest::newRow("meals") << 4 << 15 << "clsRTFMeal"
+                               << "" << false << 0 << ""
+                               << ""
+                               << ""
+                               << "04_Meals_";
+        QTest::newRow("roles") << 4 << 16 << "clsRTFRole"
+                               << "" << false << 0 << ""
+                               << ""
+                               << ""
+                               << "04_Roles_";
+        QTest::newRow("tabula rasa") << 4 << 17 << "clsRTFAttendeesTabulaRasa"
+                                     << "" << false << 0 << ""
+                                     << ""
+                                     << ""
+                                     << "04_Attendees_TabulaRasa";
+        QTest::newRow("attendees custom") << 4 << 18 << "clsRTFAttendees"
+                                          << "frmReportsCustomFilter" << true << 1000 << ""
+                                          << ""
+                                          << ""
+                                          << "04_Attendees_";
+        QTest::newRow("seating chart") << 5 << 1 << "clsRTFTable"
+                                       << "" << true << 1 << "Seating Chart"
+                                       << ""
+                                       << ""
+                                       << "04_SeatingChart_";
+        QTest::newRow("table overview") << 5 << 2 << "clsRTFTableLayout"
+                                        << "" << true << 2 << "Table Overview"
+                                        << ""
+                                        << ""
+                                        << "04_TableOverview_";
+        QTest::newRow("gifts unthanked") << 6 << 3 << "clsRTFGift"
+                                         << "" << true << 2 << "Thank You Notes Unsent"
+                                         << ""
+                                         << ""
+                                         << "05_Gifts_";
+        QTest::newRow("gifts of the shower") << 6 << 4 << "clsRTFGift"
+                                             << "" << true << 3 << "Bridal Shower"
+                                             << "WHERE EVENT.EVENT_ID = 3"
+                                             << ""
+                                             << "05_Gifts_";
+        QTest::newRow("tasks by due date") << 7 << 5 << "clsRTFTask"
+                                           << "" << true << 4 << "All"
+                                           << ""
+                                           << ""
+                                           << "06_Tasks_";
+        QTest::newRow("budget paid") << 8 << 4 << "clsRTFBudget"
+                                     << "" << true << 3 << "Paid"
+                                     << ""
+                                     << ""
+                                     << "07_Budget_";
+        QTest::newRow("budget by payer") << 8 << 5 << "clsRTFBudgetPaidBy"
+                                         << "" << false << 0 << ""
+                                         << ""
+                                         << ""
+                                         << "07_BudgetPaidBy_";
+        QTest::newRow("estimates") << 8 << 6 << "clsRTFBudgetCategory"
+                                   << "" << false << 0 << ""
+                                   << ""
+                                   << ""
+                                   << "07_BudgetEstimatesActuals_";
+        QTest::newRow("vendors") << 9 << 1 << "clsRTFVendor"
+                                 << "" << false << 0 << ""
+                                 << ""
+                                 << ""
+                                 << "08_Vendor_";
+        QTest::newRow("timeline of the shower") << 10 << 2 << "clsRTFTimeline"
+                                                << "" << true << 3 << "Bridal Shower"
+                                                << ""
+                                                << ""
+                                                << "10_Timeline_";
+        QTest::newRow("notebook") << 11 << 1 << "clsRTFNotebook"
+                                  << "" << false << 0 << ""
+                                  << ""
+                                  << ""
+                                  << "10_Notebook_";
+        QTest::newRow("events") << 12 << 1 << "clsRTFEvent"
+                                << "" << false << 0 << ""
+                                << ""
+                                << ""
+                                << "09_Event_";
+        QTest::newRow("calendar") << 12 << 2 << "clsRTFCalendar"
+                                  << "frmReportEventDates" << false << 0 << ""
+                                  << ""
+                                  << ""
+                                  << "09_Calendar_";
+        QTest::newRow("wording") << 13 << 1 << "clsRTFWidgetsInvitation"
+                                 << "" << true << 1 << "Invitation Wording"
+                                 << ""
+                                 << ""
+                                 << "11_InvitationWording_";
+        QTest::newRow("vows side by side") << 13 << 2 << "clsRTFWidgetsWeddingVows"
+                                           << "" << true << 2 << "All"
+                                           << ""
+                                           << "2"
+                                           << "11_WeddingVows_";
+        QTest::newRow("groom's vows") << 13 << 4 << "clsRTFWidgetsWeddingVows"
+                                      << "" << true << 4 << "Ben's Wedding Vows"
+                                      << ""
+                                      << "4"
+                                      << "11_WeddingVows_";
+        QTest::newRow("songs") << 13 << 5 << "clsRTFSongs"
+                               << "" << true << 5 << "Songs"
+                               << ""
+                               << ""
+                               << "11_Songs_";
+        QTest::newRow("guest list") << 13 << 6 << "clsRTFWidgetInvite"
+                                    << "" << true << 101 << "Rehearsal Dinner"
+                                    << ""
+                                    << "2"
+                                    << "11_Invites_for_Rehearsal_Dinner_";
+        QTest::newRow("statistics") << 14 << 1 << "clsRTFStatistics"
+                                    << "" << true << 0 << "All"
+                                    << ""
+                                    << ""
+                                    << "12_Wedding_Statistics_";
+        QTest::newRow("flights") << 15 << 1 << "clsRTFFlights"
+                                 << "" << true << 1 << "Flights"
+                                 << ""
+                                 << ""
+                                 << "04_Flights_";
+        QTest::newRow("flight overview") << 15 << 2 << "clsRTFFlightOverview"
+                                         << "" << true << 2 << "Flight Overview"
+                                         << ""
+                                         << ""
+                                         << "04_FlightOverview_";
+        QTest::newRow("hotels") << 16 << 1 << "clsRTFHotels"
+                                << "" << true << 1 << "Hotels"
+                                << ""
+                                << ""
+                                << "04_Hotels_";
+        QTest::newRow("hotel overview") << 16 << 2 << "clsRTFHotelOverview"
+                                        << "" << true << 2 << "Hotel Overview"
+                                        << ""
+                                        << ""
+                                        << "04_HotelOverview_";
+        QTest::newRow("tentcards") << 17 << 1 << "clsRTFTentcard"
+                                   << "" << true << 1 << "Tentcards"
+                                   << ""
+                                   << ""
+                                   << "04_Tentcard_";
+        QTest::newRow("custom sql") << 18 << 1 << "clsRTFSQL"
+                                    << "frmReportsSQL" << false << 0 << ""
+                                    << ""
+                                    << ""
+                                    << "99_Custom_";
+    }
+    void route() {
+        QFETCH(int, section);
+        QFETCH(int, position);
+        QFETCH(QString, className);
+        QFETCH(QString, dialog);
+        QFETCH(bool, usesFilter);
+        QFETCH(int, filterEnum);
+        QFETCH(QString, filterText);
+        QFETCH(QString, customWhere);
+        QFETCH(QString, argument);
+        QFETCH(QString, prefix);
+        MakeWedding();
+        const auto rows = C::FilterRows(section);
+        const clsReportRoute r = C::Route(section, rows, position - 1);
+        QCOMPARE(r.ClassName, className);
+        QCOMPARE(r.Dialog, dialog);
+        QCOMPARE(r.UsesFilter, usesFilter);
+        QCOMPARE(r.FilterEnum, filterEnum);
+        QCOMPARE(r.FilterText, filterText);
+        QCOMPARE(r.CustomWhere, customWhere);
+        QCOMPARE(r.Argument, argument);
+        QCOMPARE(r.FilePrefix, prefix);
+        QCOMPARE(r.FormNumber, section);
+        QVERIFY(r.PictureFile.isEmpty());
+        QCOMPARE(rows[position - 1].ClassName, className);
+    }
+
+    void picturesOfTheReportFolder_data() {
+        QTest::addColumn<int>("section");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("table layout")
+            << 5 << "TableLayout.bmp"
+            << "To get a picture of your Table Layout, go to Attendees--Table layout.";
+        QTest::newRow("hotel map") << 16 << "HotelMap.bmp"
+                                   << "To get a picture of your Hotel Map, go to Attendees--Hotels.";
+    }
+    void picturesOfTheReportFolder() {
+        QFETCH(int, section);
+        QFETCH(QString, file);
+        QFETCH(QString, message);
+        const clsReportRoute r = C::Route(section, C::FilterRows(section), 2);
+        QVERIFY(r.ClassName.isEmpty());
+        QCOMPARE(r.PictureFile, gApp().ReportPath() + QLatin1Char('/') + file);
+        QCOMPARE(r.MissingPictureMessage, message);
+        QVERIFY(C::Route(section, C::FilterRows(section), 3).PictureFile.isEmpty());
+    }
+
+    void labelRoute_data() {
+        QTest::addColumn<int>("section");
+        QTest::addColumn<int>("position");
+        QTest::addColumn<bool>("labelDesk");
+        QTest::addColumn<QString>("dialog");
+        QTest::addColumn<int>("filterEnum");
+        QTest::addColumn<QString>("customWhere");
+        QTest::newRow("contacts") << 1 << 2 << false << "frmReportsLabels" << 1 << "";
+        QTest::newRow("gifts head") << 6 << 1 << false << "frmReportsLabels" << 0 << "";
+        QTest::newRow("gifts third row") << 6 << 3 << false << "frmReportsLabels" << 2 << "";
+        QTest::newRow("gifts of an event")
+            << 6 << 4 << true << "clsLabelDesk" << 3 << "WHERE EVENT.EVENT_ID = 3";
+        QTest::newRow("guest list") << 13 << 6 << false << "frmReportsLabels" << 2 << "";
+    }
+    void labelRoute() {
+        QFETCH(int, section);
+        QFETCH(int, position);
+        QFETCH(bool, labelDesk);
+        QFETCH(QString, dialog);
+        QFETCH(int, filterEnum);
+        QFETCH(QString, customWhere);
+        MakeWedding();
+        const clsReportRoute r = C::LabelRoute(section, C::FilterRows(section), position - 1, labelDesk);
+        QCOMPARE(r.Dialog, dialog);
+        QCOMPARE(r.FormNumber, section);
+        QCOMPARE(r.FilterEnum, filterEnum);
+        QCOMPARE(r.CustomWhere, customWhere);
+    }
+
+    void fileNames_data() {
+        QTest::addColumn<QString>("prefix");
+        QTest::addColumn<bool>("useRtf");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("rtf") << "01_Contacts_" << true << "01_Contacts_2027-06-05_090407.rtf";
+        QTest::newRow("csv") << "04_Meals_" << false << "04_Meals_2027-06-05_090407.csv";
+        QTest::newRow("tabula rasa: stamp right behind")
+            << "04_Attendees_TabulaRasa" << false << "04_Attendees_TabulaRasa2027-06-05_090407.csv";
+    }
+    void fileNames() {
+        QFETCH(QString, prefix);
+        QFETCH(bool, useRtf);
+        QFETCH(QString, name);
+        SetNowForTesting(QDateTime(QDate(2027, 6, 5), QTime(9, 4, 7)));
+        QCOMPARE(C::ReportFullFileName(prefix, useRtf), gApp().ReportPath() + QLatin1Char('/') + name);
+        QCOMPARE(C::ReportFileName(prefix) + (useRtf ? ".rtf" : ".csv"), name);
+    }
+
+    void prefixOfAGuestList() {
+        QCOMPARE(C::FilePrefix(QStringLiteral("clsRTFWidgetInvite"), QStringLiteral("Bridal Shower at Noon")),
+                 QStringLiteral("11_Invites_for_Bridal_Shower_at_Noon_"));
+        QCOMPARE(C::FilePrefix(QStringLiteral("clsRTFNoSuchReport")), QString());
+    }
+
+    void catalogueAsText() {
+        MakeWedding();
+        clsReportClasses::Register(QStringLiteral("clsRTFContacts"),
+                                   [](const clsReportRoute&) { return QString(); });
+        const QStringList lines = C::CatalogueLines();
+        int expected = 0;
+        for (const auto& section : C::Sections())
+            expected += 1 + int(C::FilterRows(section.Key).size());
+        QCOMPARE(lines.size(), expected);
+        QCOMPARE(lines[0], QStringLiteral("Contacts [1]"));
+        QCOMPARE(lines[1], QStringLiteral("  All Contacts [0]: 6"));
+        QCOMPARE(lines[2], QStringLiteral("    Friend of Bride [1]: 3"));
+        QVERIFY(lines.contains(QStringLiteral("    Custom Filter [99999]: --")));
+        QVERIFY(lines.contains(QStringLiteral("  All Invitations [0]: 2 (not yet available)")));
+        QVERIFY(lines.contains(QStringLiteral("  Meals [98]: 6 - For Caterer (not yet available)")));
+        QVERIFY(lines.contains(QStringLiteral("  Calendar [2] - User Specified Months (not yet available)")));
+        QVERIFY(lines.contains(QStringLiteral("  Table Layout Image [3]: 1")));
+        QVERIFY(lines.contains(QStringLiteral("Wedding Statistics [14]")));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_ReportCatalogue)
+#include "tst_ReportCatalogue.moc"
