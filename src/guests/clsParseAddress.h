@@ -45,17 +45,23 @@ private:
     void ScanCity(QString& text);
 };
 
-// Joins a record's five address parts into the one block of ADDRESS_TX, as shown on an envelope, and
-// empties the other four: how addresses have been kept since they became one field.
+// The five address parts of a record, ready to be shown.
 template <class T>
-void JoinAddressParts(T& record) {
+clsParseAddress AddressOf(const T& record) {
     clsParseAddress address;
     address.ADDRESS_TX = record.ADDRESS_TX;
     address.CITY_TX = record.CITY_TX;
     address.STATE_TX = record.STATE_TX;
     address.ZIP_TX = record.ZIP_TX;
     address.COUNTRY_TX = record.COUNTRY_TX;
-    record.ADDRESS_TX = address.DisplayAddress(true);
+    return address;
+}
+
+// Joins a record's five address parts into the one block of ADDRESS_TX, as shown on an envelope, and
+// empties the other four: how addresses have been kept since they became one field.
+template <class T>
+void JoinAddressParts(T& record) {
+    record.ADDRESS_TX = AddressOf(record).DisplayAddress(true);
     record.CITY_TX.clear();
     record.STATE_TX.clear();
     record.ZIP_TX.clear();

@@ -69,13 +69,7 @@ long clsVENDOR::GetTotal() const {
 }
 
 QString clsVENDOR::MapURL() const {
-    clsParseAddress address;
-    address.ADDRESS_TX = ADDRESS_TX;
-    address.CITY_TX = CITY_TX;
-    address.STATE_TX = STATE_TX;
-    address.ZIP_TX = ZIP_TX;
-    address.COUNTRY_TX = COUNTRY_TX;
-    return MapAddressURL(address.DisplayAddress(true), clsVOWREN::MapCountryIndex());
+    return MapAddressURL(AddressOf(*this).DisplayAddress(true), clsVOWREN::MapCountryIndex());
 }
 
 bool clsVENDOR::MapIt() const {
