@@ -31,3 +31,12 @@ public:
         return Scalar(QStringLiteral("SELECT COUNT(*) FROM %1 %2").arg(table, where));
     }
 };
+
+// One member of every record, in the list's order.
+template <class T>
+QStringList Pluck(const QList<T>& records, QString T::*member) {
+    QStringList values;
+    for (const T& record : records)
+        values << record.*member;
+    return values;
+}

@@ -33,10 +33,7 @@ class tst_clsBUDGET : public QObject {
     }
     static void Add(clsBUDGET expense) { QVERIFY(expense.Save(true)); }
     static QStringList Names(const QList<clsBUDGET>& expenses) {
-        QStringList names;
-        for (const clsBUDGET& expense : expenses)
-            names << expense.ITEM_NM;
-        return names;
+        return Pluck(expenses, &clsBUDGET::ITEM_NM);
     }
 
     // Today is 10 May 2027. Invitations: 120.50 due, 80 paid. Dress: 1500 paid, shoes 99.99 due today,

@@ -19,10 +19,7 @@ class tst_clsEVENT : public QObject {
         return event;
     }
     static QStringList Names(const QList<clsEVENT>& events) {
-        QStringList names;
-        for (const clsEVENT& event : events)
-            names << event.EVENT_TX;
-        return names;
+        return Pluck(events, &clsEVENT::EVENT_TX);
     }
 
 private slots:

@@ -20,10 +20,7 @@ class tst_clsGIFT : public QObject {
         return gift;
     }
     static QStringList Givers(const QList<clsGIFT>& gifts) {
-        QStringList givers;
-        for (const clsGIFT& gift : gifts)
-            givers << gift.GIVER_NM;
-        return givers;
+        return Pluck(gifts, &clsGIFT::GIVER_NM);
     }
 
     // Contacts 3 (John Smith Jr.) and 4 (Ann Baker), the invitation 1 of the Carters (contact 5 the
