@@ -1,0 +1,7 @@
+#include "reports/modReportRegistry.h"
+
+#include "reports/clsReportClasses.h"
+
+void RegisterReportClasses()
+{
+}
