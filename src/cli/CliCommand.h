@@ -21,6 +21,7 @@ CliCommand SqlCommand();
 CliCommand ParseNameCommand();
 CliCommand ParseAddressCommand();
 CliCommand DemoCommand();
+CliCommand ReportCommand();
 
 // Every command the program knows, in the order --help lists them.
 const std::vector<CliCommand>& CliCommands();

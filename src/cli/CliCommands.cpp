@@ -31,6 +31,7 @@ const std::vector<CliCommand>& CliCommands() {
         ParseNameCommand(),
         ParseAddressCommand(),
         DemoCommand(),
+        ReportCommand(),
     };
     return commands;
 }

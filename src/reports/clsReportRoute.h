@@ -19,6 +19,9 @@ public:
     int FilterEnum = 0;
     QString FilterText;
     QString CustomWhere;
+    // For the contacts report: leave the bride and groom out. The custom filter's condition already
+    // says whom it takes, so its run sets this false.
+    bool ExcludeBrideGroom = true;
     // The text argument of the classes that take one: the vows' key, the event of a guest list.
     QString Argument;
     // The start of the report's file name; the time stamp of the run follows it.

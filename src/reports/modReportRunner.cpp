@@ -1,0 +1,78 @@
+#include "reports/modReportRunner.h"
+
+#include "reports/clsRTFMasterTemp.h"
+#include "reports/clsReportCatalogue.h"
+#include "reports/clsReportClasses.h"
+
+#include <QSet>
+
+namespace modReportRunner {
+
+void ApplyOutput(const Output& output)
+{
+    clsRTFMasterTemp& settings = gRTFMasterTemp();
+    settings.USE_RTF = output.UseRtf;
+    settings.LANDSCAPE = output.Landscape;
+    settings.A4 = output.A4;
+}
+
+QList<clsReportRoute> AvailableRoutes()
+{
+    QList<clsReportRoute> routes;
+    QSet<QString> seen;
+    for (const clsReportCatalogue::Section& section : clsReportCatalogue::Sections()) {
+        const QList<clsReportCatalogue::FilterRow> rows = clsReportCatalogue::FilterRows(section.Key);
+        for (qsizetype i = 0; i < rows.size(); ++i) {
+            const clsReportRoute route = clsReportCatalogue::Route(section.Key, rows, static_cast<int>(i));
+            if (route.ClassName.isEmpty() || !route.Dialog.isEmpty() || seen.contains(route.ClassName) ||
+                !clsReportClasses::Exists(route.ClassName))
+                continue;
+            seen.insert(route.ClassName);
+            routes.append(route);
+        }
+    }
+    return routes;
+}
+
+int SectionKeyOf(const QString& text)
+{
+    const QString wanted = text.trimmed();
+    bool isNumber = false;
+    const int number = wanted.toInt(&isNumber);
+    for (const clsReportCatalogue::Section& section : clsReportCatalogue::Sections()) {
+        if (isNumber ? section.Key == number : section.Caption.compare(wanted, Qt::CaseInsensitive) == 0)
+            return section.Key;
+    }
+    return 0;
+}
+
+QString Write(const clsReportRoute& route, const Output& output)
+{
+    ApplyOutput(output);
+    return clsReportClasses::Build(route);
+}
+
+QStringList WriteAll(const QList<Output>& outputs, int* failed,
+                     const std::function<void(const QString& file)>& progress)
+{
+    QStringList written;
+    int failures = 0;
+    const QList<clsReportRoute> routes = AvailableRoutes();
+    for (const Output& output : outputs) {
+        for (const clsReportRoute& route : routes) {
+            const QString file = Write(route, output);
+            if (file.isEmpty()) {
+                ++failures;
+                continue;
+            }
+            written.append(file);
+            if (progress)
+                progress(file);
+        }
+    }
+    if (failed)
+        *failed = failures;
+    return written;
+}
+
+} // namespace modReportRunner

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "reports/clsReportRoute.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <functional>
+
+// Running reports without the report screen: the command line and the headless job use it, and the
+// screen's choices reach the reports the same way.
+namespace modReportRunner {
+
+// The dialect and paper a run writes with; the font and colours stay as the settings have them.
+struct Output {
+    bool UseRtf = true;
+    bool Landscape = true;
+    bool A4 = false;
+};
+
+// Hands the output to the settings every report reads.
+void ApplyOutput(const Output& output);
+
+// One route for each report class that can be built now without a dialog: the first filter row of
+// the catalogue that leads to it. In the catalogue's order.
+QList<clsReportRoute> AvailableRoutes();
+
+// The section with that key ("14") or caption ("Wedding Statistics", any case); 0 when none.
+int SectionKeyOf(const QString& text);
+
+// Writes the report of the route; the full name of the file, or empty when nothing was written (the
+// user has been told why through ShowMessage).
+QString Write(const clsReportRoute& route, const Output& output);
+
+// Writes every available report in each of the given dialects. `progress` hears of each file as it
+// is done (may be empty). The files written, in order; failures are counted in *failed.
+QStringList WriteAll(const QList<Output>& outputs, int* failed = nullptr,
+                     const std::function<void(const QString& file)>& progress = {});
+
+} // namespace modReportRunner
