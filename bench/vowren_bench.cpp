@@ -7,6 +7,9 @@
 #include "core/modSubMain.h"
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
+#include "reports/clsReportCatalogue.h"
+#include "reports/modReportRegistry.h"
+#include "reports/modReportRunner.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -227,6 +230,23 @@ void BM_GetTotal_AllContactFilters_BareSqlite(benchmark::State& state) {
 }
 BENCHMARK(BM_GetTotal_AllContactFilters_BareSqlite)->Unit(benchmark::kMillisecond);
 
+// ---- The contacts report -----------------------------------------------------------------------------
+
+// The whole guest list written as a document, landscape, into the report folder; the file of each round
+// replaces the last one. Compare with BM_ContactOpenRecords_BareSqlite, which reads the same rows.
+void BM_ContactsReport(benchmark::State& state) {
+    const QList<clsReportCatalogue::FilterRow> rows = clsReportCatalogue::FilterRows(clsReportCatalogue::Contacts);
+    const clsReportRoute route = clsReportCatalogue::Route(clsReportCatalogue::Contacts, rows, 0);
+    modReportRunner::Output output;
+    output.UseRtf = state.range(0) == 1;
+    for (auto _ : state) {
+        if (modReportRunner::Write(route, output).isEmpty())
+            state.SkipWithError("the contacts report was not written");
+    }
+    state.SetLabel(output.UseRtf ? "RTF" : "CSV");
+}
+BENCHMARK(BM_ContactsReport)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond);
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -248,6 +268,7 @@ int main(int argc, char** argv) {
     }
     std::printf("%s (made in %lld ms)\n", qPrintable(message), static_cast<long long>(fill.elapsed()));
     gPath = gDB().DatabasePath;
+    RegisterReportClasses();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

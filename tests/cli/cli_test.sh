@@ -53,6 +53,17 @@ check "parse-address CR LF" 0 '"city":"Springfield".*"zip":"62704"' "$cli" parse
 check "parse-address LF" 0 '"state":"IL"' "$cli" parse-address $'12 Maple Ave\nSpringfield, IL 62704'
 check "parse-name needs a name" 2 'takes one name' "$cli" parse-name
 
+check "report needs a section" 2 'give one of SECTION, --list or --all' "$cli" report
+check "report of no section" 2 'there is no section "Seating"' "$cli" report Seating
+check "report with a bad format" 2 '--format takes rtf, csv or both' "$cli" report Contacts --format pdf
+check "report with a bad filter" 2 '--filter takes the number' "$cli" report Contacts --filter x
+check "report of a missing row" 2 'no such filter row' "$cli" report Contacts --filter 77
+check "report custom filter row" 2 'takes its boxes from --custom' "$cli" report Contacts --filter 99999
+check "report custom box unknown" 2 'has no box "Martian"' "$cli" report Contacts --custom "A list+Martian"
+check "report custom on tables" 2 'only Contacts, Invitations, RSVPs and Attendees' "$cli" report Tables --custom "A list"
+check "report list" 0 '^  All Contacts \[0\]: 2' "$cli" report --list
+check "report list by section key" 0 '^Wedding Statistics \[14\]' "$cli" report --list
+
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
 check "the damaged file is untouched" 0 'not a database at all' cat "$home/Database/Vowren.quilldata"
