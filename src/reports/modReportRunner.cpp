@@ -48,8 +48,12 @@ int SectionKeyOf(const QString& text)
 
 QString Write(const clsReportRoute& route, const Output& output)
 {
+    clsRTFMasterTemp& settings = gRTFMasterTemp();
+    const Output before{settings.USE_RTF, settings.LANDSCAPE, settings.A4};
     ApplyOutput(output);
-    return clsReportClasses::Build(route);
+    const QString file = clsReportClasses::Build(route);
+    ApplyOutput(before);
+    return file;
 }
 
 QStringList WriteAll(const QList<Output>& outputs, int* failed,

@@ -28,8 +28,8 @@ QList<clsReportRoute> AvailableRoutes();
 // The section with that key ("14") or caption ("Wedding Statistics", any case); 0 when none.
 int SectionKeyOf(const QString& text);
 
-// Writes the report of the route; the full name of the file, or empty when nothing was written (the
-// user has been told why through ShowMessage).
+// Writes the report of the route with that output and leaves the settings as they were. The full
+// name of the file, or empty when nothing was written (the user has been told why).
 QString Write(const clsReportRoute& route, const Output& output);
 
 // Writes every available report in each of the given dialects. `progress` hears of each file as it
