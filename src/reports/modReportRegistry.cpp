@@ -1,7 +1,55 @@
 #include "reports/modReportRegistry.h"
 
+#include "reports/clsRTFAttendees.h"
+#include "reports/clsRTFAttendeesTabulaRasa.h"
+#include "reports/clsRTFContacts.h"
+#include "reports/clsRTFInvitation.h"
+#include "reports/clsRTFMeal.h"
+#include "reports/clsRTFRSVP.h"
+#include "reports/clsRTFRole.h"
+#include "reports/clsRTFStatistics.h"
+#include "reports/clsRTFTable.h"
+#include "reports/clsRTFTableLayout.h"
+#include "reports/clsRTFTentcard.h"
 #include "reports/clsReportClasses.h"
 
-void RegisterReportClasses()
-{
+#include <functional>
+
+namespace {
+
+// The route's filter, for the classes that take one.
+void TakeFilter(clsRTFFilteredReport& report, const clsReportRoute& route) {
+    report.FilterEnum = route.FilterEnum;
+    report.FilterText = route.FilterText;
+    report.CustomWhere = route.CustomWhere;
+}
+
+// Registers a class whose builder makes the report, hands it what the route carries and writes it.
+template <class Report> void Register(std::function<void(Report&, const clsReportRoute&)> setUp = {}) {
+    const Report prototype;
+    clsReportClasses::Register(prototype.ClassName(), [setUp](const clsReportRoute& route) {
+        Report report;
+        if (setUp)
+            setUp(report, route);
+        return report.Build();
+    });
+}
+
+} // namespace
+
+void RegisterReportClasses() {
+    Register<clsRTFContacts>([](clsRTFContacts& report, const clsReportRoute& route) {
+        TakeFilter(report, route);
+        report.ExcludeBrideGroom = route.ExcludeBrideGroom;
+    });
+    Register<clsRTFInvitation>(TakeFilter);
+    Register<clsRTFRSVP>(TakeFilter);
+    Register<clsRTFAttendees>(TakeFilter);
+    Register<clsRTFAttendeesTabulaRasa>();
+    Register<clsRTFMeal>();
+    Register<clsRTFRole>();
+    Register<clsRTFTable>();
+    Register<clsRTFTableLayout>();
+    Register<clsRTFTentcard>();
+    Register<clsRTFStatistics>();
 }

@@ -1,5 +1,6 @@
 #include "TestHome.h"
 #include "core/modGeneral.h"
+#include "reports/GuestReportTestData.h"
 #include "reports/RtfTestTools.h"
 #include "reports/clsRTFMaster.h"
 #include "reports/clsRTFMasterTemp.h"
@@ -35,6 +36,33 @@ class tst_RtfInLibreOffice : public QObject {
         }
         const QString result = outDir + "/" + QFileInfo(file).completeBaseName() + "." + extension;
         return QFileInfo::exists(result) ? result : QString();
+    }
+
+    // Converts the files with LibreOffice in one run into outDir; the result of each file, or "" for one
+    // LibreOffice did not make.
+    QStringList ConvertAll(const QStringList& files, const QString& filter, const QString& extension,
+                           const QString& outDir) {
+        QDir().mkpath(outDir);
+        QProcess process;
+        process.start(soffice,
+                      QStringList{"-env:UserInstallation=" + QUrl::fromLocalFile(profile.path()).toString(),
+                                  "--headless", "--convert-to", filter, "--outdir", outDir} +
+                          files);
+        if (!process.waitForFinished(600000))
+            process.kill();
+        QStringList results;
+        for (const QString& file : files) {
+            const QString result = outDir + "/" + QFileInfo(file).completeBaseName() + "." + extension;
+            results << (QFileInfo::exists(result) ? result : QString());
+        }
+        return results;
+    }
+
+    QString PdfText(const QString& pdf) {
+        QProcess process;
+        process.start(QStandardPaths::findExecutable("pdftotext"), {"-layout", pdf, "-"});
+        process.waitForFinished(60000);
+        return QString::fromUtf8(process.readAllStandardOutput());
     }
 
     static QString Nasty() { return QStringLiteral(R"(Zoë O'Brien-Łukasik {Jr.} C:\temp)"); }
@@ -141,6 +169,54 @@ private slots:
             QVERIFY(simplified.contains("As of Jun 5, 2027"));
         }
         QVERIFY(text.contains("Guest number 120"));
+    }
+
+    // Every guest report of a small wedding, in landscape Letter and in portrait A4, opens in
+    // LibreOffice with the hard name as typed and page numbers in the footer. The name stands in each
+    // report: as a guest, an envelope, a meal, a table's label or a tent card.
+    void guestReportsOpen() {
+        if (QStandardPaths::findExecutable("pdftotext").isEmpty())
+            QSKIP("pdftotext (poppler-utils) is not on PATH.");
+        RegisterReportClasses();
+        TestDatabase db;
+        GuestReportTestData::MakeSmallWedding();
+        TestDatabase::Exec("UPDATE MEAL_DICT SET MEAL_TX = ? WHERE MEAL_TX = 'Fish'", {Nasty()});
+        TestDatabase::Exec("UPDATE DINING_TABLE SET DINING_TABLE_NM = ? WHERE DINING_TABLE_ID = 2",
+                           {Nasty()});
+        const QList<QPair<QString, int>> reports{{"clsRTFContacts", 0},
+                                                 {"clsRTFInvitation", 0},
+                                                 {"clsRTFRSVP", 1},
+                                                 {"clsRTFAttendees", 14},
+                                                 {"clsRTFAttendeesTabulaRasa", 0},
+                                                 {"clsRTFMeal", 0},
+                                                 {"clsRTFRole", 0},
+                                                 {"clsRTFTable", 0},
+                                                 {"clsRTFTableLayout", 0},
+                                                 {"clsRTFTentcard", 0},
+                                                 {"clsRTFStatistics", 0}};
+        for (const bool landscape : {true, false}) {
+            QStringList files;
+            for (const auto& [className, filter] : reports) {
+                const GuestReportTestData::Shown shown = GuestReportTestData::Write(
+                    GuestReportTestData::Route(className, filter), true, landscape, !landscape);
+                QVERIFY2(shown.Error.isEmpty(), qPrintable(className + ": " + shown.Error));
+                files << shown.File;
+            }
+            const QString outDir = db.File(landscape ? "landscape" : "portrait");
+            const QStringList texts = ConvertAll(files, "txt:Text", "txt", outDir);
+            const QStringList pdfs = ConvertAll(files, "pdf", "pdf", outDir);
+            for (qsizetype i = 0; i < files.size(); ++i) {
+                const QString what = reports[i].first + (landscape ? " landscape" : " portrait");
+                QVERIFY2(!texts[i].isEmpty() && !pdfs[i].isEmpty(), qPrintable(what + ": not converted"));
+                const QString text = QString::fromUtf8(RtfTestTools::FileBytes(texts[i]));
+                // Only the portrait contacts list has the guest's name alone, last name first.
+                const QString name = reports[i].first == "clsRTFContacts" && !landscape
+                                         ? GuestReportTestData::NastyLast() + ", Zoë"
+                                         : Nasty();
+                QVERIFY2(text.contains(name), qPrintable(what + "\n" + text));
+                QVERIFY2(PdfText(pdfs[i]).simplified().contains("Page 1 of "), qPrintable(what));
+            }
+        }
     }
 };
 

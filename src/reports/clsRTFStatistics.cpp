@@ -1,0 +1,155 @@
+#include "reports/clsRTFStatistics.h"
+
+#include "core/clsApp.h"
+#include "core/clsDICT.h"
+#include "core/modGeneral.h"
+#include "guests/clsCONTACT.h"
+#include "planning/clsBUDGET_CATEGORY_DICT.h"
+#include "planning/clsEVENT.h"
+#include "seating/clsDINING_TABLE.h"
+
+#include <cstdlib>
+
+namespace {
+const QString kIndent = QStringLiteral("    ");
+
+// The whole part of a number as the countdown takes it: the digits before the point when written
+// with four decimals (so 0.99999 days already count as one).
+long long WholePart(double value) {
+    const QString text = QString::number(value, 'f', 4);
+    return text.left(text.indexOf(QLatin1Char('.'))).toLongLong();
+}
+
+QString UnitText(long long number, const char* unit) {
+    if (number < 1)
+        return {};
+    return QString::number(number) + QLatin1Char(' ') + QLatin1String(unit) +
+           (number >= 2 ? QStringLiteral("s ") : QStringLiteral(" "));
+}
+
+QString Contacts(int key, bool excludeBrideGroom = false) {
+    return QString::number(gApp().TotalContacts(key, QString(), excludeBrideGroom));
+}
+QString Invitations(int key) {
+    return QString::number(gApp().TotalInvitations(key));
+}
+} // namespace
+
+QString clsRTFStatistics::TimeToWeddingText(const QString& weddingDateTime, const QDateTime& now) {
+    const QDateTime wedding = ParseDateTimeText(weddingDateTime);
+    if (!wedding.isValid())
+        return {};
+    const long long s = std::llabs(now.secsTo(wedding));
+    const long long days = WholePart(double(s) / 86400.0);
+    long long rest = s - days * 86400;
+    const long long hours = WholePart(double(rest) / 3600.0);
+    rest -= hours * 3600;
+    const long long minutes = WholePart(double(rest) / 60.0);
+    const long long seconds = s % 60;
+    const QString secondText =
+        QString::number(seconds) + (seconds == 1 ? QStringLiteral(" second ") : QStringLiteral(" seconds "));
+    if (days < 1)
+        return UnitText(hours, "hour") + UnitText(minutes, "minute") + secondText;
+    if (days <= 14)
+        return UnitText(days, "day") + UnitText(hours, "hour") + UnitText(minutes, "minute");
+    if (days <= 31)
+        return UnitText(days, "day") + UnitText(hours, "hour");
+    return UnitText(days, "day");
+}
+
+RtfMarkup clsRTFStatistics::Title() const {
+    clsCONTACT bride;
+    bride.OpenRecord(QStringLiteral("1"));
+    clsCONTACT groom;
+    groom.OpenRecord(QStringLiteral("2"));
+    return bride.FirstMiddle() + QStringLiteral(" and ") + groom.FirstMiddle() +
+           QStringLiteral(" Wedding Statistics");
+}
+
+QList<clsRTFReport::Column> clsRTFStatistics::Columns() const {
+    return {{"Wedding Statistics", 10500, 7000}, {"Count", 0, 0, clsRTFCell::AlignRight}};
+}
+
+void clsRTFStatistics::Line(LineKind kind, const QString& label, const QString& figure) {
+    RTF.SetCellsBOLD(kind == Head);
+    RTF.SetCellsCELL_BACKCOLOR(kind == Head ? clsRTFMasterTemp::SubHeaderFill : clsRTFMasterTemp::NoColor);
+    PrintRow({kind == Child ? kIndent + label : label, figure});
+}
+
+void clsRTFStatistics::MoneyLine(const QString& label, double amount, bool redWhenNegative) {
+    // Below zero as it is shown, to the cent: a remainder of -0.001 is no debt.
+    const bool red = redWhenNegative && QString::number(amount, 'f', 2).toDouble() < 0;
+    RTF.RTFCells.last().CELL_FORECOLOR = red ? clsRTFMasterTemp::Red : clsRTFMasterTemp::NoColor;
+    Line(Plain, label, Money(amount));
+}
+
+void clsRTFStatistics::PrintRows() {
+    clsEVENT wedding;
+    wedding.OpenRecord(QStringLiteral("1"));
+    const QString timeToWedding =
+        gApp().TimeToWedding.isEmpty() ? TimeToWeddingText(wedding.EVENT_DT, Now()) : gApp().TimeToWedding;
+    Line(Plain,
+         clsApp::Married(wedding.EVENT_DT, Now()) ? QStringLiteral("Time Married")
+                                                  : QStringLiteral("Time until Wedding"),
+         timeToWedding.trimmed());
+
+    // The guest figures speak of the guests: the couple is left out wherever a filter can leave them out
+    // (attendance, seats, meals).
+    const bool guestsOnly = true;
+    Line(Head, QStringLiteral("Total Contacts"), Contacts(0, guestsOnly));
+    static const struct {
+        const char* Label;
+        int Key;
+    } contactRows[] = {{"Friend of Bride", 1}, {"Friend of Groom", 2}, {"Friend of Both", 3},
+                       {"A-list", 4},          {"B-list", 5},          {"Local", 24},
+                       {"Out of Towner", 25},  {"No Address", 8},      {"Not Yet Invited Contacts", 7}},
+      invitedRows[] = {{"Friend of Bride", 9}, {"Friend of Groom", 10}, {"Friend of Both", 11},
+                       {"A-list", 12},         {"B-list", 13},          {"Local", 26},
+                       {"Out of Towner", 27}},
+      invitationRows[] = {{"Sent", 1},
+                          {"RSVPs Received", 3},
+                          {"RSVPs No Reply", 4},
+                          {"Unsent", 2},
+                          {"No Address", 8}},
+      attendeeRows[] = {{"Friend of Bride", 15}, {"Friend of Groom", 16}, {"Friend of Both", 17},
+                        {"Seated", 21},          {"To be seated", 22},    {"Local", 28},
+                        {"Out of Towner", 29}};
+    for (const auto& row : contactRows)
+        Line(Child, QString::fromLatin1(row.Label), Contacts(row.Key, guestsOnly));
+    Line(Head, QStringLiteral("Invited Contacts"), Contacts(6, guestsOnly));
+    for (const auto& row : invitedRows)
+        Line(Child, QString::fromLatin1(row.Label), Contacts(row.Key, guestsOnly));
+    Line(Head, QStringLiteral("Invitations"), Invitations(0));
+    for (const auto& row : invitationRows)
+        Line(Child, QString::fromLatin1(row.Label), Invitations(row.Key));
+    Line(Head, QStringLiteral("Attendees") + QStringLiteral(" (does not include bride and groom)"),
+         Contacts(14, guestsOnly));
+    for (const auto& row : attendeeRows)
+        Line(Child, QString::fromLatin1(row.Label), Contacts(row.Key, guestsOnly));
+    for (const clsDICT& meal : clsDICT(clsDICT::Meal).OpenRecords(clsDICT::Meal))
+        Line(Child, meal.TX,
+             QString::number(
+                 gApp().TotalContacts(1000, QStringLiteral("CONTACT.MEAL_ID = ") + meal.ID, guestsOnly)));
+    Line(Child, QStringLiteral("Unspecified"), Contacts(999, guestsOnly));
+    Line(Plain, QStringLiteral("Total Number of Tables"),
+         QString::number(gApp().TotalTables(clsDINING_TABLE::TotalTables)));
+
+    Line(Head, QStringLiteral("Gifts"), QString::number(gApp().TotalGifts(0)));
+    Line(Child, QStringLiteral("Thank You Notes Sent"), QString::number(gApp().TotalGifts(1)));
+    Line(Child, QStringLiteral("Thank You Notes Unsent"), QString::number(gApp().TotalGifts(2)));
+    Line(Head, QStringLiteral("Tasks"), QString::number(gApp().TotalTasks(0)));
+    Line(Child, QStringLiteral("Open"), QString::number(gApp().TotalTasks(1)));
+    Line(Child, QStringLiteral("Completed"), QString::number(gApp().TotalTasks(2)));
+    Line(Child, QStringLiteral("Current"), QString::number(gApp().TotalTasks(3)));
+
+    const double budget = gApp().TotalBudgetSumEstimates();
+    const double actual = clsBUDGET_CATEGORY_DICT::TotalSumActual();
+    MoneyLine(QStringLiteral("Total Wedding Budget"), budget);
+    MoneyLine(QStringLiteral("Total Actual Expenses"), actual);
+    MoneyLine(QStringLiteral("Total Remaining"), budget - actual, true);
+    RTF.RTFCells.last().CELL_FORECOLOR = clsRTFMasterTemp::NoColor;
+
+    Line(Plain, QStringLiteral("Vendors"), QString::number(gApp().TotalVendors()));
+    Line(Plain, QStringLiteral("Events"), QString::number(gApp().TotalEvents()));
+    Line(Plain, QStringLiteral("Timelines"), QString::number(gApp().TotalTimelineEvents()));
+}

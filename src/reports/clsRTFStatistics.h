@@ -1,0 +1,26 @@
+#pragma once
+
+#include "reports/clsRTFReport.h"
+
+#include <QDateTime>
+
+// One page of figures about the wedding: a label and a count a line, grouped under bold heads. Every
+// figure is one of the application's totals.
+class clsRTFStatistics : public clsRTFReport {
+public:
+    clsRTFStatistics() : clsRTFReport("clsRTFStatistics") {}
+
+    // The time between now and the wedding as the countdown words it ("12 days 3 hours 5 minutes ");
+    // empty without a wedding date. Days alone beyond a month; seconds only on the last day.
+    static QString TimeToWeddingText(const QString& weddingDateTime, const QDateTime& now);
+
+protected:
+    RtfMarkup Title() const override;
+    QList<Column> Columns() const override;
+    void PrintRows() override;
+
+private:
+    enum LineKind { Plain, Head, Child };
+    void Line(LineKind kind, const QString& label, const QString& figure);
+    void MoneyLine(const QString& label, double amount, bool redWhenNegative = false);
+};
