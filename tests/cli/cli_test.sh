@@ -63,6 +63,15 @@ check "report custom box unknown" 2 'has no box "Martian"' "$cli" report Contact
 check "report custom on tables" 2 'only Contacts, Invitations, RSVPs and Attendees' "$cli" report Tables --custom "A list"
 check "report list" 0 '^  All Contacts \[0\]: 2' "$cli" report --list
 check "report list by section key" 0 '^Wedding Statistics \[14\]' "$cli" report --list
+check "report list marks what exists" 0 'All Gifts \[0\]: 0 \(not yet available\)' "$cli" report --list
+check "report writes RTF" 0 "^$home/Reports/01_Contacts_[0-9_-]+\.rtf$" "$cli" report Contacts
+check "report writes CSV by section key" 0 "^$home/Reports/04_Meals_.*\.csv$" "$cli" report 4 --filter 98 --format csv
+check "report of statistics in portrait A4" 0 '12_Wedding_Statistics_.*\.rtf$' "$cli" report "wedding statistics" --portrait --a4
+check "report with a custom filter" 0 '01_Contacts_.*\.csv$' "$cli" report Contacts --custom "Friend of Bride+A list" --format csv
+check "report not yet available" 1 'not available yet' "$cli" report Gifts
+check "report needing the screen" 2 'needs the report screen' "$cli" report Tables --filter 3
+check "report all in both dialects" 0 '04_Tentcard_.*\.csv' "$cli" report --all
+check "report files are RTF" 0 '^\{\\rtf1' head -c 6 "$(ls "$home"/Reports/12_Wedding_Statistics_*.rtf | head -1)"
 
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
