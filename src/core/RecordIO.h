@@ -64,6 +64,20 @@ void Fill(T& record, const clsRecordset& rs, int row, const RecordTable<T>& tabl
     Fill(record, rs, row, table, FieldColumns(rs, table));
 }
 
+// Every row of the recordset as a record; where each column stands is looked up once.
+template <class T>
+QList<T> FillAll(const clsRecordset& rs, const RecordTable<T>& table) {
+    QList<T> records;
+    records.reserve(rs.RowCount());
+    const std::vector<int> columns = FieldColumns(rs, table);
+    for (int row = 0; row < rs.RowCount(); ++row) {
+        T record;
+        Fill(record, rs, row, table, columns);
+        records.append(std::move(record));
+    }
+    return records;
+}
+
 // Fills the record from the first row of a query; no row leaves it as it was. False on failure or no row.
 template <class T>
 bool OpenFirst(T& record, const RecordTable<T>& table, const QString& sql, const QVariantList& values) {

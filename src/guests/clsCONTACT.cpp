@@ -421,15 +421,7 @@ QString clsCONTACT::SelectSQL() {
 }
 
 QList<clsCONTACT> clsCONTACT::Query(const QString& sql, const QVariantList& values) {
-    QList<clsCONTACT> records;
-    const clsRecordset rs = gDB().Execute(sql, values);
-    records.reserve(rs.RowCount());
-    for (int row = 0; row < rs.RowCount(); ++row) {
-        clsCONTACT record;
-        RecordIO::Fill(record, rs, row, ReadTable());
-        records.append(std::move(record));
-    }
-    return records;
+    return RecordIO::FillAll(gDB().Execute(sql, values), ReadTable());
 }
 
 bool clsCONTACT::OpenRecord(const QString& contactId, const QString& roleId, const QString& email,

@@ -246,15 +246,7 @@ QList<clsINVITE> clsINVITE::OpenRecordsOrThrow(int filter, bool SortByName, cons
     const QString order =
         SortByName ? QStringLiteral(" ORDER BY INVITE.DISPLAY_AS_TX COLLATE NOCASE, INVITE.INVITE_ID")
                    : QStringLiteral(" ORDER BY INVITE.INVITE_RSVP_ID, INVITE.INVITE_ID");
-    const clsRecordset rs = gDB().Execute(SelectSQL() + BuildInviteWhere(filter, customWhere) + order);
-    QList<clsINVITE> records;
-    records.reserve(rs.RowCount());
-    for (int row = 0; row < rs.RowCount(); ++row) {
-        clsINVITE record;
-        RecordIO::Fill(record, rs, row, ReadTable());
-        records.append(std::move(record));
-    }
-    return records;
+    return RecordIO::FillAll(gDB().Execute(SelectSQL() + BuildInviteWhere(filter, customWhere) + order), ReadTable());
 }
 
 QList<clsINVITE> clsINVITE::OpenRecords(int filter, bool SortByName, const QString& customWhere) {

@@ -102,9 +102,10 @@ QList<clsGIFT> clsGIFT::Open(const QString& sql, const QVariantList& values) {
     QList<clsGIFT> gifts;
     try {
         const clsRecordset rs = gDB().Execute(sql, values);
+        const std::vector<int> columns = RecordIO::FieldColumns(rs, ReadTable());
         for (int row = 0; row < rs.RowCount(); ++row) {
             clsGIFT gift;
-            RecordIO::Fill(gift, rs, row, ReadTable());
+            RecordIO::Fill(gift, rs, row, ReadTable(), columns);
             auto value = [&](const char* column) { return rs.Value(row, QString::fromLatin1(column)); };
             if (!gift.CONTACT_ID.isEmpty()) {
                 gift.GIVER_NM = LastFirstMiddleSuffix(value("GIVER_FIRST_NM"), value("GIVER_MIDDLE_NM"),

@@ -147,9 +147,10 @@ bool clsTASK::RefreshDueDates() {
     try {
         const clsRecordset rs = gDB().Execute(SelectSql() + kChecklistOrder);
         clsTransaction tx(gDB());
+        const std::vector<int> columns = RecordIO::FieldColumns(rs, ReadTable());
         for (int row = 0; row < rs.RowCount(); ++row) {
             clsTASK task;
-            RecordIO::Fill(task, rs, row, ReadTable());
+            RecordIO::Fill(task, rs, row, ReadTable(), columns);
             task.DUE_DT = CalculateDueDate(task, wedding);
             RecordIO::SaveOrThrow(task, Table(), false);
         }

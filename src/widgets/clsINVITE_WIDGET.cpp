@@ -116,9 +116,10 @@ QList<clsINVITE_WIDGET> clsINVITE_WIDGET::OpenRecords(const QString& eventID) {
     QList<clsINVITE_WIDGET> rows;
     try {
         const clsRecordset rs = gDB().Execute(kListSelect, {eventID});
+        const std::vector<int> columns = RecordIO::FieldColumns(rs, Table());
         for (int i = 0; i < rs.RowCount(); ++i) {
             clsINVITE_WIDGET row;
-            RecordIO::Fill(row, rs, i, Table());
+            RecordIO::Fill(row, rs, i, Table(), columns);
             row.EVENT_TX = rs.Value(i, QStringLiteral("EVENT_TX"));
             row.DISPLAY_NM = rs.Value(i, QStringLiteral("DISPLAY_NM"));
             FillDisplay(row);
