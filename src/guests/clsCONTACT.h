@@ -103,6 +103,8 @@ public:
     QString LastFirstMiddle() const;
     QString LastFirstSuffix() const;
     QString LastFirstMiddleSuffix() const;
+    // A person in a list, last name first; the guest someone brings without a name is "Guest".
+    QString ListName() const { return IsAnonymousGuest() ? QStringLiteral("Guest") : LastFirstMiddleSuffix(); }
     QString LastTitleFirst() const;
     QString NickOrFirstMiddle() const;
     QString TitleFirstMiddleLastSuffix() const;

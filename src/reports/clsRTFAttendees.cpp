@@ -37,7 +37,7 @@ void clsRTFAttendees::PrintRows() {
                       c.DINING_TABLE_NM, c.NOTES_TX, c.SORT_ORDER_NB});
             continue;
         }
-        RtfMarkup name(ListName(c));
+        RtfMarkup name(c.ListName());
         if (!c.NOTES_TX.trimmed().isEmpty())
             name += RtfMarkup::LineBreak() +
                     clsRTFMaster::ITALIC(QStringLiteral("(") + c.NOTES_TX.trimmed() + QStringLiteral(")"));

@@ -46,7 +46,7 @@ void clsRTFContacts::PrintRows() {
 
 QList<RtfMarkup> clsRTFContacts::LandscapeTexts(const clsCONTACT& c) const {
     return {c.TITLE_TX,
-            ListName(c),
+            c.ListName(),
             c.DisplayAddress(true),
             Stacked(c.PHONE_NUMBERS(true), c.EMAIL_TX),
             c.FRIEND_OF_TX(),
@@ -55,7 +55,7 @@ QList<RtfMarkup> clsRTFContacts::LandscapeTexts(const clsCONTACT& c) const {
 }
 
 QList<RtfMarkup> clsRTFContacts::PortraitTexts(const clsCONTACT& c) const {
-    return {c.TITLE_TX, Stacked(ListName(c), c.DisplayAddress(true)),
+    return {c.TITLE_TX, Stacked(c.ListName(), c.DisplayAddress(true)),
             Stacked(c.PHONE_NUMBERS(true), c.EMAIL_TX), c.FRIEND_OF_TX(), c.AB_LIST_CD};
 }
 

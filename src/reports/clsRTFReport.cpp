@@ -24,10 +24,6 @@ QString clsRTFReport::Money(double amount) {
     return locale.toCurrencyString(amount);
 }
 
-QString clsRTFReport::ListName(const clsCONTACT& contact) {
-    return contact.IsAnonymousGuest() ? QStringLiteral("Guest") : contact.LastFirstMiddleSuffix();
-}
-
 QString clsRTFReport::Stacked(const QString& first, const QString& second) {
     if (first.isEmpty() || second.isEmpty())
         return first + second;

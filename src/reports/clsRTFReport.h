@@ -5,7 +5,6 @@
 #include <QList>
 #include <QString>
 
-class clsCONTACT;
 
 // What every list report shares: one writer, the run from file name to closing, and the rows the
 // family prints alike (the repeating header row, group rows, full-width notes, data rows filled cell by
@@ -67,8 +66,6 @@ protected:
     // One cell over the whole width without border or fill; afterwards the data columns come back.
     void NoteRow(const RtfMarkup& text);
 
-    // A person as lists show them, last name first; the anonymous guest someone brings is "Guest".
-    static QString ListName(const clsCONTACT& contact);
     static QString Count(long number) { return QString::number(number); }
     // Two texts on lines of their own; either alone when the other is empty.
     static QString Stacked(const QString& first, const QString& second);

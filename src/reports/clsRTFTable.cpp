@@ -31,6 +31,6 @@ void clsRTFTable::PrintRows() {
                 caption += QStringLiteral(" - ") + c.DINING_TABLE_NM;
             GroupRow(caption);
         }
-        PrintRow({c.INVITE_RSVP_ID, ListName(c), c.MEAL_TX});
+        PrintRow({c.INVITE_RSVP_ID, c.ListName(), c.MEAL_TX});
     }
 }
