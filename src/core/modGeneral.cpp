@@ -88,6 +88,8 @@ QString QuoteDate(const QString& text, const QString& ifEmpty) {
 QString QuoteCSV(const QString& text) {
     if (text.isEmpty())
         return {};
+    if (!text.contains(QLatin1Char('"')))
+        return QLatin1Char('"') + text + QLatin1Char('"');
     QString doubled = text;
     doubled.replace(QLatin1Char('"'), QLatin1String("\"\""));
     return QLatin1Char('"') + doubled + QLatin1Char('"');

@@ -1,5 +1,6 @@
 #include "reports/RtfMarkup.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -65,7 +66,21 @@ unsigned char RtfMarkup::Windows1252Byte(char16_t unit) {
     return 0x3F;
 }
 
+namespace {
+
+// Printable ASCII other than the three characters RTF reserves: such a text is its own RTF.
+bool NeedsNoEscape(const QString& text) {
+    return std::all_of(text.cbegin(), text.cend(), [](QChar c) {
+        const char16_t unit = c.unicode();
+        return unit >= 0x20 && unit < 0x7F && unit != u'\\' && unit != u'{' && unit != u'}';
+    });
+}
+
+} // namespace
+
 QString RtfMarkup::EscapeText(const QString& text) {
+    if (NeedsNoEscape(text))
+        return text; // shares the text, no copy
     QString out;
     out.reserve(text.size() + text.size() / 4);
     for (qsizetype i = 0; i < text.size(); ++i) {

@@ -71,6 +71,8 @@ QString FontNameRTF(const QString& name) {
 
 // A field of a CSV record: line breaks as CR LF, quoted when not empty, inner quotes doubled.
 QString CsvField(const QString& text) {
+    if (!text.contains(QLatin1Char('\r')) && !text.contains(QLatin1Char('\n')))
+        return QuoteCSV(text);
     QString normalised = text;
     normalised.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     normalised.replace(QLatin1Char('\r'), QLatin1Char('\n'));
@@ -325,32 +327,42 @@ void clsRTFMaster::PrintCells(bool RowHeader, int RTF_HEIGHT) {
         mFile.WriteLine(CsvRecord());
         return;
     }
+    // The row goes to the file in one piece, its lines joined by CR LF.
+    QString out;
+    out.reserve(256 * RTFCells.size());
+    const auto line = [&out](const QString& text, bool blankBefore = false) {
+        if (blankBefore)
+            out += QLatin1String("\r\n");
+        out += text;
+        out += QLatin1String("\r\n");
+    };
     QString row = QStringLiteral("\\trowd\\trkeep");
     if (RTF_HEIGHT >= 1)
         row += QLatin1String("\\trrh-") + Number(RTF_HEIGHT); // negative: exactly this high
     if (RowHeader)
         row += QLatin1String("\\trhdr");
     row += QLatin1String("\\trgaph90\\trleft0\\trql");
-    WriteLine(row);
+    line(row);
     const QString padding = QLatin1String("\\cltxlrtb\\clpadl") + Number(CELL_MARGIN_LEFT) +
                             QLatin1String("\\clpadt") + Number(CELL_MARGIN_TOP) + QLatin1String("\\clpadb") +
                             Number(CELL_MARGIN_BOTTOM) + QLatin1String("\\clpadr") +
                             Number(CELL_MARGIN_RIGHT) + QLatin1String("\\clpadfl3\\clpadfb3");
     for (const clsRTFCell& cell : RTFCells) {
-        WriteLine(cell.RTF_CELL_BACKCOLOR());
-        WriteLine(cell.RTF_CELL_BORDER());
-        WriteLine(padding);
-        WriteLine(cell.RTF_CELL_VERTICAL_ALIGNMENT());
-        WriteLine(QLatin1String("\\cellx") + Number(cell.CELLX));
+        line(cell.RTF_CELL_BACKCOLOR());
+        line(cell.RTF_CELL_BORDER());
+        line(padding);
+        line(cell.RTF_CELL_VERTICAL_ALIGNMENT());
+        line(QLatin1String("\\cellx") + Number(cell.CELLX));
     }
-    WriteLine(QStringLiteral("\\pard"), 1);
+    line(QStringLiteral("\\pard"), true);
     for (clsRTFCell& cell : RTFCells) {
-        WriteLine(QLatin1String("\\intbl") + cell.RTF_CELL_HORIZONTAL_ALIGNMENT() +
-                  cell.RTF_CELL_FORECOLOR() + QLatin1String("\\sb30\\sa30 ") + CellTextRTF(cell) +
-                  QLatin1String("\\cell\\pard"));
+        line(QLatin1String("\\intbl") + cell.RTF_CELL_HORIZONTAL_ALIGNMENT() + cell.RTF_CELL_FORECOLOR() +
+             QLatin1String("\\sb30\\sa30 ") + CellTextRTF(cell) + QLatin1String("\\cell\\pard"));
     }
-    WriteLine(QStringLiteral("\\intbl\\row"), 1);
-    WriteLine(QStringLiteral("\\pard"), 1);
+    line(QStringLiteral("\\intbl\\row"), true);
+    line(QStringLiteral("\\pard"), true);
+    out.chop(2); // the file adds the last line end
+    WriteLine(out);
 }
 
 void clsRTFMaster::PrintBlankCells() {
