@@ -2,13 +2,18 @@
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
 #include "core/modSubMain.h"
-#include "platform/VowrenPaths.h"
 #include "platform/clsShell.h"
+#include "shell/frmVowren.h"
+#include "shell/mdiMain.h"
+#include "shell/modPages.h"
+#include "shell/modScreenshots.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDesktopServices>
 #include <QMessageBox>
 #include <QUrl>
+#include <cstring>
 
 namespace {
 
@@ -16,7 +21,7 @@ namespace {
 class BoxMessageSink : public clsMessageSink {
 public:
     int Show(const QString& prompt, int buttons, const QString& title) override {
-        QMessageBox box;
+        QMessageBox box(QApplication::activeWindow());
         box.setWindowTitle(title);
         box.setText(prompt);
         const int icon = buttons & 0x70;
@@ -51,12 +56,43 @@ public:
     }
 };
 
+// Pictures are made without a display, whatever the desktop offers.
+void OffscreenForScreenshots(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i)
+        if (std::strcmp(argv[i], "--screenshots") == 0 || std::strncmp(argv[i], "--screenshots=", 14) == 0)
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
+    OffscreenForScreenshots(argc, argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vowren"));
     QApplication::setApplicationVersion(clsApp::MajorMinorRevision());
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Vowren, the wedding planner."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption noSplash(QStringLiteral("no-splash"), QStringLiteral("Open the main window at once."));
+    const QCommandLineOption screenshots(QStringLiteral("screenshots"),
+                                         QStringLiteral("Write a picture of every screen over a demo wedding into <folder>."),
+                                         QStringLiteral("folder"));
+    parser.addOption(noSplash);
+    parser.addOption(screenshots);
+    parser.process(app);
+
+    mdiMain::ApplyLook();
+    modPages::RegisterKnownScreens();
+
+    if (parser.isSet(screenshots)) {
+        QString message;
+        const int written = modScreenshots::Run(parser.value(screenshots), &message);
+        std::fprintf(written > 0 ? stdout : stderr, "%s\n", qPrintable(message));
+        return written > 0 ? 0 : 1;
+    }
+
     SetMessageSink(std::make_unique<BoxMessageSink>());
     gShell().SetOpener([](const QString& target) {
         const QUrl url(target);
@@ -65,14 +101,18 @@ int main(int argc, char** argv) {
     });
 
     QString failure;
-    if (!modSubMain::Start(&failure)) {
+    if (!modSubMain::OpenDatabase(&failure)) {
         ShowMessage(failure, Msg::OKOnly | Msg::Exclamation);
         return 1;
     }
-    ShowMessage(QStringLiteral("Vowren %1\n\nYour wedding database is ready: %2\n\n"
-                               "The planner's pages are not part of this build yet; "
-                               "use vowren-cli for the jobs that are.")
-                    .arg(clsApp::MajorMinorRevision(), gApp().DatabasePath()),
-                Msg::Information);
-    return 0;
+    if (parser.isSet(noSplash)) {
+        modSubMain::RunPatchesAndOpenGlobals();
+        auto* window = new mdiMain;
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->show();
+    } else {
+        auto* splash = new frmVowren;
+        splash->show();
+    }
+    return app.exec();
 }

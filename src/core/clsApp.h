@@ -60,6 +60,13 @@ public:
     // Written when the wedding day is saved, for outside readers; nothing reads it back.
     void SetWeddingDate(const QString& v) { SetText("WeddingDate", v); }
 
+    // ---- The maker's web addresses, kept as settings so that they can be pointed elsewhere ----
+    QString UpdatesURL() const { return GetText("UpdatesURL", "https://vowren.app/updates"); }
+    QString FeatureTourURL() const { return GetText("FeatureTourURL", "https://vowren.app/tour"); }
+    QString HomePageURL() const { return GetText("HomePageURL", "https://vowren.app"); }
+    QString BlogURL() const { return GetText("BlogURL", "https://vowren.app/blog"); }
+    QString ForumsURL() const { return GetText("ForumsURL", "https://vowren.app/forums"); }
+
     // ---- Keys ----
     static QString RootKey() { return QStringLiteral("Software/QuillSoftware/Vowren"); }
     // The root key + "/" + Release: per-form settings start afresh with each major or minor version.

@@ -1,0 +1,264 @@
+#include "guests/ui/frmMain_02_Invitations.h"
+
+#include "core/ShowMessage.h"
+#include "core/clsApp.h"
+#include "guests/clsINVITE.h"
+#include "guests/ui/GuestIcons.h"
+#include "guests/ui/frmInvite.h"
+#include "guests/ui/frmInviteRSVPIDs.h"
+#include "reports/clsReportCatalogue.h"
+#include "reports/ui/modReportDialogs.h"
+#include "shell/controls/usrHyperlink.h"
+#include "shell/grid/modGrid.h"
+
+#include <QMenu>
+
+namespace {
+
+const QString kDelete = QStringLiteral("Delete invitation");
+const QString kSort = QStringLiteral("Sort RSVP IDs");
+
+QList<clsGridColumn> InvitationColumns() {
+    using K = GridColumnKind;
+    return {
+        clsGridColumn(QStringLiteral("ICO"), QString(), 28).OfKind(K::Icon),
+        clsGridColumn(QStringLiteral("RSVP_ID"), QStringLiteral("RSVP ID"), 70).OfKind(K::Number).StoreWidth(),
+        clsGridColumn(QStringLiteral("INVITATION"), QStringLiteral("Invitation"), 220).StoreWidth(),
+        clsGridColumn(QStringLiteral("OUTER_ENVELOPE"), QStringLiteral("Outer Envelope"), 320).StoreWidth(),
+        clsGridColumn(QStringLiteral("INNER_ENVELOPE"), QStringLiteral("Inner Envelope"), 180).StoreWidth(),
+        clsGridColumn(QStringLiteral("CONTACTS_NB"), QStringLiteral("# Contacts"), 80).OfKind(K::Number).StoreWidth(),
+        clsGridColumn(QStringLiteral("A_B"), QStringLiteral("A-B"), 44).StoreWidth(),
+        clsGridColumn(QStringLiteral("INVITE_SENT"), QStringLiteral("Sent  "), 56).StoreWidth(),
+    };
+}
+
+// Where the envelope stands: not yet sent, sent and waiting, or answered.
+int StateIcon(const clsINVITE& invite) {
+    if (invite.INVITE_SENT_FG != QLatin1String("Y"))
+        return GuestIcons::InviteUnsent;
+    return invite.RSVP_RECEIVED_FG == QLatin1String("Y") ? GuestIcons::InviteReplied : GuestIcons::InviteSent;
+}
+
+QList<std::pair<QString, QString>> InvitationCells(const clsINVITE& invite) {
+    return {{QStringLiteral("RSVP_ID"), invite.INVITE_RSVP_ID},
+            {QStringLiteral("INVITATION"), invite.DISPLAY_AS_TX},
+            {QStringLiteral("OUTER_ENVELOPE"), invite.OUTER_ENVELOPE_TX_AND_OUTER_ENVELOPE_ADDRESS_TX(false)},
+            {QStringLiteral("INNER_ENVELOPE"), invite.INNER_ENVELOPE_TX},
+            {QStringLiteral("CONTACTS_NB"), QString::number(invite.NUMBER_INVITED_NB())},
+            {QStringLiteral("A_B"), invite.AB_LIST_CD},
+            {QStringLiteral("INVITE_SENT"), invite.INVITE_SENT_FG_Text()}};
+}
+
+} // namespace
+
+frmMain_02_Invitations::frmMain_02_Invitations(QWidget* parent)
+    : usrListPage(QStringLiteral("frmMain_02_Invitations"), parent) {
+    SetRecordNoun(QStringLiteral("invitations"));
+    SetEmptyText(QStringLiteral("No invitations yet — add one and put your contacts on its envelope."),
+                 QStringLiteral("No invitations match."));
+    SetFilterEntries({{0, QStringLiteral("All Invitations")},
+                      {1, QStringLiteral("Sent")},
+                      {2, QStringLiteral("Unsent")},
+                      {5, QStringLiteral("Bride")},
+                      {6, QStringLiteral("Groom")},
+                      {7, QStringLiteral("Both")},
+                      {8, QStringLiteral("No Address")}});
+    Grid()->Model()->SetImages(GuestIcons::All());
+    SetColumns(InvitationColumns());
+    Grid()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(Grid(), &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& position) { PopupMenu(mMenu, position); });
+    BuildActions();
+    BuildMenu();
+    AddShortcut(QKeySequence::New, [this] { OpenEditor(QString()); });
+    AddShortcut(QKeySequence::Delete, [this] { DeleteSelected(); });
+}
+
+void frmMain_02_Invitations::BuildActions() {
+    AddAction(AddInvitation, QStringLiteral("Add new invitation"), [this] { OpenEditor(QString()); });
+    AddAction(EditInvitation, QStringLiteral("Edit invitation"), [this] {
+        const QList<qint64> keys = SelectedKeys();
+        if (keys.size() == 1)
+            OpenEditor(QString::number(keys.first()));
+    });
+    AddAction(DeleteInvitation, kDelete, [this] { DeleteSelected(); });
+    AddAction(MarkAsSent, QStringLiteral("Mark as sent"), [this] { MarkSelectedSent(true); });
+    AddAction(SortRSVPIDs, kSort, [this] { OpenSort(); });
+    AddAction(LockRSVPIDs, QStringLiteral("Lock RSVP IDs"), [this] { ToggleLock(); });
+    AddAction(PrintReports, QStringLiteral("Print reports"),
+              [this] { ShowReports(this, clsReportCatalogue::Invitations, CurrentFilter()); });
+    AddReportsFolderAction(OpenReportsFolder);
+    AddCustomizeColumnsAction(CustomizeColumns);
+}
+
+void frmMain_02_Invitations::BuildMenu() {
+    mMenu = new QMenu(this);
+    mMenu->setObjectName(QStringLiteral("mnuAction"));
+    AddActionItems(mMenu, {AddInvitation, EditInvitation, DeleteInvitation, MarkAsSent});
+    mMenu->addSeparator();
+    QMenu* sent = mMenu->addMenu(QStringLiteral("Invitation Sent"));
+    sent->setObjectName(QStringLiteral("mnuINVITE_SENT_FG"));
+    sent->addAction(QStringLiteral("Sent"), this, [this] { MarkSelectedSent(true); })
+        ->setObjectName(QStringLiteral("mnuINVITE_SENT_FG_1"));
+    sent->addAction(QStringLiteral("Not sent"), this, [this] { MarkSelectedSent(false); })
+        ->setObjectName(QStringLiteral("mnuINVITE_SENT_FG_0"));
+}
+
+// ---- The grid ----------------------------------------------------------------------------------------
+
+long frmMain_02_Invitations::CountOf(int filterId) const { return gApp().TotalInvitations(filterId); }
+
+int frmMain_02_Invitations::FillRows(clsGridFill& fill, int filterId) {
+    const QList<clsINVITE> invites = clsINVITE::OpenRecords(filterId, true);
+    for (const clsINVITE& invite : invites) {
+        fill.Row(invite.INVITE_ID.toLongLong()).Icon(QStringLiteral("ICO"), StateIcon(invite));
+        for (const auto& [key, text] : InvitationCells(invite))
+            fill.Set(key, text);
+    }
+    return static_cast<int>(invites.size());
+}
+
+void frmMain_02_Invitations::SetRowCells(const QModelIndex& row, const clsINVITE& invite) {
+    clsGridModel* model = Grid()->Model();
+    model->SetCell(row, QStringLiteral("ICO"), QString::number(StateIcon(invite)));
+    for (const auto& [key, text] : InvitationCells(invite))
+        model->SetCell(row, key, text);
+}
+
+void frmMain_02_Invitations::RefreshRow(const QString& inviteId) {
+    const QModelIndex row = RowOfKey(inviteId.toLongLong());
+    clsINVITE invite;
+    bool found = false;
+    if (row.isValid() && invite.OpenRecord(inviteId, false, &found) && found)
+        SetRowCells(row, invite);
+}
+
+void frmMain_02_Invitations::Activate(qint64 key) { OpenEditor(QString::number(key)); }
+
+void frmMain_02_Invitations::UpdateActions() {
+    const int count = static_cast<int>(SelectedKeys().size());
+    ActionLink(EditInvitation)->setEnabled(count == 1);
+    ActionLink(DeleteInvitation)->setEnabled(count > 0);
+    ActionLink(DeleteInvitation)->setCaption(CountedCaption(kDelete, count));
+    ActionLink(MarkAsSent)->setEnabled(count > 0);
+    const bool locked = gApp().LockRSVPIDs();
+    ActionLink(SortRSVPIDs)->setCaption(locked ? kSort + QStringLiteral(" (Locked)") : kSort);
+    ActionLink(SortRSVPIDs)->setEnabled(!locked);
+    ActionLink(LockRSVPIDs)->setCaption(locked ? QStringLiteral("Unlock RSVP IDs") : QStringLiteral("Lock RSVP IDs"));
+}
+
+// ---- The editors' events -------------------------------------------------------------------------------
+
+void frmMain_02_Invitations::mfrmInvite_Added(const QString& inviteId) {
+    Reload();
+    GridSelectByKey(Grid(), inviteId.toLongLong());
+}
+
+void frmMain_02_Invitations::mfrmInvite_Updated(const QString& inviteId) {
+    RefreshRow(inviteId);
+    RefreshPanel();
+}
+
+// Every inner envelope may read differently now.
+void frmMain_02_Invitations::mfrmInvite_EtiquetteUpdated() { Reload(); }
+
+void frmMain_02_Invitations::mfrmInviteRSVPIDs_RSVPIDsChanged() { Reload(); }
+
+void frmMain_02_Invitations::OpenEditor(const QString& inviteId) {
+    frmInvite editor(inviteId, this);
+    connect(&editor, &frmInvite::Added, this, &frmMain_02_Invitations::mfrmInvite_Added);
+    connect(&editor, &frmInvite::Updated, this, &frmMain_02_Invitations::mfrmInvite_Updated);
+    connect(&editor, &frmInvite::EtiquetteUpdated, this, &frmMain_02_Invitations::mfrmInvite_EtiquetteUpdated);
+    editor.exec();
+}
+
+void frmMain_02_Invitations::OpenSort() {
+    if (gApp().LockRSVPIDs())
+        return;
+    frmInviteRSVPIDs dialog(this);
+    connect(&dialog, &frmInviteRSVPIDs::RSVPIDsChanged, this,
+            &frmMain_02_Invitations::mfrmInviteRSVPIDs_RSVPIDsChanged);
+    dialog.exec();
+}
+
+// ---- Commands on the selected invitations ------------------------------------------------------------
+
+int frmMain_02_Invitations::MarkSelectedSent(bool sent) {
+    const QList<qint64> keys = SelectedKeys();
+    if (keys.isEmpty())
+        return 0;
+    QStringList saved;
+    bool skipped = false;
+    const bool ok = RunOverKeys(keys, [&](qint64 key) {
+        clsINVITE invite;
+        if (!invite.OpenRecordOrThrow(QString::number(key), false))
+            return;
+        // The address lives with the primary contact; an envelope without one can't go out.
+        if (invite.OUTER_ENVELOPE_ADDRESS_TX.isEmpty()) {
+            skipped = skipped || sent;
+            return;
+        }
+        invite.INVITE_SENT_FG = sent ? QStringLiteral("Y") : QStringLiteral("N");
+        if (!sent)
+            invite.RSVP_RECEIVED_FG = QStringLiteral("N");
+        invite.SaveOrThrow(false);
+        saved.append(invite.INVITE_ID);
+    });
+    if (!ok)
+        return 0;
+    for (const QString& inviteId : saved)
+        RefreshRow(inviteId);
+    RefreshPanel();
+    if (skipped)
+        ShowMessage(QStringLiteral("Invitations with no address cannot be marked as sent."), Msg::Exclamation);
+    return static_cast<int>(saved.size());
+}
+
+int frmMain_02_Invitations::DeleteSelected() {
+    const QList<qint64> keys = SelectedKeys();
+    if (keys.isEmpty())
+        return 0;
+    const QString name = Grid()->Model()->RowAt(RowOfKey(keys.first()))->Cell(Grid()->ColumnIndex("INVITATION"));
+    const QString question = keys.size() == 1 ? QStringLiteral("Delete '") + name + QStringLiteral("'?")
+                                              : QStringLiteral("Delete ") + QString::number(keys.size()) +
+                                                    QStringLiteral(" Invitations?");
+    if (ShowMessage(question, Msg::YesNo | Msg::Question) != Msg::Yes)
+        return 0;
+    int deleted = 0;
+    int sent = 0;
+    BeginProgress(static_cast<int>(keys.size()));
+    // From the last selected to the first, so that the rows still to come keep their places.
+    for (auto key = keys.crbegin(); key != keys.crend(); ++key) {
+        clsINVITE invite;
+        bool found = false;
+        if (!invite.OpenRecord(QString::number(*key), false, &found))
+            break;
+        if (found && invite.INVITE_SENT_FG != QLatin1String("N")) {
+            ++sent; // its card is out; the envelope must stay
+        } else {
+            if (!clsINVITE::Delete(QString::number(*key)))
+                break;
+            Grid()->Model()->RemoveRow(RowOfKey(*key));
+            ++deleted;
+        }
+        StepProgress();
+    }
+    EndProgress();
+    if (sent != 0)
+        ShowMessage(QStringLiteral("Unable to delete ") + QString::number(sent) + QStringLiteral(" 'Sent' Invitations."),
+                    Msg::Exclamation);
+    Reload();
+    return deleted;
+}
+
+void frmMain_02_Invitations::ToggleLock() {
+    if (gApp().LockRSVPIDs()) {
+        if (ShowMessage(QStringLiteral("Are you sure you want to unlock your RSVP IDs?"), Msg::YesNo | Msg::Question) !=
+            Msg::Yes)
+            return;
+        gApp().SetLockRSVPIDs(false);
+    } else {
+        gApp().SetLockRSVPIDs(true);
+    }
+    UpdateActions();
+}

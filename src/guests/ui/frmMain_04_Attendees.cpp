@@ -1,0 +1,272 @@
+#include "guests/ui/frmMain_04_Attendees.h"
+
+#include "core/ShowMessage.h"
+#include "core/clsApp.h"
+#include "core/clsDICT.h"
+#include "core/modGeneral.h"
+#include "guests/clsCONTACT.h"
+#include "guests/ui/GuestIcons.h"
+#include "guests/ui/frmAttendee.h"
+#include "reports/clsReportCatalogue.h"
+#include "reports/ui/modReportDialogs.h"
+#include "shell/controls/ControlIcons.h"
+#include "shell/controls/usrHyperlink.h"
+#include "shell/modPages.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QToolButton>
+
+namespace {
+
+const QString kBrideGroomNote = QStringLiteral("Attendee counts include the bride and groom.");
+
+QList<clsGridColumn> AttendeeColumns() {
+    using K = GridColumnKind;
+    clsGridColumn table = clsGridColumn(QStringLiteral("TABLE_NB"), QStringLiteral("Table #"), 58).OfKind(K::Number);
+    table.Alignment = Qt::AlignCenter; // apart from the table's name beside it
+    return {
+        clsGridColumn(QStringLiteral("ICO"), QString(), 28).OfKind(K::Icon),
+        clsGridColumn(QStringLiteral("RSVP_ID"), QStringLiteral("RSVP ID"), 64).OfKind(K::Number).StoreWidth(),
+        clsGridColumn(QStringLiteral("ATTENDEE_NM"), QStringLiteral("Attendee Name"), 180).StoreWidth(),
+        clsGridColumn(QStringLiteral("FRIEND_OF"), QStringLiteral("Friend of"), 66).StoreWidth(),
+        clsGridColumn(QStringLiteral("GENDER_FG"), QStringLiteral("Gender"), 88).StoreWidth(),
+        clsGridColumn(QStringLiteral("OUT_OF_TOWNER_FG"), QStringLiteral("Out of Towner"), 92).StoreWidth(),
+        clsGridColumn(QStringLiteral("MEAL"), QStringLiteral("Meal"), 104).StoreWidth(),
+        table.StoreWidth(),
+        clsGridColumn(QStringLiteral("TABLE_NM"), QStringLiteral("Table Name"), 96).StoreWidth(),
+        clsGridColumn(QStringLiteral("HOTEL_NM"), QStringLiteral("Hotel"), 96).StoreWidth(),
+        clsGridColumn(QStringLiteral("FLIGHT_NM"), QStringLiteral("Flight"), 96).StoreWidth(),
+    };
+}
+
+// Last name first; a guest known by no name shows without the comma of an empty last name ("John's
+// Guest"), or by whom they come with when they have no first name either.
+QString ListName(const clsCONTACT& c) {
+    if (c.IsAnonymousGuest() && c.FIRST_NM.isEmpty())
+        return QStringLiteral("Guest of ") + c.GUEST_OF_FULL_NM().trimmed();
+    if (c.FIRST_NM.isEmpty() && c.LAST_NM.isEmpty())
+        return c.ROLE_TX; // the bride or the groom before their names are known
+    const QString name = c.LastFirstMiddleSuffix();
+    return name.startsWith(QLatin1String(", ")) ? name.mid(2) : name;
+}
+
+QList<std::pair<QString, QString>> AttendeeCells(const clsCONTACT& c) {
+    return {{QStringLiteral("RSVP_ID"), c.INVITE_RSVP_ID},
+            {QStringLiteral("ATTENDEE_NM"), ListName(c)},
+            {QStringLiteral("FRIEND_OF"), c.FRIEND_OF_TX()},
+            {QStringLiteral("GENDER_FG"), c.GENDER_FG_WITH_CHILD_Text()},
+            {QStringLiteral("OUT_OF_TOWNER_FG"), c.OUT_OF_TOWNER_FG_Text()},
+            {QStringLiteral("MEAL"), c.MEAL_TX},
+            {QStringLiteral("TABLE_NB"), c.DINING_TABLE_NB},
+            {QStringLiteral("TABLE_NM"), c.DINING_TABLE_NM},
+            {QStringLiteral("HOTEL_NM"), c.HOTEL_NM},
+            {QStringLiteral("FLIGHT_NM"), c.FLIGHT_NM}};
+}
+
+// What custom text a meal entry leaves: any filter id of the contact list that means no filter.
+constexpr int kCustomFilter = clsReportCatalogue::CustomWhereContacts;
+
+} // namespace
+
+frmMain_04_Attendees::frmMain_04_Attendees(QWidget* parent)
+    : usrListPage(QStringLiteral("frmMain_04_Attendees"), parent) {
+    SetRecordNoun(QStringLiteral("attendees"));
+    SetEmptyText(QStringLiteral("Nobody is attending yet. Record the replies on the RSVPs page, and the guests "
+                                "who are coming appear here."),
+                 QStringLiteral("No attendees match."));
+    QList<FilterEntry> entries{{14, QStringLiteral("All Attendees")},
+                               {15, QStringLiteral("Bride")},
+                               {16, QStringLiteral("Groom")},
+                               {17, QStringLiteral("Both")},
+                               {18, QStringLiteral("A list")},
+                               {19, QStringLiteral("B list")},
+                               {41, QStringLiteral("Male")},
+                               {42, QStringLiteral("Female")},
+                               {47, QStringLiteral("Adult")},
+                               {48, QStringLiteral("Child")},
+                               {28, QStringLiteral("Local")},
+                               {29, QStringLiteral("Out of Towner")},
+                               {21, QStringLiteral("Seated")},
+                               {22, QStringLiteral("To be seated")}};
+    SetFilterEntries(entries + MealEntries());
+    AddPanelWidget(BuildInfo());
+    Grid()->Model()->SetImages(GuestIcons::All());
+    SetColumns(AttendeeColumns());
+    BuildActions();
+    BuildMenu();
+    Grid()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(Grid(), &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& position) { PopupMenu(mMenu, position); });
+}
+
+// One entry per meal of the meal list, made afresh at each visit, and one for those without a meal.
+QList<usrListPage::FilterEntry> frmMain_04_Attendees::MealEntries() {
+    QList<FilterEntry> entries;
+    int index = FirstMeal;
+    for (const clsDICT& meal : clsDICT().OpenRecords(clsDICT::Meal)) {
+        mMealText.insert(index, meal.TX);
+        mMealId.insert(index, meal.ID);
+        entries.append({index, meal.TX, entries.isEmpty() ? QStringLiteral("Meals") : QString()});
+        ++index;
+    }
+    entries.append({NoMeal, QStringLiteral("No meal chosen"), entries.isEmpty() ? QStringLiteral("Meals") : QString()});
+    return entries;
+}
+
+QWidget* frmMain_04_Attendees::BuildInfo() {
+    auto* box = new QWidget(this);
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* info = new QToolButton(box);
+    info->setObjectName(QStringLiteral("imgInfo"));
+    info->setIcon(ControlIcons::Information());
+    info->setAutoRaise(true);
+    info->setToolTip(kBrideGroomNote);
+    info->setAccessibleName(kBrideGroomNote);
+    connect(info, &QToolButton::clicked, this, [] { ShowMessage(kBrideGroomNote, Msg::Information); });
+    auto* text = new QLabel(kBrideGroomNote, box);
+    text->setObjectName(QStringLiteral("lblInfo"));
+    text->setWordWrap(true);
+    text->setForegroundRole(QPalette::PlaceholderText);
+    text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the panel's width is the entries'
+    text->setMinimumHeight(2 * text->fontMetrics().lineSpacing());
+    row->addWidget(info, 0, Qt::AlignTop);
+    row->addWidget(text, 1);
+    return box;
+}
+
+void frmMain_04_Attendees::BuildActions() {
+    AddAction(EditAttendee, QStringLiteral("Edit attendee"), [this] {
+        const QList<qint64> keys = SelectedKeys();
+        if (keys.size() == 1)
+            OpenEditor(QString::number(keys.first()));
+    });
+    // The sub-pages of seating and travel are not part of the program yet.
+    const QList<std::pair<int, QString>> subPages = {{TableLayout, QStringLiteral("Table layout")},
+                                                     {Hotels, QStringLiteral("Hotels")},
+                                                     {Flights, QStringLiteral("Flights")},
+                                                     {Tentcards, QStringLiteral("Tentcards")}};
+    for (const auto& [index, caption] : subPages) {
+        usrHyperlink* link = AddAction(index, caption, [] {});
+        link->setEnabled(false);
+        link->setToolTip(modPages::NotAvailableText());
+    }
+    AddAction(PrintReports, QStringLiteral("Print reports"),
+              [this] { ShowReports(this, clsReportCatalogue::Attendees, CurrentFilter()); });
+    AddReportsFolderAction(OpenReportsFolder);
+    AddCustomizeColumnsAction(CustomizeColumns);
+}
+
+void frmMain_04_Attendees::BuildMenu() {
+    mMenu = new QMenu(this);
+    mMenu->setObjectName(QStringLiteral("mnuAction"));
+    AddActionItems(mMenu, {EditAttendee});
+    mMenu->addSeparator();
+    QStringList meals;
+    for (const QString& meal : std::as_const(mMealText))
+        meals.append(meal);
+    const QStringList mealIds = mMealId.values();
+    AddChoiceMenu(QStringLiteral("mnuMeal"), QStringLiteral("Meal"), meals,
+                  [mealIds](clsCONTACT& c, int i) { c.MEAL_ID = mealIds.at(i); });
+    AddChoiceMenu(QStringLiteral("mnuFRIEND_OF_CD"), QStringLiteral("Friend of"),
+                  {QStringLiteral("Friend of Bride"), QStringLiteral("Friend of Groom"), QStringLiteral("Friend of Both")},
+                  [](clsCONTACT& c, int i) { c.FRIEND_OF_CD = QString::number(i + 1); });
+}
+
+void frmMain_04_Attendees::AddChoiceMenu(const QString& name, const QString& title, const QStringList& captions,
+                                         const std::function<void(clsCONTACT&, int)>& apply) {
+    QMenu* menu = mMenu->addMenu(title);
+    menu->setObjectName(name);
+    for (int i = 0; i < captions.size(); ++i) {
+        QAction* item = menu->addAction(captions[i], this, [this, apply, i] {
+            ChangeSelected([&apply, i](clsCONTACT& c) { apply(c, i); });
+        });
+        item->setObjectName(name + QLatin1Char('_') + QString::number(i));
+    }
+}
+
+// ---- The panel and the grid ----------------------------------------------------------------------------
+
+QString frmMain_04_Attendees::MealCondition(int filterId) const {
+    if (!mMealText.contains(filterId))
+        return {};
+    return QStringLiteral("CONTACT.ATTENDING_FG = 'Y' AND MEAL_DICT.MEAL_TX = ") + QuoteSQL(mMealText.value(filterId));
+}
+
+// The bride and groom count as attendees here, though no invitation goes to them.
+long frmMain_04_Attendees::CountOf(int filterId) const {
+    const QString meal = MealCondition(filterId);
+    return meal.isEmpty() ? gApp().TotalContacts(filterId, {}, false) : gApp().TotalContacts(kCustomFilter, meal, false);
+}
+
+int frmMain_04_Attendees::FillRows(clsGridFill& fill, int filterId) {
+    const QString meal = MealCondition(filterId);
+    const QList<clsCONTACT> attendees = meal.isEmpty() ? clsCONTACT::OpenRecords(filterId, {}, {}, false)
+                                                       : clsCONTACT::OpenRecords(kCustomFilter, meal, {}, false);
+    for (const clsCONTACT& contact : attendees) {
+        fill.Row(contact.CONTACT_ID.toLongLong()).Icon(QStringLiteral("ICO"), GuestIcons::PersonIndex(contact));
+        for (const auto& [key, text] : AttendeeCells(contact))
+            fill.Set(key, text);
+    }
+    return static_cast<int>(attendees.size());
+}
+
+void frmMain_04_Attendees::SetRowCells(const QModelIndex& row, const clsCONTACT& contact) {
+    clsGridModel* model = Grid()->Model();
+    model->SetCell(row, QStringLiteral("ICO"), QString::number(GuestIcons::PersonIndex(contact)));
+    for (const auto& [key, text] : AttendeeCells(contact))
+        model->SetCell(row, key, text);
+}
+
+void frmMain_04_Attendees::Activate(qint64 key) { OpenEditor(QString::number(key)); }
+
+void frmMain_04_Attendees::UpdateActions() { ActionLink(EditAttendee)->setEnabled(SelectedKeys().size() == 1); }
+
+// ---- Editor, sub-pages and changes to many ------------------------------------------------------------
+
+void frmMain_04_Attendees::OpenEditor(const QString& contactId) {
+    frmAttendee editor(contactId, this);
+    connect(&editor, &frmAttendee::AttendeeUpdated, this, &frmMain_04_Attendees::mfrmAttendee_AttendeeUpdated);
+    editor.exec();
+}
+
+void frmMain_04_Attendees::mfrmAttendee_AttendeeUpdated(const QString& contactId) {
+    clsCONTACT contact;
+    const QModelIndex row = RowOfKey(contactId.toLongLong());
+    if (!contact.OpenRecord(contactId) || contact.ATTENDING_FG != QLatin1String("Y") || !row.isValid()) {
+        Reload(); // the person leaves the list, and the count with them
+        return;
+    }
+    SetRowCells(row, contact);
+    RefreshPanel();
+}
+
+void frmMain_04_Attendees::mfrmMain_04_Attendees_Tables_Closing() { Reload(); }
+void frmMain_04_Attendees::mfrmMain_04_Attendees_Hotels_Closing() { Reload(); }
+void frmMain_04_Attendees::mfrmMain_04_Attendees_Flights_Closing() { Reload(); }
+
+bool frmMain_04_Attendees::ChangeSelected(const std::function<void(clsCONTACT&)>& change) {
+    const QList<qint64> keys = SelectedKeys();
+    if (keys.isEmpty())
+        return false;
+    QList<clsCONTACT> saved;
+    const bool ok = RunOverKeys(keys, [&](qint64 key) {
+        clsCONTACT contact;
+        if (!contact.OpenRecord(QString::number(key)))
+            return;
+        change(contact);
+        contact.SaveOrThrow(false, false); // neither meal nor side changes an envelope
+        saved.append(contact);
+    });
+    if (ok) {
+        for (const clsCONTACT& contact : std::as_const(saved)) {
+            clsCONTACT shown; // read again, for the meal's text
+            if (shown.OpenRecord(contact.CONTACT_ID))
+                SetRowCells(RowOfKey(contact.CONTACT_ID.toLongLong()), shown);
+        }
+    }
+    RefreshPanel();
+    return ok;
+}

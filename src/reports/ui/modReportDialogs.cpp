@@ -1,0 +1,131 @@
+#include "reports/ui/modReportDialogs.h"
+
+#include "core/ShowMessage.h"
+#include "core/modGeneral.h"
+#include "platform/clsShell.h"
+#include "reports/clsReportClasses.h"
+#include "reports/modReportRegistry.h"
+#include "reports/ui/frmReports.h"
+#include "reports/ui/frmReportsCustomFilter.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QHash>
+
+// The pictures sit in a resource file of a static library: it is linked in by name.
+static void InitReportResources() {
+    Q_INIT_RESOURCE(reports);
+}
+
+namespace {
+
+QHash<QString, ReportDialogs::Opener>& Openers() {
+    static QHash<QString, ReportDialogs::Opener> openers;
+    return openers;
+}
+
+std::function<bool()>& LabelDeskProbe() {
+    static std::function<bool()> probe;
+    return probe;
+}
+
+// Shows the wait cursor for as long as it lives.
+class WaitCursor {
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+} // namespace
+
+void ShowReports(QWidget* parent, int sectionKey, int filterIndex) {
+    RegisterReportClasses();
+    ReportDialogs::RegisterOwnDialogs();
+    frmReports form(parent);
+    form.RPT_ROW = sectionKey;
+    form.FilterIndex = filterIndex;
+    form.exec();
+}
+
+namespace ReportDialogs {
+
+void Register(const QString& dialogName, Opener opener) {
+    if (dialogName.isEmpty() || !opener)
+        return;
+    Openers().insert(dialogName, std::move(opener));
+}
+
+void Unregister(const QString& dialogName) {
+    Openers().remove(dialogName);
+}
+
+bool Exists(const QString& dialogName) {
+    return Openers().contains(dialogName);
+}
+
+bool Open(QWidget* parent, const clsReportRoute& route) {
+    const auto it = Openers().constFind(route.Dialog);
+    if (it == Openers().constEnd())
+        return false;
+    it.value()(parent, route);
+    return true;
+}
+
+void RegisterOwnDialogs() {
+    Register(QStringLiteral("frmReportsCustomFilter"), [](QWidget* parent, const clsReportRoute& route) {
+        frmReportsCustomFilter form(route.FormNumber, parent);
+        form.exec();
+    });
+}
+
+void SetLabelDeskActive(std::function<bool()> isActive) {
+    LabelDeskProbe() = std::move(isActive);
+}
+
+bool LabelDeskActive() {
+    return LabelDeskProbe() && LabelDeskProbe()();
+}
+
+bool RouteAvailable(const clsReportRoute& route) {
+    if (!route.Dialog.isEmpty() && !Exists(route.Dialog))
+        return false;
+    if (route.ClassName.isEmpty())
+        return !route.PictureFile.isEmpty();
+    return clsReportClasses::Exists(route.ClassName);
+}
+
+QString BuildAndShow(const clsReportRoute& route) {
+    QString file;
+    {
+        WaitCursor wait;
+        file = clsReportClasses::Build(route);
+    }
+    if (!file.isEmpty() && !gShell().OpenDocument(file))
+        ShowMessage(gShell().Message(), Msg::Exclamation, ProgramTitle());
+    return file;
+}
+
+void ShowPicture(const clsReportRoute& route) {
+    if (FileExists(route.PictureFile))
+        gShell().OpenDocument(route.PictureFile);
+    else
+        ShowMessage(route.MissingPictureMessage, Msg::OKOnly, ProgramTitle());
+}
+
+} // namespace ReportDialogs
+
+namespace ReportIcons {
+
+QIcon Icon(const QString& name) {
+    static const bool loaded = (InitReportResources(), true);
+    Q_UNUSED(loaded);
+    return QIcon(QStringLiteral(":/ui/reports/") + name + QStringLiteral(".svg"));
+}
+
+QIcon SectionIcon(int sectionKey) {
+    return Icon(QStringLiteral("section") + QString::number(sectionKey));
+}
+
+} // namespace ReportIcons

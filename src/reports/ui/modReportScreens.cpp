@@ -1,0 +1,29 @@
+#include "reports/modReportRegistry.h"
+#include "reports/ui/frmReports.h"
+#include "reports/ui/frmReportsCustomFilter.h"
+#include "reports/ui/frmReportsFont.h"
+#include "reports/ui/modReportDialogs.h"
+#include "shell/modScreenshots.h"
+
+#include <QCheckBox>
+
+void RegisterReportScreens() {
+    RegisterReportClasses();
+    ReportDialogs::RegisterOwnDialogs();
+
+    modScreenshots::Register(QStringLiteral("frmReports"), []() -> QWidget* {
+        auto* form = new frmReports(nullptr);
+        form->RPT_ROW = clsReportCatalogue::Attendees;
+        form->FilterIndex = 98;
+        return form;
+    });
+    modScreenshots::Register(QStringLiteral("frmReportsCustomFilter"), []() -> QWidget* {
+        auto* form = new frmReportsCustomFilter(clsCustomFilter::Contacts, nullptr);
+        for (const char* name : {"chk_1", "chk_4"})
+            form->findChild<QCheckBox*>(QString::fromLatin1(name))->setChecked(true);
+        return form;
+    });
+    modScreenshots::Register(QStringLiteral("frmReportsFont"), []() -> QWidget* {
+        return new frmReportsFont(QStringLiteral("Verdana"), QStringLiteral("9"), nullptr);
+    });
+}
