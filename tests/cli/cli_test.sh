@@ -72,6 +72,17 @@ check "report not yet available" 1 'not available yet' "$cli" report Gifts
 check "report needing the screen" 2 'needs the report screen' "$cli" report Tables --filter 3
 check "report all in both dialects" 0 '04_Tentcard_.*\.csv' "$cli" report --all
 check "report files are RTF" 0 '^\{\\rtf1' head -c 6 "$(ls "$home"/Reports/12_Wedding_Statistics_*.rtf | head -1)"
+if command -v python3 >/dev/null; then
+    check "every CSV reads back with Python's strict csv reader" 0 '^[0-9]+ files read$' python3 -c '
+import csv, glob, sys
+files = sorted(glob.glob(sys.argv[1] + "/Reports/*.csv"))
+for name in files:
+    raw = open(name, "rb").read()
+    assert raw.startswith(b"\xef\xbb\xbf"), name + ": no byte-order mark"
+    rows = list(csv.reader(raw.decode("utf-8-sig").splitlines(keepends=True), strict=True))
+    assert rows and all(isinstance(r, list) for r in rows), name
+print(len(files), "files read")' "$home"
+fi
 
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
