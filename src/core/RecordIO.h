@@ -103,19 +103,12 @@ bool OpenRecord(T& record, const RecordTable<T>& table, const QString& key) {
                      {key});
 }
 
-// A new object for every row, in the query's order. After a failure the rows read so far come back.
+// A new object for every row, in the query's order; none after a failure (the user has been told).
 template <class T>
 QList<T> OpenRecords(const RecordTable<T>& table, const QString& sql, const QVariantList& values = {}) {
     QList<T> records;
     try {
-        const clsRecordset rs = gDB().Execute(sql, values);
-        records.reserve(rs.RowCount());
-        const std::vector<int> columns = FieldColumns(rs, table);
-        for (int row = 0; row < rs.RowCount(); ++row) {
-            T record;
-            Fill(record, rs, row, table, columns);
-            records.append(std::move(record));
-        }
+        records = FillAll(gDB().Execute(sql, values), table);
     } catch (const clsDbError& e) {
         Report(e);
     }

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <cmath>
+#include <cstdlib>
 
 namespace {
 
@@ -95,6 +96,48 @@ bool clsApp::Married(const QString& weddingDateTime, const QDateTime& now) {
     if (!wedding.isValid())
         return false;
     return now.secsTo(wedding) < 0;
+}
+
+namespace {
+
+// The whole part of a number as the countdown always took it: the text before the point of the number
+// written with four decimals (so 0.99999 days already count as one).
+long long WholePart(double value) {
+    const QString text = QString::number(value, 'f', 4);
+    return text.left(text.indexOf(QLatin1Char('.'))).toLongLong();
+}
+
+QString UnitText(long long number, const char* unit) {
+    if (number < 1)
+        return {};
+    return QString::number(number) + QLatin1Char(' ') + QLatin1String(unit) +
+           (number >= 2 ? QStringLiteral("s ") : QStringLiteral(" "));
+}
+
+} // namespace
+
+QString clsApp::TimeToWeddingText(const QString& weddingDateTime, const QDateTime& now, long long* days) {
+    const QDateTime wedding = ParseDateTimeText(weddingDateTime);
+    if (weddingDateTime.isEmpty() || !wedding.isValid())
+        return {};
+    const long long s = std::llabs(now.secsTo(wedding));
+    const long long wholeDays = WholePart(double(s) / 86400.0);
+    long long rest = s - wholeDays * 86400;
+    const long long hours = WholePart(double(rest) / 3600.0);
+    rest -= hours * 3600;
+    const long long minutes = WholePart(double(rest) / 60.0);
+    const long long seconds = s % 60;
+    if (days)
+        *days = wholeDays;
+    const QString secondText =
+        QString::number(seconds) + (seconds == 1 ? QStringLiteral(" second ") : QStringLiteral(" seconds "));
+    if (wholeDays < 1)
+        return UnitText(hours, "hour") + UnitText(minutes, "minute") + secondText;
+    if (wholeDays <= 14)
+        return UnitText(wholeDays, "day") + UnitText(hours, "hour") + UnitText(minutes, "minute");
+    if (wholeDays <= 31)
+        return UnitText(wholeDays, "day") + UnitText(hours, "hour");
+    return UnitText(wholeDays, "day");
 }
 
 clsApp& gApp() {

@@ -97,6 +97,10 @@ public:
                                         const QString& weddingDate);
     // True once the wedding moment has passed; at the second itself it is still false.
     static bool Married(const QString& weddingDateTime, const QDateTime& now);
+    // The time between now and the wedding, before or after it, as the countdown words it: "3 days
+    // 4 hours 5 minutes " near the day, whole days far from it. Empty for an unreadable date. The whole
+    // days go to *days when asked.
+    static QString TimeToWeddingText(const QString& weddingDateTime, const QDateTime& now, long long* days = nullptr);
     // True on a screen of at most 800 by 600 pixels.
     static bool Screen_800_x_600(int widthPixels, int heightPixels) {
         return widthPixels <= 800 && heightPixels <= 600;

@@ -85,6 +85,13 @@ QString QuoteDate(const QString& text, const QString& ifEmpty) {
     return QuoteSQL(moment.date().toString(QStringLiteral("yyyy-MM-dd")));
 }
 
+QString CurrencyText(double amount) {
+    QLocale locale;
+    if (locale.language() == QLocale::C)
+        locale = QLocale(QLocale::English, QLocale::UnitedStates);
+    return locale.toCurrencyString(amount);
+}
+
 QString QuoteCSV(const QString& text) {
     if (text.isEmpty())
         return {};

@@ -55,6 +55,8 @@ QTime ParseTimeText(const QString& text);
 QString MonthAbbreviation(int month);
 
 // ---- Numbers and text ---------------------------------------------------------------------------
+// Money in the locale's currency format; a locale without one (such as "C") borrows US English's.
+QString CurrencyText(double amount);
 // 100 * value / total with that many decimals and "%"; the empty string when total <= 0.
 QString PercentText(double value, double total, int decimals, const QLocale& locale = QLocale::system());
 // The trimmed part before the first delimiter, or the whole (trimmed) text when there is none.

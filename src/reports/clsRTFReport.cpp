@@ -1,5 +1,7 @@
 #include "reports/clsRTFReport.h"
 
+#include "core/modGeneral.h"
+
 #include "guests/clsCONTACT.h"
 #include "reports/clsReportCatalogue.h"
 
@@ -18,10 +20,7 @@ QString clsRTFReport::Build() {
 }
 
 QString clsRTFReport::Money(double amount) {
-    QLocale locale;
-    if (locale.language() == QLocale::C)
-        locale = QLocale(QLocale::English, QLocale::UnitedStates);
-    return locale.toCurrencyString(amount);
+    return ::CurrencyText(amount);
 }
 
 QString clsRTFReport::Stacked(const QString& first, const QString& second) {

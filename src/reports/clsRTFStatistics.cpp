@@ -13,20 +13,6 @@
 namespace {
 const QString kIndent = QStringLiteral("    ");
 
-// The whole part of a number as the countdown takes it: the digits before the point when written
-// with four decimals (so 0.99999 days already count as one).
-long long WholePart(double value) {
-    const QString text = QString::number(value, 'f', 4);
-    return text.left(text.indexOf(QLatin1Char('.'))).toLongLong();
-}
-
-QString UnitText(long long number, const char* unit) {
-    if (number < 1)
-        return {};
-    return QString::number(number) + QLatin1Char(' ') + QLatin1String(unit) +
-           (number >= 2 ? QStringLiteral("s ") : QStringLiteral(" "));
-}
-
 QString Contacts(int key, bool excludeBrideGroom = false) {
     return QString::number(gApp().TotalContacts(key, QString(), excludeBrideGroom));
 }
@@ -34,28 +20,6 @@ QString Invitations(int key) {
     return QString::number(gApp().TotalInvitations(key));
 }
 } // namespace
-
-QString clsRTFStatistics::TimeToWeddingText(const QString& weddingDateTime, const QDateTime& now) {
-    const QDateTime wedding = ParseDateTimeText(weddingDateTime);
-    if (!wedding.isValid())
-        return {};
-    const long long s = std::llabs(now.secsTo(wedding));
-    const long long days = WholePart(double(s) / 86400.0);
-    long long rest = s - days * 86400;
-    const long long hours = WholePart(double(rest) / 3600.0);
-    rest -= hours * 3600;
-    const long long minutes = WholePart(double(rest) / 60.0);
-    const long long seconds = s % 60;
-    const QString secondText =
-        QString::number(seconds) + (seconds == 1 ? QStringLiteral(" second ") : QStringLiteral(" seconds "));
-    if (days < 1)
-        return UnitText(hours, "hour") + UnitText(minutes, "minute") + secondText;
-    if (days <= 14)
-        return UnitText(days, "day") + UnitText(hours, "hour") + UnitText(minutes, "minute");
-    if (days <= 31)
-        return UnitText(days, "day") + UnitText(hours, "hour");
-    return UnitText(days, "day");
-}
 
 RtfMarkup clsRTFStatistics::Title() const {
     clsCONTACT bride;
@@ -87,7 +51,7 @@ void clsRTFStatistics::PrintRows() {
     clsEVENT wedding;
     wedding.OpenRecord(QStringLiteral("1"));
     const QString timeToWedding =
-        gApp().TimeToWedding.isEmpty() ? TimeToWeddingText(wedding.EVENT_DT, Now()) : gApp().TimeToWedding;
+        gApp().TimeToWedding.isEmpty() ? clsApp::TimeToWeddingText(wedding.EVENT_DT, Now()) : gApp().TimeToWedding;
     Line(Plain,
          clsApp::Married(wedding.EVENT_DT, Now()) ? QStringLiteral("Time Married")
                                                   : QStringLiteral("Time until Wedding"),

@@ -10,9 +10,6 @@ class clsRTFStatistics : public clsRTFReport {
 public:
     clsRTFStatistics() : clsRTFReport("clsRTFStatistics") {}
 
-    // The time between now and the wedding as the countdown words it ("12 days 3 hours 5 minutes ");
-    // empty without a wedding date. Days alone beyond a month; seconds only on the last day.
-    static QString TimeToWeddingText(const QString& weddingDateTime, const QDateTime& now);
 
 protected:
     RtfMarkup Title() const override;

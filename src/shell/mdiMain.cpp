@@ -67,20 +67,6 @@ bool CoreGathered() {
                                            gWeddingEvent().EVENT_DT);
 }
 
-// The whole part of a number as the program always took it: the text before the point of the number
-// written with four decimals (so 0.99999 days already count as one).
-long long WholePart(double value) {
-    const QString text = QString::number(value, 'f', 4);
-    return text.left(text.indexOf(QLatin1Char('.'))).toLongLong();
-}
-
-QString UnitText(long long number, const char* unit) {
-    if (number < 1)
-        return {};
-    return QString::number(number) + QLatin1Char(' ') + QLatin1String(unit) +
-           (number >= 2 ? QStringLiteral("s ") : QStringLiteral(" "));
-}
-
 QString EnglishDate(const QDateTime& moment, const char* format) {
     return QLocale(QLocale::English, QLocale::UnitedStates).toString(moment.date(), QLatin1String(format));
 }
@@ -108,10 +94,7 @@ QString mdiMain::BrideIconKey() { return modBrideGroomIcons::Key(true, modBrideG
 QString mdiMain::GroomIconKey() { return modBrideGroomIcons::Key(false, modBrideGroomIcons::StoredNumber(false)); }
 
 QString mdiMain::CurrencyText(double amount) {
-    QLocale locale;
-    if (locale.language() == QLocale::C)
-        locale = QLocale(QLocale::English, QLocale::UnitedStates);
-    return locale.toCurrencyString(amount);
+    return ::CurrencyText(amount);
 }
 
 // ---- The countdown -------------------------------------------------------------------------------
@@ -120,28 +103,8 @@ mdiMain::CountdownTexts mdiMain::Countdown(const QString& weddingDateTime, const
     const QDateTime wedding = ParseDateTimeText(weddingDateTime);
     if (weddingDateTime.isEmpty() || !wedding.isValid())
         return {};
-    const long long s = std::llabs(now.secsTo(wedding));
-    const long long days = WholePart(double(s) / 86400.0);
-    long long rest = s - days * 86400;
-    const long long hours = WholePart(double(rest) / 3600.0);
-    rest -= hours * 3600;
-    const long long minutes = WholePart(double(rest) / 60.0);
-    const long long seconds = s % 60;
-
-    const QString dayText = UnitText(days, "day");
-    const QString hourText = UnitText(hours, "hour");
-    const QString minuteText = UnitText(minutes, "minute");
-    const QString secondText = QString::number(seconds) + (seconds == 1 ? QStringLiteral(" second ")
-                                                                        : QStringLiteral(" seconds "));
-    QString duration;
-    if (days < 1)
-        duration = hourText + minuteText + secondText;
-    else if (days <= 14)
-        duration = dayText + hourText + minuteText;
-    else if (days <= 31)
-        duration = dayText + hourText;
-    else
-        duration = dayText;
+    long long days = 0;
+    const QString duration = clsApp::TimeToWeddingText(weddingDateTime, now, &days);
 
     const QString until =
         QStringLiteral("until ") + (days < 15 ? EnglishDate(wedding, "MMM d, yyyy ") + FormatDateTime(wedding, TimeFormat())
