@@ -2,8 +2,6 @@
 
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
-#include "core/clsDB.h"
-#include "core/RecordIO.h"
 #include "core/clsDICT.h"
 #include "guests/clsCONTACT.h"
 #include "guests/ui/GuestIcons.h"
@@ -14,7 +12,6 @@
 #include "reports/modReportRunner.h"
 #include "reports/ui/modReportDialogs.h"
 #include "shell/controls/usrHyperlink.h"
-#include "shell/grid/frmCustomizeColumns.h"
 #include "shell/grid/modGrid.h"
 
 #include <QApplication>
@@ -73,11 +70,6 @@ QList<std::pair<QString, QString>> ContactCells(const clsCONTACT& c) {
             {QStringLiteral("NOTES_TX"), c.NOTES_TX}};
 }
 
-// "Delete contact", or "Delete contacts (3)" for several.
-QString PluralCaption(const QString& caption, int count) {
-    return count > 1 ? caption + QStringLiteral("s (") + QString::number(count) + QLatin1Char(')') : caption;
-}
-
 } // namespace
 
 frmMain_01_Contacts::frmMain_01_Contacts(QWidget* parent)
@@ -129,14 +121,8 @@ void frmMain_01_Contacts::BuildActions() {
     AddAction(ExportContacts, QStringLiteral("Export contacts"), [this] { ExportContactsCsv(); });
     AddAction(PrintReports, QStringLiteral("Print reports"),
               [this] { ShowReports(this, clsReportCatalogue::Contacts, CurrentFilter()); });
-    AddAction(OpenReportsFolder, QStringLiteral("Open reports folder"), [] {
-        gApp().MakeReportPath();
-        gShell().OpenDocument(gApp().ReportPath());
-    });
-    AddAction(CustomizeColumns, QStringLiteral("Customize columns"), [this] {
-        frmCustomizeColumns dialog(Grid(), this);
-        dialog.exec();
-    });
+    AddReportsFolderAction(OpenReportsFolder);
+    AddCustomizeColumnsAction(CustomizeColumns);
 }
 
 // ---- The grid ----------------------------------------------------------------------------------------
@@ -171,9 +157,9 @@ void frmMain_01_Contacts::UpdateActions() {
     const int count = static_cast<int>(SelectedKeys().size());
     ActionLink(EditContact)->setEnabled(count == 1);
     ActionLink(DeleteContact)->setEnabled(count > 0);
-    ActionLink(DeleteContact)->setCaption(PluralCaption(kDelete, count));
+    ActionLink(DeleteContact)->setCaption(CountedCaption(kDelete, count));
     ActionLink(EmailContact)->setEnabled(GridCountAddresses(Grid(), QStringLiteral("EMAIL_TX")) > 0);
-    ActionLink(EmailContact)->setCaption(PluralCaption(kEmail, count));
+    ActionLink(EmailContact)->setCaption(CountedCaption(kEmail, count));
 }
 
 // ---- The editor's events -------------------------------------------------------------------------------
@@ -235,31 +221,18 @@ bool frmMain_01_Contacts::ChangeSelected(const std::function<void(clsCONTACT&)>&
     const QList<qint64> keys = SelectedKeys();
     if (keys.isEmpty())
         return false;
-    QList<clsCONTACT> saved;
-    BeginProgress(static_cast<int>(keys.size()));
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    bool ok = true;
-    try {
-        clsTransaction tx(gDB());
-        for (qint64 key : keys) {
-            clsCONTACT contact;
-            if (!contact.OpenRecord(QString::number(key)))
-                continue;
-            change(contact);
-            contact.SaveOrThrow(false, true);
-            saved.append(contact);
-            StepProgress();
-        }
-        tx.Commit();
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        ok = false;
-    }
-    QApplication::restoreOverrideCursor();
-    EndProgress();
+    QList<QString> saved;
+    const bool ok = RunOverKeys(keys, [&](qint64 key) {
+        clsCONTACT contact;
+        if (!contact.OpenRecord(QString::number(key)))
+            return;
+        change(contact);
+        contact.SaveOrThrow(false, true);
+        saved.append(contact.CONTACT_ID);
+    });
     if (ok) {
-        for (const clsCONTACT& contact : saved)
-            mfrmContact_Updated(contact.CONTACT_ID);
+        for (const QString& id : saved)
+            mfrmContact_Updated(id);
     }
     RefreshPanel();
     return ok;
@@ -284,12 +257,7 @@ QString frmMain_01_Contacts::ExportContactsCsv() {
 void frmMain_01_Contacts::BuildMenu() {
     mMenu = new QMenu(this);
     mMenu->setObjectName(QStringLiteral("mnuAction"));
-    for (int action : {AddContact, EditContact, DeleteContact, EmailContact}) {
-        QAction* item = mMenu->addAction(ActionLink(action)->Caption(), this, [this, action] {
-            emit ActionLink(action)->Click(action);
-        });
-        item->setObjectName(QStringLiteral("mnuAction_%1").arg(action));
-    }
+    AddActionItems(mMenu, {AddContact, EditContact, DeleteContact, EmailContact});
     mMenu->addSeparator();
     QAction* copy = mMenu->addAction(QStringLiteral("Copy contact"), this, [this] {
         const QList<qint64> keys = SelectedKeys();
@@ -340,21 +308,9 @@ void frmMain_01_Contacts::AddTitleMenu() {
 }
 
 void frmMain_01_Contacts::ShowContextMenu(const QPoint& position) {
-    const int count = static_cast<int>(SelectedKeys().size());
     if (QAction* copy = mMenu->findChild<QAction*>(QStringLiteral("mnuCopy")))
-        copy->setEnabled(count == 1);
-    const QList<QAction*> actions = mMenu->actions();
-    for (int action : {EditContact, DeleteContact, EmailContact}) {
-        QAction* item = mMenu->findChild<QAction*>(QStringLiteral("mnuAction_%1").arg(action));
-        if (item) {
-            item->setText(ActionLink(action)->Caption());
-            item->setEnabled(ActionLink(action)->isEnabled());
-        }
-    }
-    for (QAction* item : actions)
-        if (item->menu())
-            item->setEnabled(count > 0);
-    mMenu->popup(Grid()->viewport()->mapToGlobal(position));
+        copy->setEnabled(SelectedKeys().size() == 1);
+    PopupMenu(mMenu, position);
 }
 
 void frmMain_01_Contacts::ToggleNotes() {

@@ -22,11 +22,15 @@ QList<clsGridColumn> InvitationColumns() {
     using K = GridColumnKind;
     return {
         clsGridColumn(QStringLiteral("ICO"), QString(), 28).OfKind(K::Icon),
-        clsGridColumn(QStringLiteral("RSVP_ID"), QStringLiteral("RSVP ID"), 70).OfKind(K::Number).StoreWidth(),
+        clsGridColumn(QStringLiteral("RSVP_ID"), QStringLiteral("RSVP ID"), 70)
+            .OfKind(K::Number)
+            .StoreWidth(),
         clsGridColumn(QStringLiteral("INVITATION"), QStringLiteral("Invitation"), 220).StoreWidth(),
         clsGridColumn(QStringLiteral("OUTER_ENVELOPE"), QStringLiteral("Outer Envelope"), 320).StoreWidth(),
         clsGridColumn(QStringLiteral("INNER_ENVELOPE"), QStringLiteral("Inner Envelope"), 180).StoreWidth(),
-        clsGridColumn(QStringLiteral("CONTACTS_NB"), QStringLiteral("# Contacts"), 80).OfKind(K::Number).StoreWidth(),
+        clsGridColumn(QStringLiteral("CONTACTS_NB"), QStringLiteral("# Contacts"), 80)
+            .OfKind(K::Number)
+            .StoreWidth(),
         clsGridColumn(QStringLiteral("A_B"), QStringLiteral("A-B"), 44).StoreWidth(),
         clsGridColumn(QStringLiteral("INVITE_SENT"), QStringLiteral("Sent  "), 56).StoreWidth(),
     };
@@ -106,7 +110,9 @@ void frmMain_02_Invitations::BuildMenu() {
 
 // ---- The grid ----------------------------------------------------------------------------------------
 
-long frmMain_02_Invitations::CountOf(int filterId) const { return gApp().TotalInvitations(filterId); }
+long frmMain_02_Invitations::CountOf(int filterId) const {
+    return gApp().TotalInvitations(filterId);
+}
 
 int frmMain_02_Invitations::FillRows(clsGridFill& fill, int filterId) {
     const QList<clsINVITE> invites = clsINVITE::OpenRecords(filterId, true);
@@ -133,7 +139,9 @@ void frmMain_02_Invitations::RefreshRow(const QString& inviteId) {
         SetRowCells(row, invite);
 }
 
-void frmMain_02_Invitations::Activate(qint64 key) { OpenEditor(QString::number(key)); }
+void frmMain_02_Invitations::Activate(qint64 key) {
+    OpenEditor(QString::number(key));
+}
 
 void frmMain_02_Invitations::UpdateActions() {
     const int count = static_cast<int>(SelectedKeys().size());
@@ -144,7 +152,8 @@ void frmMain_02_Invitations::UpdateActions() {
     const bool locked = gApp().LockRSVPIDs();
     ActionLink(SortRSVPIDs)->setCaption(locked ? kSort + QStringLiteral(" (Locked)") : kSort);
     ActionLink(SortRSVPIDs)->setEnabled(!locked);
-    ActionLink(LockRSVPIDs)->setCaption(locked ? QStringLiteral("Unlock RSVP IDs") : QStringLiteral("Lock RSVP IDs"));
+    ActionLink(LockRSVPIDs)
+        ->setCaption(locked ? QStringLiteral("Unlock RSVP IDs") : QStringLiteral("Lock RSVP IDs"));
 }
 
 // ---- The editors' events -------------------------------------------------------------------------------
@@ -160,15 +169,20 @@ void frmMain_02_Invitations::mfrmInvite_Updated(const QString& inviteId) {
 }
 
 // Every inner envelope may read differently now.
-void frmMain_02_Invitations::mfrmInvite_EtiquetteUpdated() { Reload(); }
+void frmMain_02_Invitations::mfrmInvite_EtiquetteUpdated() {
+    Reload();
+}
 
-void frmMain_02_Invitations::mfrmInviteRSVPIDs_RSVPIDsChanged() { Reload(); }
+void frmMain_02_Invitations::mfrmInviteRSVPIDs_RSVPIDsChanged() {
+    Reload();
+}
 
 void frmMain_02_Invitations::OpenEditor(const QString& inviteId) {
     frmInvite editor(inviteId, this);
     connect(&editor, &frmInvite::Added, this, &frmMain_02_Invitations::mfrmInvite_Added);
     connect(&editor, &frmInvite::Updated, this, &frmMain_02_Invitations::mfrmInvite_Updated);
-    connect(&editor, &frmInvite::EtiquetteUpdated, this, &frmMain_02_Invitations::mfrmInvite_EtiquetteUpdated);
+    connect(&editor, &frmInvite::EtiquetteUpdated, this,
+            &frmMain_02_Invitations::mfrmInvite_EtiquetteUpdated);
     editor.exec();
 }
 
@@ -210,7 +224,8 @@ int frmMain_02_Invitations::MarkSelectedSent(bool sent) {
         RefreshRow(inviteId);
     RefreshPanel();
     if (skipped)
-        ShowMessage(QStringLiteral("Invitations with no address cannot be marked as sent."), Msg::Exclamation);
+        ShowMessage(QStringLiteral("Invitations with no address cannot be marked as sent."),
+                    Msg::Exclamation);
     return static_cast<int>(saved.size());
 }
 
@@ -218,7 +233,8 @@ int frmMain_02_Invitations::DeleteSelected() {
     const QList<qint64> keys = SelectedKeys();
     if (keys.isEmpty())
         return 0;
-    const QString name = Grid()->Model()->RowAt(RowOfKey(keys.first()))->Cell(Grid()->ColumnIndex("INVITATION"));
+    const QString name =
+        Grid()->Model()->RowAt(RowOfKey(keys.first()))->Cell(Grid()->ColumnIndex("INVITATION"));
     const QString question = keys.size() == 1 ? QStringLiteral("Delete '") + name + QStringLiteral("'?")
                                               : QStringLiteral("Delete ") + QString::number(keys.size()) +
                                                     QStringLiteral(" Invitations?");
@@ -245,7 +261,8 @@ int frmMain_02_Invitations::DeleteSelected() {
     }
     EndProgress();
     if (sent != 0)
-        ShowMessage(QStringLiteral("Unable to delete ") + QString::number(sent) + QStringLiteral(" 'Sent' Invitations."),
+        ShowMessage(QStringLiteral("Unable to delete ") + QString::number(sent) +
+                        QStringLiteral(" 'Sent' Invitations."),
                     Msg::Exclamation);
     Reload();
     return deleted;
@@ -253,8 +270,8 @@ int frmMain_02_Invitations::DeleteSelected() {
 
 void frmMain_02_Invitations::ToggleLock() {
     if (gApp().LockRSVPIDs()) {
-        if (ShowMessage(QStringLiteral("Are you sure you want to unlock your RSVP IDs?"), Msg::YesNo | Msg::Question) !=
-            Msg::Yes)
+        if (ShowMessage(QStringLiteral("Are you sure you want to unlock your RSVP IDs?"),
+                        Msg::YesNo | Msg::Question) != Msg::Yes)
             return;
         gApp().SetLockRSVPIDs(false);
     } else {

@@ -16,31 +16,43 @@
 namespace {
 
 // The panel's filters of invitations; every other entry counts guests.
-bool IsInviteFilter(int filterId) { return filterId == 1 || filterId == 3 || filterId == 4; }
+bool IsInviteFilter(int filterId) {
+    return filterId == 1 || filterId == 3 || filterId == 4;
+}
 
 // The whole of a guest figure: the invited for the replies, the attending for their make-up.
-bool IsReplyFigure(int filterId) { return filterId == 6 || filterId == 14 || filterId == 20 || filterId == 36; }
+bool IsReplyFigure(int filterId) {
+    return filterId == 6 || filterId == 14 || filterId == 20 || filterId == 36;
+}
 
 QList<clsGridColumn> RSVPColumns() {
     using K = GridColumnKind;
     return {
         clsGridColumn(QStringLiteral("ICO"), QString(), 28).OfKind(K::Icon),
-        clsGridColumn(QStringLiteral("RSVP_ID"), QStringLiteral("RSVP ID"), 70).OfKind(K::Number).StoreWidth(),
+        clsGridColumn(QStringLiteral("RSVP_ID"), QStringLiteral("RSVP ID"), 70)
+            .OfKind(K::Number)
+            .StoreWidth(),
         clsGridColumn(QStringLiteral("INVITATION"), QStringLiteral("Invitation"), 420).StoreWidth(),
         clsGridColumn(QStringLiteral("AB"), QStringLiteral("A-B"), 44).StoreWidth(),
         clsGridColumn(QStringLiteral("RECEIVED_FG"), QStringLiteral("Received"), 76).StoreWidth(),
-        clsGridColumn(QStringLiteral("NUMBER_ATTENDING"), QStringLiteral("# Attending"), 96).AlignRight().StoreWidth(),
+        clsGridColumn(QStringLiteral("NUMBER_ATTENDING"), QStringLiteral("# Attending"), 96)
+            .AlignRight()
+            .StoreWidth(),
     };
 }
 
-bool Received(const clsINVITE& invite) { return invite.RSVP_RECEIVED_FG == QLatin1String("Y"); }
+bool Received(const clsINVITE& invite) {
+    return invite.RSVP_RECEIVED_FG == QLatin1String("Y");
+}
 
 int StateIcon(const clsINVITE& invite) {
     return Received(invite) ? GuestIcons::InviteReplied : GuestIcons::InviteSent;
 }
 
 // A reply in which nobody comes is struck through, in grey.
-bool NobodyComes(const clsINVITE& invite) { return Received(invite) && invite.NUMBER_ATTENDING_NB() == 0; }
+bool NobodyComes(const clsINVITE& invite) {
+    return Received(invite) && invite.NUMBER_ATTENDING_NB() == 0;
+}
 
 QColor StruckColor() {
     constexpr clsColor gray = clsColor::GrayStrikeThroughText();
@@ -57,11 +69,13 @@ QList<std::pair<QString, QString>> RSVPCells(const clsINVITE& invite) {
 
 } // namespace
 
-frmMain_03_RSVPs::frmMain_03_RSVPs(QWidget* parent) : usrListPage(QStringLiteral("frmMain_03_RSVPs"), parent) {
+frmMain_03_RSVPs::frmMain_03_RSVPs(QWidget* parent)
+    : usrListPage(QStringLiteral("frmMain_03_RSVPs"), parent) {
     SetRecordNoun(QStringLiteral("RSVPs"));
-    SetEmptyText(QStringLiteral("No invitations have been sent yet. Mark invitations as sent on the Invitations "
-                                "page, and their replies are recorded here."),
-                 QStringLiteral("No RSVPs match."));
+    SetEmptyText(
+        QStringLiteral("No invitations have been sent yet. Mark invitations as sent on the Invitations "
+                       "page, and their replies are recorded here."),
+        QStringLiteral("No RSVPs match."));
     const auto figure = [](int id, const char* caption, const char* heading = nullptr) {
         return FilterEntry{id, QString::fromUtf8(caption), QString::fromUtf8(heading), false};
     };
@@ -96,7 +110,8 @@ void frmMain_03_RSVPs::BuildActions() {
         if (keys.size() == 1)
             OpenEditor(QString::number(keys.first()));
     });
-    AddAction(CustomizeMeals, QStringLiteral("Customize meals"), [this] { ShowOptions(this, clsDICT::Meal); });
+    AddAction(CustomizeMeals, QStringLiteral("Customize meals"),
+              [this] { ShowOptions(this, clsDICT::Meal); });
     AddAction(PrintReports, QStringLiteral("Print reports"),
               [this] { ShowReports(this, clsReportCatalogue::RSVPs, CurrentFilter()); });
     AddReportsFolderAction(OpenReportsFolder);
@@ -113,7 +128,8 @@ QString frmMain_03_RSVPs::AttendingText(const clsINVITE& invite) {
 // ---- The panel and the grid ----------------------------------------------------------------------------
 
 long frmMain_03_RSVPs::CountOf(int filterId) const {
-    return IsInviteFilter(filterId) ? gApp().TotalInvitations(filterId) : gApp().TotalContacts(filterId, {}, true);
+    return IsInviteFilter(filterId) ? gApp().TotalInvitations(filterId)
+                                    : gApp().TotalContacts(filterId, {}, true);
 }
 
 int frmMain_03_RSVPs::ShareBaseOf(int filterId) const {
@@ -143,9 +159,13 @@ void frmMain_03_RSVPs::SetRowCells(const QModelIndex& row, const clsINVITE& invi
     model->SetRowLook(row, struck ? StruckColor() : QColor(), struck);
 }
 
-void frmMain_03_RSVPs::Activate(qint64 key) { OpenEditor(QString::number(key)); }
+void frmMain_03_RSVPs::Activate(qint64 key) {
+    OpenEditor(QString::number(key));
+}
 
-void frmMain_03_RSVPs::UpdateActions() { ActionLink(OpenRSVP)->setEnabled(SelectedKeys().size() == 1); }
+void frmMain_03_RSVPs::UpdateActions() {
+    ActionLink(OpenRSVP)->setEnabled(SelectedKeys().size() == 1);
+}
 
 // ---- The reply editor ----------------------------------------------------------------------------------
 

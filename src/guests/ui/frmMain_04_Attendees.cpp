@@ -24,11 +24,14 @@ const QString kBrideGroomNote = QStringLiteral("Attendee counts include the brid
 
 QList<clsGridColumn> AttendeeColumns() {
     using K = GridColumnKind;
-    clsGridColumn table = clsGridColumn(QStringLiteral("TABLE_NB"), QStringLiteral("Table #"), 58).OfKind(K::Number);
+    clsGridColumn table =
+        clsGridColumn(QStringLiteral("TABLE_NB"), QStringLiteral("Table #"), 58).OfKind(K::Number);
     table.Alignment = Qt::AlignCenter; // apart from the table's name beside it
     return {
         clsGridColumn(QStringLiteral("ICO"), QString(), 28).OfKind(K::Icon),
-        clsGridColumn(QStringLiteral("RSVP_ID"), QStringLiteral("RSVP ID"), 64).OfKind(K::Number).StoreWidth(),
+        clsGridColumn(QStringLiteral("RSVP_ID"), QStringLiteral("RSVP ID"), 64)
+            .OfKind(K::Number)
+            .StoreWidth(),
         clsGridColumn(QStringLiteral("ATTENDEE_NM"), QStringLiteral("Attendee Name"), 180).StoreWidth(),
         clsGridColumn(QStringLiteral("FRIEND_OF"), QStringLiteral("Friend of"), 66).StoreWidth(),
         clsGridColumn(QStringLiteral("GENDER_FG"), QStringLiteral("Gender"), 88).StoreWidth(),
@@ -73,23 +76,17 @@ constexpr int kCustomFilter = clsReportCatalogue::CustomWhereContacts;
 frmMain_04_Attendees::frmMain_04_Attendees(QWidget* parent)
     : usrListPage(QStringLiteral("frmMain_04_Attendees"), parent) {
     SetRecordNoun(QStringLiteral("attendees"));
-    SetEmptyText(QStringLiteral("Nobody is attending yet. Record the replies on the RSVPs page, and the guests "
-                                "who are coming appear here."),
-                 QStringLiteral("No attendees match."));
-    QList<FilterEntry> entries{{14, QStringLiteral("All Attendees")},
-                               {15, QStringLiteral("Bride")},
-                               {16, QStringLiteral("Groom")},
-                               {17, QStringLiteral("Both")},
-                               {18, QStringLiteral("A list")},
-                               {19, QStringLiteral("B list")},
-                               {41, QStringLiteral("Male")},
-                               {42, QStringLiteral("Female")},
-                               {47, QStringLiteral("Adult")},
-                               {48, QStringLiteral("Child")},
-                               {28, QStringLiteral("Local")},
-                               {29, QStringLiteral("Out of Towner")},
-                               {21, QStringLiteral("Seated")},
-                               {22, QStringLiteral("To be seated")}};
+    SetEmptyText(
+        QStringLiteral("Nobody is attending yet. Record the replies on the RSVPs page, and the guests "
+                       "who are coming appear here."),
+        QStringLiteral("No attendees match."));
+    QList<FilterEntry> entries{{14, QStringLiteral("All Attendees")}, {15, QStringLiteral("Bride")},
+                               {16, QStringLiteral("Groom")},         {17, QStringLiteral("Both")},
+                               {18, QStringLiteral("A list")},        {19, QStringLiteral("B list")},
+                               {41, QStringLiteral("Male")},          {42, QStringLiteral("Female")},
+                               {47, QStringLiteral("Adult")},         {48, QStringLiteral("Child")},
+                               {28, QStringLiteral("Local")},         {29, QStringLiteral("Out of Towner")},
+                               {21, QStringLiteral("Seated")},        {22, QStringLiteral("To be seated")}};
     SetFilterEntries(entries + MealEntries());
     AddPanelWidget(BuildInfo());
     Grid()->Model()->SetImages(GuestIcons::All());
@@ -111,7 +108,8 @@ QList<usrListPage::FilterEntry> frmMain_04_Attendees::MealEntries() {
         entries.append({index, meal.TX, entries.isEmpty() ? QStringLiteral("Meals") : QString()});
         ++index;
     }
-    entries.append({NoMeal, QStringLiteral("No meal chosen"), entries.isEmpty() ? QStringLiteral("Meals") : QString()});
+    entries.append(
+        {NoMeal, QStringLiteral("No meal chosen"), entries.isEmpty() ? QStringLiteral("Meals") : QString()});
     return entries;
 }
 
@@ -171,11 +169,13 @@ void frmMain_04_Attendees::BuildMenu() {
     AddChoiceMenu(QStringLiteral("mnuMeal"), QStringLiteral("Meal"), meals,
                   [mealIds](clsCONTACT& c, int i) { c.MEAL_ID = mealIds.at(i); });
     AddChoiceMenu(QStringLiteral("mnuFRIEND_OF_CD"), QStringLiteral("Friend of"),
-                  {QStringLiteral("Friend of Bride"), QStringLiteral("Friend of Groom"), QStringLiteral("Friend of Both")},
+                  {QStringLiteral("Friend of Bride"), QStringLiteral("Friend of Groom"),
+                   QStringLiteral("Friend of Both")},
                   [](clsCONTACT& c, int i) { c.FRIEND_OF_CD = QString::number(i + 1); });
 }
 
-void frmMain_04_Attendees::AddChoiceMenu(const QString& name, const QString& title, const QStringList& captions,
+void frmMain_04_Attendees::AddChoiceMenu(const QString& name, const QString& title,
+                                         const QStringList& captions,
                                          const std::function<void(clsCONTACT&, int)>& apply) {
     QMenu* menu = mMenu->addMenu(title);
     menu->setObjectName(name);
@@ -192,21 +192,25 @@ void frmMain_04_Attendees::AddChoiceMenu(const QString& name, const QString& tit
 QString frmMain_04_Attendees::MealCondition(int filterId) const {
     if (!mMealText.contains(filterId))
         return {};
-    return QStringLiteral("CONTACT.ATTENDING_FG = 'Y' AND MEAL_DICT.MEAL_TX = ") + QuoteSQL(mMealText.value(filterId));
+    return QStringLiteral("CONTACT.ATTENDING_FG = 'Y' AND MEAL_DICT.MEAL_TX = ") +
+           QuoteSQL(mMealText.value(filterId));
 }
 
 // The bride and groom count as attendees here, though no invitation goes to them.
 long frmMain_04_Attendees::CountOf(int filterId) const {
     const QString meal = MealCondition(filterId);
-    return meal.isEmpty() ? gApp().TotalContacts(filterId, {}, false) : gApp().TotalContacts(kCustomFilter, meal, false);
+    return meal.isEmpty() ? gApp().TotalContacts(filterId, {}, false)
+                          : gApp().TotalContacts(kCustomFilter, meal, false);
 }
 
 int frmMain_04_Attendees::FillRows(clsGridFill& fill, int filterId) {
     const QString meal = MealCondition(filterId);
-    const QList<clsCONTACT> attendees = meal.isEmpty() ? clsCONTACT::OpenRecords(filterId, {}, {}, false)
-                                                       : clsCONTACT::OpenRecords(kCustomFilter, meal, {}, false);
+    const QList<clsCONTACT> attendees = meal.isEmpty()
+                                            ? clsCONTACT::OpenRecords(filterId, {}, {}, false)
+                                            : clsCONTACT::OpenRecords(kCustomFilter, meal, {}, false);
     for (const clsCONTACT& contact : attendees) {
-        fill.Row(contact.CONTACT_ID.toLongLong()).Icon(QStringLiteral("ICO"), GuestIcons::PersonIndex(contact));
+        fill.Row(contact.CONTACT_ID.toLongLong())
+            .Icon(QStringLiteral("ICO"), GuestIcons::PersonIndex(contact));
         for (const auto& [key, text] : AttendeeCells(contact))
             fill.Set(key, text);
     }
@@ -220,15 +224,20 @@ void frmMain_04_Attendees::SetRowCells(const QModelIndex& row, const clsCONTACT&
         model->SetCell(row, key, text);
 }
 
-void frmMain_04_Attendees::Activate(qint64 key) { OpenEditor(QString::number(key)); }
+void frmMain_04_Attendees::Activate(qint64 key) {
+    OpenEditor(QString::number(key));
+}
 
-void frmMain_04_Attendees::UpdateActions() { ActionLink(EditAttendee)->setEnabled(SelectedKeys().size() == 1); }
+void frmMain_04_Attendees::UpdateActions() {
+    ActionLink(EditAttendee)->setEnabled(SelectedKeys().size() == 1);
+}
 
 // ---- Editor, sub-pages and changes to many ------------------------------------------------------------
 
 void frmMain_04_Attendees::OpenEditor(const QString& contactId) {
     frmAttendee editor(contactId, this);
-    connect(&editor, &frmAttendee::AttendeeUpdated, this, &frmMain_04_Attendees::mfrmAttendee_AttendeeUpdated);
+    connect(&editor, &frmAttendee::AttendeeUpdated, this,
+            &frmMain_04_Attendees::mfrmAttendee_AttendeeUpdated);
     editor.exec();
 }
 
@@ -243,9 +252,15 @@ void frmMain_04_Attendees::mfrmAttendee_AttendeeUpdated(const QString& contactId
     RefreshPanel();
 }
 
-void frmMain_04_Attendees::mfrmMain_04_Attendees_Tables_Closing() { Reload(); }
-void frmMain_04_Attendees::mfrmMain_04_Attendees_Hotels_Closing() { Reload(); }
-void frmMain_04_Attendees::mfrmMain_04_Attendees_Flights_Closing() { Reload(); }
+void frmMain_04_Attendees::mfrmMain_04_Attendees_Tables_Closing() {
+    Reload();
+}
+void frmMain_04_Attendees::mfrmMain_04_Attendees_Hotels_Closing() {
+    Reload();
+}
+void frmMain_04_Attendees::mfrmMain_04_Attendees_Flights_Closing() {
+    Reload();
+}
 
 bool frmMain_04_Attendees::ChangeSelected(const std::function<void(clsCONTACT&)>& change) {
     const QList<qint64> keys = SelectedKeys();

@@ -13,7 +13,8 @@ void RegisterGuestPages() {
     // The invitation and reply editors open the contact editor through this.
     frmContact::RegisterEditor();
     GuestEditorScreenshots::Register();
-    modScreenshots::Register(QStringLiteral("frmContact"), [] { return new frmContact(QStringLiteral("3"), nullptr); });
+    modScreenshots::Register(QStringLiteral("frmContact"),
+                             [] { return new frmContact(QStringLiteral("3"), nullptr); });
     modPages::RegisterPage(1, [](QWidget* parent) { return new frmMain_01_Contacts(parent); });
     modPages::RegisterPage(2, [](QWidget* parent) { return new frmMain_02_Invitations(parent); });
     modPages::RegisterPage(3, [](QWidget* parent) { return new frmMain_03_RSVPs(parent); });

@@ -23,9 +23,13 @@
 
 namespace {
 
-QString Text(const QWidget* page, const QString& label) { return page->findChild<QLabel*>(label)->text(); }
+QString Text(const QWidget* page, const QString& label) {
+    return page->findChild<QLabel*>(label)->text();
+}
 
-usrHyperlink* Link(const QWidget* page, const QString& name) { return page->findChild<usrHyperlink*>(name); }
+usrHyperlink* Link(const QWidget* page, const QString& name) {
+    return page->findChild<usrHyperlink*>(name);
+}
 
 void Select(usrGrid* grid, const QStringList& ids) {
     grid->clearSelection();
@@ -49,7 +53,8 @@ QStringList InviteIds(int filter, int count) {
 }
 
 QString Flag(const QString& column, const QString& inviteId) {
-    return TestDatabase::Scalar(QStringLiteral("SELECT %1 FROM INVITE WHERE INVITE_ID = ?").arg(column), {inviteId});
+    return TestDatabase::Scalar(QStringLiteral("SELECT %1 FROM INVITE WHERE INVITE_ID = ?").arg(column),
+                                {inviteId});
 }
 
 void SetSent(const QStringList& ids, const QString& sent, const QString& received) {
@@ -59,8 +64,8 @@ void SetSent(const QStringList& ids, const QString& sent, const QString& receive
 }
 
 void ClearAddress(const QString& inviteId) {
-    TestDatabase::Exec("UPDATE CONTACT SET ADDRESS_TX = NULL WHERE INVITE_ID = ? AND PRIMARY_CONTACT_FG = 'Y'",
-                       {inviteId});
+    TestDatabase::Exec(
+        "UPDATE CONTACT SET ADDRESS_TX = NULL WHERE INVITE_ID = ? AND PRIMARY_CONTACT_FG = 'Y'", {inviteId});
 }
 
 } // namespace
@@ -109,7 +114,8 @@ private slots:
         const QString count = Text(list.get(), QStringLiteral("lblStat_%1").arg(filter));
         QVERIFY(count.toInt() > 0);
         QCOMPARE(QString::number(list->Grid()->Model()->FlatRowCount()), count);
-        QVERIFY(Text(list.get(), QStringLiteral("lblCount")).startsWith(count + QStringLiteral(" of ") + count));
+        QVERIFY(
+            Text(list.get(), QStringLiteral("lblCount")).startsWith(count + QStringLiteral(" of ") + count));
     }
 
     // Of three envelopes one has no address: it is never changed, and marking as sent says why.
@@ -118,8 +124,10 @@ private slots:
         QTest::addColumn<QString>("before");
         QTest::addColumn<QString>("after");
         QTest::addColumn<int>("messages");
-        QTest::newRow("mark as sent") << true << "N" << "Y" << 1;
-        QTest::newRow("mark as not sent") << false << "Y" << "N" << 0;
+        QTest::newRow("mark as sent") << true << "N"
+                                      << "Y" << 1;
+        QTest::newRow("mark as not sent") << false << "Y"
+                                          << "N" << 0;
     }
     void markSentSkipsNoAddress() {
         QFETCH(bool, sent);
@@ -154,7 +162,8 @@ private slots:
         const QStringList ids = InviteIds(0, 3);
         SetSent({ids[0], ids[2]}, "Y", "N");
         SetSent({ids[1]}, "N", "N");
-        const QString person = TestDatabase::Scalar("SELECT CONTACT_ID FROM CONTACT WHERE INVITE_ID = ?", {ids[1]});
+        const QString person =
+            TestDatabase::Scalar("SELECT CONTACT_ID FROM CONTACT WHERE INVITE_ID = ?", {ids[1]});
         frmMain_02_Invitations page;
         page.LoadNow();
         Select(page.Grid(), ids);
@@ -166,11 +175,13 @@ private slots:
         const QStringList& prompts = mDatabase->Messages().Prompts;
         QCOMPARE(prompts.at(prompts.size() - 2), QStringLiteral("Delete 3 Invitations?"));
         QCOMPARE(prompts.last(), QStringLiteral("Unable to delete 2 'Sent' Invitations."));
-        QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM INVITE WHERE INVITE_ID IN (?, ?, ?)", {ids[0], ids[1], ids[2]}),
+        QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM INVITE WHERE INVITE_ID IN (?, ?, ?)",
+                                      {ids[0], ids[1], ids[2]}),
                  QStringLiteral("2"));
         QVERIFY(!page.Grid()->Model()->FindRecord(ids[1].toLongLong()).isValid());
         // Its people stay, without an invitation.
-        QCOMPARE(TestDatabase::Scalar("SELECT IFNULL(INVITE_ID, 'none') FROM CONTACT WHERE CONTACT_ID = ?", {person}),
+        QCOMPARE(TestDatabase::Scalar("SELECT IFNULL(INVITE_ID, 'none') FROM CONTACT WHERE CONTACT_ID = ?",
+                                      {person}),
                  QStringLiteral("none"));
         QCOMPARE(Text(&page, "lblStat_0"), QString::number(clsINVITE::GetTotal(0)));
     }
@@ -186,7 +197,8 @@ private slots:
 
         mDatabase->Messages().NextAnswer = Msg::No;
         page.ToggleLock();
-        QCOMPARE(mDatabase->Messages().Prompts.last(), QStringLiteral("Are you sure you want to unlock your RSVP IDs?"));
+        QCOMPARE(mDatabase->Messages().Prompts.last(),
+                 QStringLiteral("Are you sure you want to unlock your RSVP IDs?"));
         QVERIFY(gApp().LockRSVPIDs());
         mDatabase->Messages().NextAnswer = Msg::Yes;
         page.ToggleLock();
@@ -208,7 +220,8 @@ private slots:
             if (inviteId.isEmpty() && invite.NUMBER_INVITED_NB() >= 2)
                 inviteId = invite.INVITE_ID;
         SetSent({inviteId}, "Y", "N");
-        TestDatabase::Exec("UPDATE CONTACT SET ATTENDING_FG = 'N', MEAL_ID = NULL WHERE INVITE_ID = ?", {inviteId});
+        TestDatabase::Exec("UPDATE CONTACT SET ATTENDING_FG = 'N', MEAL_ID = NULL WHERE INVITE_ID = ?",
+                           {inviteId});
         const long attendingBefore = gApp().TotalContacts(14);
         const long receivedBefore = clsINVITE::GetTotal(3);
 
@@ -225,9 +238,11 @@ private slots:
         }
         QVERIFY(reply.SaveRSVP());
 
-        const int invited = TestDatabase::Scalar("SELECT COUNT(*) FROM CONTACT WHERE INVITE_ID = ?", {inviteId}).toInt();
+        const int invited =
+            TestDatabase::Scalar("SELECT COUNT(*) FROM CONTACT WHERE INVITE_ID = ?", {inviteId}).toInt();
         const int coming = firstComes ? 1 : 0;
-        QCOMPARE(Cell(page.Grid(), inviteId, "NUMBER_ATTENDING"), QStringLiteral("%1 / %2").arg(coming).arg(invited));
+        QCOMPARE(Cell(page.Grid(), inviteId, "NUMBER_ATTENDING"),
+                 QStringLiteral("%1 / %2").arg(coming).arg(invited));
         QCOMPARE(Text(&page, "lblStat_3"), QString::number(receivedBefore + 1));
         // Nobody coming: the row is struck through in grey, in all its cells, now and at the next visit.
         frmMain_03_RSVPs again;
@@ -247,7 +262,8 @@ private slots:
         const QString first = reply.Invite().GUESTS.first().CONTACT_ID;
         QCOMPARE(attendees.Grid()->Model()->FindRecord(first.toLongLong()).isValid(), firstComes);
         if (firstComes)
-            QCOMPARE(TestDatabase::Scalar("SELECT MEAL_ID FROM CONTACT WHERE CONTACT_ID = ?", {first}), mealId);
+            QCOMPARE(TestDatabase::Scalar("SELECT MEAL_ID FROM CONTACT WHERE CONTACT_ID = ?", {first}),
+                     mealId);
     }
 
     void attendeeSentAwayLeavesTheList() {
@@ -256,15 +272,17 @@ private slots:
         const QString id = clsCONTACT::OpenRecords(14, {}, {}, true).first().CONTACT_ID;
         const QString before = Text(&page, "lblStat_14");
         frmAttendee editor(id);
-        connect(&editor, &frmAttendee::AttendeeUpdated, &page, &frmMain_04_Attendees::mfrmAttendee_AttendeeUpdated);
+        connect(&editor, &frmAttendee::AttendeeUpdated, &page,
+                &frmMain_04_Attendees::mfrmAttendee_AttendeeUpdated);
         editor.findChild<QCheckBox*>("chkATTENDING_FG")->setChecked(false);
         QVERIFY(editor.SaveAttendee());
         QVERIFY(!page.Grid()->Model()->FindRecord(id.toLongLong()).isValid());
         QCOMPARE(Text(&page, "lblStat_14"), QString::number(before.toInt() - 1));
-        QCOMPARE(TestDatabase::Scalar("SELECT IFNULL(MEAL_ID, '') || IFNULL(DINING_TABLE_ID, '') FROM CONTACT "
-                                      "WHERE CONTACT_ID = ?",
-                                      {id}),
-                 QString());
+        QCOMPARE(
+            TestDatabase::Scalar("SELECT IFNULL(MEAL_ID, '') || IFNULL(DINING_TABLE_ID, '') FROM CONTACT "
+                                 "WHERE CONTACT_ID = ?",
+                                 {id}),
+            QString());
     }
 
     void bulkMealChange() {
@@ -284,9 +302,10 @@ private slots:
         QCOMPARE(item->text(), meals[last].TX);
         item->trigger();
 
-        QCOMPARE(TestDatabase::Scalar(QStringLiteral("SELECT COUNT(*) FROM CONTACT WHERE MEAL_ID = ? AND CONTACT_ID IN (%1)")
-                                          .arg(ids.join(',')),
-                                      {meals[last].ID}),
+        QCOMPARE(TestDatabase::Scalar(
+                     QStringLiteral("SELECT COUNT(*) FROM CONTACT WHERE MEAL_ID = ? AND CONTACT_ID IN (%1)")
+                         .arg(ids.join(',')),
+                     {meals[last].ID}),
                  QStringLiteral("4"));
         for (const QString& id : ids)
             QCOMPARE(Cell(page.Grid(), id, "MEAL"), meals[last].TX);
