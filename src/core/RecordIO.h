@@ -64,15 +64,20 @@ void Fill(T& record, const clsRecordset& rs, int row, const RecordTable<T>& tabl
     Fill(record, rs, row, table, FieldColumns(rs, table));
 }
 
-// Every row of the recordset as a record; where each column stands is looked up once.
+// Every row of the recordset as a record. Where each column stands is looked up once, and the values
+// move from the recordset, which is used up, into the records.
 template <class T>
-QList<T> FillAll(const clsRecordset& rs, const RecordTable<T>& table) {
+QList<T> FillAll(clsRecordset&& rs, const RecordTable<T>& table) {
     QList<T> records;
     records.reserve(rs.RowCount());
     const std::vector<int> columns = FieldColumns(rs, table);
     for (int row = 0; row < rs.RowCount(); ++row) {
+        QStringList& values = rs.TakeRow(row);
         T record;
-        Fill(record, rs, row, table, columns);
+        for (size_t i = 0; i < columns.size(); ++i) {
+            if (columns[i] >= 0 && columns[i] < values.size())
+                record.*(table.Fields[i].Member) = std::move(values[columns[i]]);
+        }
         records.append(std::move(record));
     }
     return records;
