@@ -7,13 +7,17 @@
 #include "planning/clsEVENT.h"
 #include "platform/clsShell.h"
 #include "shell/controls/usrHyperlink.h"
+#include "shell/frmFeatureTour.h"
+#include "shell/frmForums.h"
+#include "shell/frmScreenResolution.h"
 #include "shell/mdiMain.h"
 #include "shell/modPages.h"
 
+#include <QDialog>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
 #include <QTimer>
@@ -34,9 +38,6 @@ QLabel[role="sub"] { color: #7d6f77; font-size: 9.5pt; }
 QLabel[role="negative"] { color: #c0392b; font-size: 9.5pt; font-weight: 600; }
 QLabel[role="section"] { color: #5b4a54; font-size: 10pt; font-weight: 600; }
 #fraMore { background: white; border: 1px solid #eadfe5; border-radius: 10px; }
-#fraTour { background: #f4e9ef; border: 1px solid #e5cdd9; border-radius: 10px; }
-#fraTour QLabel { color: #5b2e4c; font-size: 10pt; }
-#fraTour QPushButton { border: none; color: #8a3c63; font-weight: 600; padding: 4px 10px; }
 )";
 
 // The counted rows are the pages 1 (Contacts) to 10 (Notebook).
@@ -82,10 +83,6 @@ frmMain_00_Home::frmMain_00_Home(QWidget* parent) : QWidget(parent) {
     layout->setContentsMargins(24, 20, 24, 20);
     layout->setSpacing(16);
     layout->addWidget(BuildHeading());
-    if (!gApp().ShownFeatureTour()) {
-        layout->addWidget(BuildTourOffer());
-        gApp().SetShownFeatureTour(true);
-    }
     mCardGrid = new QGridLayout;
     mCardGrid->setHorizontalSpacing(14);
     mCardGrid->setVerticalSpacing(14);
@@ -127,32 +124,6 @@ QWidget* frmMain_00_Home::BuildHeading() {
     clock->addWidget(lblDate);
     row->addLayout(clock);
     return heading;
-}
-
-QWidget* frmMain_00_Home::BuildTourOffer() {
-    auto* offer = new QWidget;
-    offer->setObjectName(QStringLiteral("fraTour"));
-    offer->setAttribute(Qt::WA_StyledBackground);
-    auto* row = new QHBoxLayout(offer);
-    row->setContentsMargins(14, 8, 8, 8);
-    auto* icon = new QLabel(offer);
-    icon->setPixmap(mdiMain::ShellIcon(QStringLiteral("tour")).pixmap(QSize(22, 22), devicePixelRatioF()));
-    row->addWidget(icon);
-    auto* text = new QLabel(QStringLiteral("New to Vowren? A short tour shows what each page does."), offer);
-    text->setWordWrap(true);
-    row->addWidget(text, 1);
-    auto* take = new QPushButton(QStringLiteral("&Take the Tour"), offer);
-    take->setObjectName(QStringLiteral("cmdTakeTour"));
-    auto* close = new QPushButton(QStringLiteral("Close"), offer);
-    close->setObjectName(QStringLiteral("cmdCloseTour"));
-    connect(take, &QPushButton::clicked, offer, [offer] {
-        gShell().OpenDocument(gApp().FeatureTourURL());
-        offer->hide();
-    });
-    connect(close, &QPushButton::clicked, offer, &QWidget::hide);
-    row->addWidget(take);
-    row->addWidget(close);
-    return offer;
 }
 
 QWidget* frmMain_00_Home::BuildCard(int index) {
@@ -348,4 +319,46 @@ void frmMain_00_Home::showEvent(QShowEvent* event) {
     emit Breadcrumb(QString());
     emit EnableToolbar(clsApp::CoreInformationGathered(gBride().FIRST_NM, gBride().LAST_NM, gGroom().FIRST_NM,
                                                        gGroom().LAST_NM, gWeddingEvent().EVENT_DT));
+    // The notices come up over the page once it stands.
+    QTimer::singleShot(0, this, &frmMain_00_Home::ShowNotices);
+}
+
+// ---- Notices -----------------------------------------------------------------------------------------
+
+QString frmMain_00_Home::TakeFirstVisitOffer() {
+    clsApp& app = gApp();
+    if (!app.ShownFeatureTour()) {
+        app.SetShownFeatureTour(true);
+        return QStringLiteral("frmFeatureTour");
+    }
+    if (!app.ShownForums()) {
+        app.SetShownForums(true);
+        return QStringLiteral("frmForums");
+    }
+    return QString();
+}
+
+// One notice at a time, none of them modal: the page stays usable behind it. The screen hint comes once a
+// run, the tour's offer and then the forums' invitation once each on their first visits.
+void frmMain_00_Home::ShowNotices() {
+    QWidget* owner = window();
+    QDialog* notice = nullptr;
+    const QScreen* screen = owner->screen();
+    static bool screenHintShown = false;
+    if (screen && !screenHintShown &&
+        clsApp::Screen_800_x_600(screen->geometry().width(), screen->geometry().height())) {
+        screenHintShown = true;
+        notice = new frmScreenResolution(owner);
+    } else {
+        const QString offer = TakeFirstVisitOffer();
+        if (offer == QLatin1String("frmFeatureTour"))
+            notice = new frmFeatureTour(owner);
+        else if (offer == QLatin1String("frmForums"))
+            notice = new frmForums(owner);
+    }
+    if (!notice)
+        return;
+    notice->setAttribute(Qt::WA_DeleteOnClose);
+    notice->setModal(false);
+    notice->show();
 }

@@ -27,6 +27,9 @@ public:
     QString BudgetActualText() const;
     QString BudgetPlusMinusText() const;
 
+    // The offer a first visit brings, marked as made: "frmFeatureTour", then "frmForums", then none.
+    static QString TakeFirstVisitOffer();
+
     // "1 vendor", "2 vendors": the noun gets its "s" unless the number is 1.
     static QString Counted(long number, const QString& noun);
 
@@ -43,14 +46,15 @@ private:
     QWidget* BuildHeading();
     QWidget* BuildCard(int index);
     QWidget* BuildLinks();
-    QWidget* BuildTourOffer();
     usrHyperlink* Link(const QString& name, const QString& caption, const QString& icon, bool available);
     usrHyperlink* PageLink(const QString& name, const QString& caption, const QString& icon, int index);
-    usrHyperlink* DialogLink(const QString& name, const QString& caption, const QString& icon, const QString& form);
+    usrHyperlink* DialogLink(const QString& name, const QString& caption, const QString& icon,
+                             const QString& form);
     void FillCounts();
     void SetCard(int index, const QString& main, const QString& sub);
     void ArrangeCards();
     void UpdateClock();
+    void ShowNotices();
 
     QLabel* lblDate = nullptr;
     QLabel* lblTime = nullptr;

@@ -10,6 +10,8 @@
 #include "shell/controls/usrHyperlink.h"
 #include "shell/frmMain_00_Welcome.h"
 #include "shell/options/modBrideGroomIcons.h"
+#include "shell/modFormPlace.h"
+#include "shell/modHelp.h"
 #include "shell/modPages.h"
 
 #include <QApplication>
@@ -27,7 +29,6 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QStyle>
-#include <QScreen>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -54,13 +55,6 @@ const char* const kStyle = R"(
 #picBottom QToolButton::menu-indicator { image: none; }
 #mPageHost { background: #faf7f8; }
 )";
-
-// Twips per pixel of the screen the window is on: 1440 twips make an inch.
-double TwipsPerPixel(const QWidget* widget) {
-    const QScreen* screen = widget->screen() ? widget->screen() : QGuiApplication::primaryScreen();
-    const double dpi = screen ? screen->logicalDotsPerInchX() : 96.0;
-    return 1440.0 / (dpi > 0 ? dpi : 96.0);
-}
 
 bool CoreGathered() {
     return clsApp::CoreInformationGathered(gBride().FIRST_NM, gBride().LAST_NM, gGroom().FIRST_NM, gGroom().LAST_NM,
@@ -167,7 +161,7 @@ mdiMain::mdiMain(QWidget* parent) : QMainWindow(parent) {
     setCentralWidget(central);
     BuildMenus();
 
-    const int minimum = int(kMinimumTwips / TwipsPerPixel(this));
+    const int minimum = int(kMinimumTwips / modFormPlace::TwipsPerPixel(this));
     setMinimumSize(minimum, minimum);
 
     timer = new QTimer(this);
@@ -392,22 +386,9 @@ void mdiMain::ShowWelcome() {
     welcome->setFocus();
 }
 
-void mdiMain::RestorePosition() {
-    const double tpp = TwipsPerPixel(this);
-    const QRect screen = (this->screen() ? this->screen() : QGuiApplication::primaryScreen())->availableGeometry();
-    const FormPlacement place = FormPositionLoad(objectName(), int(screen.width() * tpp), int(screen.height() * tpp));
-    setGeometry(int(place.Left / tpp), int(place.Top / tpp), int(place.Width / tpp), int(place.Height / tpp));
-    if (place.WindowState == 2)
-        setWindowState(Qt::WindowMaximized);
-}
+void mdiMain::RestorePosition() { modFormPlace::Restore(this, objectName()); }
 
-void mdiMain::SavePosition() {
-    const double tpp = TwipsPerPixel(this);
-    const QRect normal = isMaximized() || isMinimized() ? normalGeometry() : geometry();
-    FormPositionSave(objectName(), FormPlacement{int(normal.x() * tpp), int(normal.y() * tpp), int(normal.width() * tpp),
-                                                 int(normal.height() * tpp),
-                                                 isMaximized() ? 2 : (isMinimized() ? 1 : 0)});
-}
+void mdiMain::SavePosition() { modFormPlace::Save(this, objectName()); }
 
 void mdiMain::closeEvent(QCloseEvent* event) {
     timer->stop();
@@ -629,16 +610,7 @@ void mdiMain::OnPlaylistClicked() {
 
 void mdiMain::OpenAddress(const QString& address) { gShell().OpenDocument(address); }
 
-void mdiMain::ShowHelp() {
-    const QString help = QDir(gApp().SupportPath()).filePath(QStringLiteral("Vowren-Help.pdf"));
-    if (!FileExists(help)) {
-        ShowMessage(QStringLiteral("The help file is missing:\n") + help +
-                        QStringLiteral("\n\nReinstalling Vowren puts it back."),
-                    Msg::OKOnly | Msg::Exclamation, ProgramTitle());
-        return;
-    }
-    gShell().OpenDocument(help);
-}
+void mdiMain::ShowHelp() { modHelp::ShowHelp(); }
 
 void mdiMain::ShowAbout() {
     if (modPages::OpenDialog(QStringLiteral("frmAbout"), this))

@@ -361,7 +361,8 @@ private slots:
         QVERIFY2(written >= 9, qPrintable(message));
         QCOMPARE(made, 1);
         for (const char* name : {"frmVowren", "frmMain_00_Welcome", "frmMain_00_Welcome_4", "frmMain_00_Home",
-                                 "frmMain_05_Gifts", "frmTestDialog"}) {
+                                 "frmMain_05_Gifts", "frmTestDialog", "frmMain_99_Forums", "frmFeatureTour",
+                                 "frmForums", "frmScreenResolution", "frmCustomizeColumns"}) {
             const QImage picture(QDir(out.path()).filePath(QLatin1String(name) + QStringLiteral(".png")));
             QVERIFY2(!picture.isNull(), name);
         }

@@ -7,6 +7,7 @@
 #include "platform/clsShell.h"
 #include "reports/ui/frmReportsFont.h"
 #include "reports/ui/modReportDialogs.h"
+#include "shell/modFormPlace.h"
 #include "shell/controls/usrColor.h"
 #include "shell/controls/usrHyperlink.h"
 
@@ -118,6 +119,7 @@ frmReports::frmReports(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmReports"));
     setWindowTitle(QStringLiteral("Print Reports"));
     setSizeGripEnabled(true);
+    modFormPlace::Remember(this);
 
     auto* options = new QHBoxLayout;
     options->addWidget(MakeReportType(), 3);

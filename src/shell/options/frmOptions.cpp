@@ -15,6 +15,7 @@
 #include "shell/options/frmOptionsEntry.h"
 #include "shell/options/frmOptionsEntryMeal.h"
 #include "shell/options/modBrideGroomIcons.h"
+#include "shell/modFormPlace.h"
 
 #include <QButtonGroup>
 #include <QCoreApplication>
@@ -146,6 +147,7 @@ QStringList frmOptions::CountryNames() {
 frmOptions::frmOptions(QWidget* parent, int kind) : QDialog(parent) {
     setObjectName(QStringLiteral("frmOptions"));
     setWindowTitle(QStringLiteral("Options"));
+    modFormPlace::Remember(this);
 
     mHeader = new QLabel(this);
     mHeader->setObjectName(QStringLiteral("lblHeader"));

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QWidget>
+
+class QLineEdit;
+
+// The forums page. The forums themselves open in the desktop's browser; the page keeps the user's forum
+// name and password (below the root key as ForumLoginName and ForumLoginPassword) so that they are at
+// hand when the forums ask for them.
+class frmMain_99_Forums : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit frmMain_99_Forums(QWidget* parent = nullptr);
+
+    static QString LoginName();
+    static QString LoginPassword();
+
+signals:
+    void Breadcrumb(const QString& text);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void OpenForums();
+    void SaveLogin();
+
+    QLineEdit* txtName = nullptr;
+    QLineEdit* txtPassword = nullptr;
+    bool mShown = false;
+};
