@@ -40,14 +40,20 @@ bool Delete(const QString& table, const QString& keyColumn, const QString& keyVa
 // The message of a failure, shown the one way messages are shown.
 void Report(const clsDbError& error);
 
-// Where each field of the table stands in the recordset (-1 when the statement did not give it).
+// Where each field of the table stands among the columns (-1 when the statement did not give it; the first
+// of two equal names wins).
 template <class T>
-std::vector<int> FieldColumns(const clsRecordset& rs, const RecordTable<T>& table) {
+std::vector<int> FieldColumns(const QStringList& names, const RecordTable<T>& table) {
     std::vector<int> columns;
     columns.reserve(table.Fields.size());
     for (const auto& field : table.Fields)
-        columns.push_back(rs.ColumnIndex(QString::fromLatin1(field.Column)));
+        columns.push_back(static_cast<int>(names.indexOf(QLatin1String(field.Column))));
     return columns;
+}
+
+template <class T>
+std::vector<int> FieldColumns(const clsRecordset& rs, const RecordTable<T>& table) {
+    return FieldColumns(rs.Columns(), table);
 }
 
 template <class T>
@@ -64,22 +70,22 @@ void Fill(T& record, const clsRecordset& rs, int row, const RecordTable<T>& tabl
     Fill(record, rs, row, table, FieldColumns(rs, table));
 }
 
-// Every row of the recordset as a record. Where each column stands is looked up once, and the values
-// move from the recordset, which is used up, into the records.
+// Every row of a query as a record, in the query's order. The rows go straight into the records: where
+// each column stands is looked up once, and each value moves from the row into its member. Throws
+// clsDbError.
 template <class T>
-QList<T> FillAll(clsRecordset&& rs, const RecordTable<T>& table) {
+QList<T> ReadAll(const RecordTable<T>& table, const QString& sql, const QVariantList& values = {}) {
     QList<T> records;
-    records.reserve(rs.RowCount());
-    const std::vector<int> columns = FieldColumns(rs, table);
-    for (int row = 0; row < rs.RowCount(); ++row) {
-        QStringList& values = rs.TakeRow(row);
-        T record;
-        for (size_t i = 0; i < columns.size(); ++i) {
-            if (columns[i] >= 0 && columns[i] < values.size())
-                record.*(table.Fields[i].Member) = std::move(values[columns[i]]);
-        }
-        records.append(std::move(record));
-    }
+    std::vector<int> columns;
+    gDB().Stream(
+        sql, values, [&](const QStringList& names) { columns = FieldColumns(names, table); },
+        [&](QStringList& row) {
+            T& record = records.emplaceBack();
+            for (size_t i = 0; i < columns.size(); ++i) {
+                if (columns[i] >= 0 && columns[i] < row.size())
+                    record.*(table.Fields[i].Member) = std::move(row[columns[i]]);
+            }
+        });
     return records;
 }
 
@@ -113,7 +119,7 @@ template <class T>
 QList<T> OpenRecords(const RecordTable<T>& table, const QString& sql, const QVariantList& values = {}) {
     QList<T> records;
     try {
-        records = FillAll(gDB().Execute(sql, values), table);
+        records = ReadAll(table, sql, values);
     } catch (const clsDbError& e) {
         Report(e);
     }

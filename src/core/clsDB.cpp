@@ -5,7 +5,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <cstring>
 #include <sqlite3.h>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -13,20 +17,85 @@ QString EngineText(sqlite3* db) { return db ? QString::fromUtf8(sqlite3_errmsg(d
 
 QString RealText(double value) { return QString::number(value, 'g', 15); }
 
-QString ColumnText(sqlite3_stmt* stmt, int column) {
-    switch (sqlite3_column_type(stmt, column)) {
-    case SQLITE_NULL:
-        return {};
-    case SQLITE_INTEGER:
-        return QString::number(sqlite3_column_int64(stmt, column));
-    case SQLITE_FLOAT:
-        return RealText(sqlite3_column_double(stmt, column));
-    default: {
-        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(stmt, column));
-        return QString::fromUtf8(text, sqlite3_column_bytes(stmt, column));
+// The values of one column as the rows go by. A value equal to the one above it is shared instead of being
+// made again: down a guest list the people of one invitation share its address and envelope texts, and
+// most keys and flags repeat. Text of one ASCII character and small numbers come from a fixed table.
+class ColumnReader {
+public:
+    explicit ColumnReader(bool isDate) : mIsDate(isDate) {}
+
+    QString Read(sqlite3_stmt* stmt, int column) {
+        switch (sqlite3_column_type(stmt, column)) {
+        case SQLITE_NULL:
+            return {};
+        case SQLITE_INTEGER:
+            return Integer(sqlite3_column_int64(stmt, column));
+        case SQLITE_FLOAT:
+            return RealText(sqlite3_column_double(stmt, column));
+        default:
+            return Text(reinterpret_cast<const char*>(sqlite3_column_text(stmt, column)),
+                        static_cast<size_t>(sqlite3_column_bytes(stmt, column)));
+        }
     }
+
+private:
+    static constexpr int kTableSize = 256;
+
+    static const QString& Shared(int code) {
+        static const std::vector<QString> numbers = [] {
+            std::vector<QString> all;
+            all.reserve(kTableSize);
+            for (int i = 0; i < kTableSize; ++i)
+                all.push_back(QString::number(i));
+            return all;
+        }();
+        return numbers[static_cast<size_t>(code)];
     }
-}
+
+    static const QString& OneCharacter(unsigned char c) {
+        static const std::vector<QString> characters = [] {
+            std::vector<QString> all;
+            all.reserve(128);
+            for (int i = 0; i < 128; ++i)
+                all.push_back(QString(QLatin1Char(static_cast<char>(i))));
+            return all;
+        }();
+        return characters[c];
+    }
+
+    QString Integer(sqlite3_int64 value) {
+        if (value >= 0 && value < kTableSize && !mIsDate)
+            return Shared(static_cast<int>(value));
+        if (!mHasInteger || value != mInteger) {
+            mHasInteger = true;
+            mHasText = false;
+            mInteger = value;
+            mValue = Converted(QString::number(value));
+        }
+        return mValue;
+    }
+
+    QString Text(const char* text, size_t size) {
+        if (size == 1 && static_cast<unsigned char>(text[0]) < 128 && !mIsDate)
+            return OneCharacter(static_cast<unsigned char>(text[0]));
+        if (!mHasText || size != mBytes.size() || std::memcmp(text, mBytes.data(), size) != 0) {
+            mHasText = true;
+            mHasInteger = false;
+            mBytes.assign(text, size);
+            mValue = Converted(QString::fromUtf8(text, static_cast<qsizetype>(size)));
+        }
+        return mValue;
+    }
+
+    QString Converted(QString value) const { return mIsDate ? DbDates::FromStorage(value) : value; }
+
+    bool mIsDate;
+    bool mHasInteger = false;
+    bool mHasText = false;
+    sqlite3_int64 mInteger = 0;
+    std::string mBytes;
+    QString mValue;
+};
 
 void Bind(sqlite3_stmt* stmt, int index, const QVariant& value) {
     if (value.isNull() || (value.typeId() == QMetaType::QString && value.toString().isEmpty())) {
@@ -143,6 +212,20 @@ clsRecordset clsDB::Execute(const QString& sql, const QVariantList& values) { re
 clsRecordset clsDB::ExecuteRaw(const QString& sql, const QVariantList& values) { return Run(sql, values, false); }
 
 clsRecordset clsDB::Run(const QString& sql, const QVariantList& values, bool convertDates) {
+    clsRecordset result;
+    Read(
+        sql, values, convertDates, [&result](const QStringList& columns) { result = clsRecordset(columns); },
+        [&result](QStringList& row) { result.AppendRow(std::exchange(row, QStringList())); });
+    return result;
+}
+
+void clsDB::Stream(const QString& sql, const QVariantList& values, const ColumnsHandler& onColumns,
+                   const RowHandler& onRow) {
+    Read(sql, values, true, onColumns, onRow);
+}
+
+void clsDB::Read(const QString& sql, const QVariantList& values, bool convertDates, const ColumnsHandler& onColumns,
+                 const RowHandler& onRow) {
     if (!mDb && !OpenConnection())
         throw clsDbError(mOpenError, SQLITE_CANTOPEN);
     Statement st;
@@ -154,24 +237,24 @@ clsRecordset clsDB::Run(const QString& sql, const QVariantList& values, bool con
         Bind(st.stmt, i + 1, values[i]);
     const int columnCount = sqlite3_column_count(st.stmt);
     QStringList columns;
-    QList<bool> isDate;
+    std::vector<ColumnReader> readers;
+    readers.reserve(static_cast<size_t>(columnCount));
     for (int c = 0; c < columnCount; ++c) {
         columns << QString::fromUtf8(sqlite3_column_name(st.stmt, c));
-        isDate << (convertDates && DbDates::IsDateColumn(columns.last()));
+        readers.emplace_back(convertDates && DbDates::IsDateColumn(columns.last()));
     }
-    clsRecordset result(columns);
+    onColumns(columns);
+    // One buffer for every row: what the handler leaves in it is overwritten by the next row.
+    QStringList row;
     while ((rc = sqlite3_step(st.stmt)) == SQLITE_ROW) {
-        QStringList row;
+        row.clear();
         row.reserve(columnCount);
-        for (int c = 0; c < columnCount; ++c) {
-            QString text = ColumnText(st.stmt, c);
-            row << (isDate[c] ? DbDates::FromStorage(text) : text);
-        }
-        result.AppendRow(std::move(row));
+        for (int c = 0; c < columnCount; ++c)
+            row.append(readers[static_cast<size_t>(c)].Read(st.stmt, c));
+        onRow(row);
     }
     if (rc != SQLITE_DONE)
         throw ErrorFor(rc, sql, values);
-    return result;
 }
 
 void clsDB::ExecuteScript(const QString& sql) {
@@ -397,15 +480,56 @@ namespace DbDates {
 
 bool IsDateColumn(const QString& column) { return column.endsWith(QLatin1String("_DT"), Qt::CaseInsensitive); }
 
+namespace {
+
+// The number of `count` digits at `from`, or -1 when any of them is no digit.
+int Digits(const QString& text, qsizetype from, int count) {
+    int value = 0;
+    for (qsizetype i = from; i < from + count; ++i) {
+        const char16_t c = text.at(i).unicode();
+        if (c < u'0' || c > u'9')
+            return -1;
+        value = value * 10 + (c - u'0');
+    }
+    return value;
+}
+
+// The forms the program stores, "2027-06-05" and "2027-06-05 15:00:00" (seconds optional), read without
+// the general parser: a long list has a date in every row.
+bool ReadStoredForm(const QString& text, QDate* date, QTime* time) {
+    const qsizetype size = text.size();
+    if (size != 10 && size != 16 && size != 19)
+        return false;
+    if (text.at(4) != QLatin1Char('-') || text.at(7) != QLatin1Char('-'))
+        return false;
+    *date = QDate(Digits(text, 0, 4), Digits(text, 5, 2), Digits(text, 8, 2));
+    *time = QTime(0, 0);
+    if (size > 10) {
+        if (text.at(10) != QLatin1Char(' ') || text.at(13) != QLatin1Char(':') ||
+            (size == 19 && text.at(16) != QLatin1Char(':')))
+            return false;
+        *time = QTime(Digits(text, 11, 2), Digits(text, 14, 2), size == 19 ? Digits(text, 17, 2) : 0);
+    }
+    return date->isValid() && time->isValid();
+}
+
+} // namespace
+
 QString FromStorage(const QString& stored) {
     if (stored.isEmpty())
         return stored;
-    const QDateTime moment = ParseDateTimeText(stored);
-    if (!moment.isValid())
-        return stored;
-    if (moment.time() == QTime(0, 0))
-        return FormatDate(moment.date());
-    return FormatDate(moment.date()) + QLatin1Char(' ') + FormatTime(moment.time());
+    QDate date;
+    QTime time;
+    if (!ReadStoredForm(stored, &date, &time)) {
+        const QDateTime moment = ParseDateTimeText(stored);
+        if (!moment.isValid())
+            return stored;
+        date = moment.date();
+        time = moment.time();
+    }
+    if (time == QTime(0, 0))
+        return FormatDate(date);
+    return FormatDate(date) + QLatin1Char(' ') + FormatTime(time);
 }
 
 QString ToStorage(const QString& text, const QString& column) {

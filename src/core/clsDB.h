@@ -5,6 +5,7 @@
 #include <QString>
 #include <QVariant>
 #include <QVariantList>
+#include <functional>
 #include <stdexcept>
 
 struct sqlite3;
@@ -49,6 +50,13 @@ public:
     clsRecordset Execute(const QString& sql, const QVariantList& values = {});
     // The same, but dates stay as the stored ISO text (for exports meant for other programs).
     clsRecordset ExecuteRaw(const QString& sql, const QVariantList& values = {});
+    // Runs one statement like Execute, but hands each row to onRow as it comes instead of keeping them:
+    // onColumns first, once, with the column names; then onRow with each row's values, which it may move
+    // away. A long list is read without a copy of it in between. Throws clsDbError on any failure.
+    using ColumnsHandler = std::function<void(const QStringList& columns)>;
+    using RowHandler = std::function<void(QStringList& values)>;
+    void Stream(const QString& sql, const QVariantList& values, const ColumnsHandler& onColumns,
+                const RowHandler& onRow);
     // Runs a script of several statements without values (schema work).
     void ExecuteScript(const QString& sql);
     // Rows changed by the last statement.
@@ -76,6 +84,8 @@ public:
 
 private:
     clsRecordset Run(const QString& sql, const QVariantList& values, bool convertDates);
+    void Read(const QString& sql, const QVariantList& values, bool convertDates, const ColumnsHandler& onColumns,
+              const RowHandler& onRow);
     clsDbError ErrorFor(int code, const QString& sql, const QVariantList& values);
     QString ReferringTable(const QString& sql, const QVariantList& values);
     void SetPragmas();

@@ -421,7 +421,7 @@ QString clsCONTACT::SelectSQL() {
 }
 
 QList<clsCONTACT> clsCONTACT::Query(const QString& sql, const QVariantList& values) {
-    return RecordIO::FillAll(gDB().Execute(sql, values), ReadTable());
+    return RecordIO::ReadAll(ReadTable(), sql, values);
 }
 
 bool clsCONTACT::OpenRecord(const QString& contactId, const QString& roleId, const QString& email,

@@ -174,6 +174,9 @@ private:
     static bool RunWithId(const QString& sql, const QString& id);
     static void FillNewColumn(const QString& column);
 };
+// Only texts (and lists of them) inside: a record may move in memory as a block, so long lists of records
+// grow without copying them one by one.
+Q_DECLARE_TYPEINFO(clsCONTACT, Q_RELOCATABLE_TYPE);
 
 // The bride and the groom, contact rows 1 and 2, opened at start-up.
 clsCONTACT& gBride();

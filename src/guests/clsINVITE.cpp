@@ -246,7 +246,7 @@ QList<clsINVITE> clsINVITE::OpenRecordsOrThrow(int filter, bool SortByName, cons
     const QString order =
         SortByName ? QStringLiteral(" ORDER BY INVITE.DISPLAY_AS_TX COLLATE NOCASE, INVITE.INVITE_ID")
                    : QStringLiteral(" ORDER BY INVITE.INVITE_RSVP_ID, INVITE.INVITE_ID");
-    return RecordIO::FillAll(gDB().Execute(SelectSQL() + BuildInviteWhere(filter, customWhere) + order), ReadTable());
+    return RecordIO::ReadAll(ReadTable(), SelectSQL() + BuildInviteWhere(filter, customWhere) + order);
 }
 
 QList<clsINVITE> clsINVITE::OpenRecords(int filter, bool SortByName, const QString& customWhere) {

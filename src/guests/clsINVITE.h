@@ -115,3 +115,6 @@ private:
     static QString SelectSQL();
     bool OpenBy(const QString& condition, const QString& value, bool LoadGuests, bool* Found);
 };
+// Only texts (and lists of them) inside: a record may move in memory as a block, so long lists of records
+// grow without copying them one by one.
+Q_DECLARE_TYPEINFO(clsINVITE, Q_RELOCATABLE_TYPE);

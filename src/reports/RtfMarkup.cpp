@@ -127,7 +127,7 @@ QString RtfMarkup::EscapeText(const QString& text) {
     return out;
 }
 
-RtfMarkup::RtfMarkup(const QString& text) : mRtf(EscapeText(text)), mPlain(text) {}
+RtfMarkup::RtfMarkup(const QString& text) : mPlain(text), mEscapePending(true) {}
 
 RtfMarkup RtfMarkup::Control(RtfControl words) {
     return RtfMarkup(QString::fromLatin1(words.Words()), QString());
@@ -155,9 +155,11 @@ RtfMarkup RtfMarkup::Strike(const RtfMarkup& inner) {
 }
 
 RtfMarkup& RtfMarkup::operator+=(const RtfMarkup& next) {
-    if (!next.mRtf.isEmpty() && NeedsDelimiterBefore(next.mRtf.at(0)) && EndsInOpenControlWord(mRtf))
+    const QString& rtf = Rtf();
+    const QString& nextRtf = next.Rtf();
+    if (!nextRtf.isEmpty() && NeedsDelimiterBefore(nextRtf.at(0)) && EndsInOpenControlWord(rtf))
         mRtf += QLatin1Char(' ');
-    mRtf += next.mRtf;
+    mRtf += nextRtf;
     mPlain += next.mPlain;
     return *this;
 }

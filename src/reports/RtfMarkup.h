@@ -51,9 +51,16 @@ public:
     static RtfMarkup Italic(const RtfMarkup& inner);
     static RtfMarkup Strike(const RtfMarkup& inner);
 
-    const QString& Rtf() const { return mRtf; }
+    // The RTF of a piece made from plain text is made when first asked for: a CSV file never asks.
+    const QString& Rtf() const {
+        if (mEscapePending) {
+            mRtf = EscapeText(mPlain);
+            mEscapePending = false;
+        }
+        return mRtf;
+    }
     const QString& Plain() const { return mPlain; }
-    bool IsEmpty() const { return mRtf.isEmpty() && mPlain.isEmpty(); }
+    bool IsEmpty() const { return Rtf().isEmpty() && mPlain.isEmpty(); }
 
     // Joins two pieces. When this one ends in a control word and the next begins with a letter, digit,
     // blank or minus, a blank goes between them as the word's delimiter, so that "\b0" + "12" can never
@@ -63,7 +70,7 @@ public:
         first += next;
         return first;
     }
-    bool operator==(const RtfMarkup& other) const { return mRtf == other.mRtf && mPlain == other.mPlain; }
+    bool operator==(const RtfMarkup& other) const { return Rtf() == other.Rtf() && mPlain == other.mPlain; }
 
     // The RTF of a plain text, as the constructors make it.
     static QString EscapeText(const QString& text);
@@ -74,6 +81,7 @@ private:
     RtfMarkup(QString rtf, QString plain) : mRtf(std::move(rtf)), mPlain(std::move(plain)) {}
     static RtfMarkup Wrapped(const char* on, const RtfMarkup& inner, const char* off);
 
-    QString mRtf;
+    mutable QString mRtf;
     QString mPlain;
+    mutable bool mEscapePending = false;
 };

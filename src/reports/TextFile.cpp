@@ -66,17 +66,21 @@ bool TextFile::OpenFile(const QString& path, int mode, Encoding encoding) {
 bool TextFile::WriteLine(const QString& text, int blankLinesBefore, int blankLinesAfter) {
     if (!mOut)
         return false;
-    QByteArray bytes;
-    for (int i = 0; i < blankLinesBefore; ++i)
-        bytes += "\r\n";
-    bytes += text.toUtf8();
-    bytes += "\r\n";
-    for (int i = 0; i < blankLinesAfter; ++i)
-        bytes += "\r\n";
-    if (mOut->write(bytes) != bytes.size()) {
+    const auto write = [this](const char* data, qint64 size) {
+        if (mOut->write(data, size) == size)
+            return true;
         Fail(mOut->errorString());
         return false;
-    }
+    };
+    for (int i = 0; i < blankLinesBefore; ++i)
+        if (!write("\r\n", 2))
+            return false;
+    const QByteArray bytes = text.toUtf8();
+    if (!write(bytes.constData(), bytes.size()) || !write("\r\n", 2))
+        return false;
+    for (int i = 0; i < blankLinesAfter; ++i)
+        if (!write("\r\n", 2))
+            return false;
     return true;
 }
 

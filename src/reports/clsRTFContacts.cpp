@@ -1,7 +1,6 @@
 #include "reports/clsRTFContacts.h"
 
 #include "core/clsApp.h"
-#include "guests/clsParseAddress.h"
 
 RtfMarkup clsRTFContacts::Title() const {
     return FilterText + QStringLiteral(" Contacts");
@@ -60,9 +59,15 @@ QList<RtfMarkup> clsRTFContacts::PortraitTexts(const clsCONTACT& c) const {
 }
 
 QList<RtfMarkup> clsRTFContacts::CsvTexts(const clsCONTACT& c) {
-    clsParseAddress address;
-    QString street = c.ADDRESS_TX;
-    address.ParseFullAddress(street);
+    if (!mParsedAny || c.ADDRESS_TX != mParsedFrom) {
+        mParsedAny = true;
+        mParsedFrom = c.ADDRESS_TX;
+        mStreet = c.ADDRESS_TX;
+        mParsed = clsParseAddress();
+        mParsed.ParseFullAddress(mStreet);
+    }
+    const QString& street = mStreet;
+    const clsParseAddress& address = mParsed;
     return {c.TITLE_TX,        c.FIRST_NM,
             c.MIDDLE_NM,       c.LAST_NM,
             c.SUFFIX_TX,       street,

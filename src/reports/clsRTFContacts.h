@@ -1,6 +1,7 @@
 #pragma once
 
 #include "guests/clsCONTACT.h"
+#include "guests/clsParseAddress.h"
 #include "reports/clsRTFReport.h"
 
 // The contacts of a filter as a list: name, address, telephones and e-mail, whose friend, whose guest,
@@ -20,5 +21,12 @@ protected:
 private:
     QList<RtfMarkup> LandscapeTexts(const clsCONTACT& contact) const;
     QList<RtfMarkup> PortraitTexts(const clsCONTACT& contact) const;
-    static QList<RtfMarkup> CsvTexts(const clsCONTACT& contact);
+    QList<RtfMarkup> CsvTexts(const clsCONTACT& contact);
+
+    // The parts of the last address taken apart: the people of one household follow each other and
+    // share it.
+    bool mParsedAny = false;
+    QString mParsedFrom;
+    QString mStreet;
+    clsParseAddress mParsed;
 };

@@ -322,14 +322,17 @@ QString clsRTFMaster::CsvRecord() const {
     return record;
 }
 
-void clsRTFMaster::PrintCells(bool RowHeader, int RTF_HEIGHT) {
-    if (!USE_RTF) {
-        mFile.WriteLine(CsvRecord());
-        return;
-    }
-    // The row goes to the file in one piece, its lines joined by CR LF.
+const clsRTFMaster::RowLayout& clsRTFMaster::Layout(bool RowHeader, int RTF_HEIGHT) {
+    std::vector<int> key = {RowHeader ? 1 : 0, RTF_HEIGHT, CELL_MARGIN_LEFT, CELL_MARGIN_TOP, CELL_MARGIN_BOTTOM,
+                            CELL_MARGIN_RIGHT};
+    key.reserve(key.size() + 6 * static_cast<size_t>(RTFCells.size()));
+    for (const clsRTFCell& cell : RTFCells)
+        key.insert(key.end(), {cell.CELL_BACKCOLOR, cell.CELL_BORDER, cell.CELL_VERTICAL_ALIGNMENT, cell.CELLX,
+                               cell.CELL_HORIZONTAL_ALIGNMENT, cell.CELL_FORECOLOR});
+    if (key == mLayout.Key)
+        return mLayout;
+
     QString out;
-    out.reserve(256 * RTFCells.size());
     const auto line = [&out](const QString& text, bool blankBefore = false) {
         if (blankBefore)
             out += QLatin1String("\r\n");
@@ -347,22 +350,38 @@ void clsRTFMaster::PrintCells(bool RowHeader, int RTF_HEIGHT) {
                             QLatin1String("\\clpadt") + Number(CELL_MARGIN_TOP) + QLatin1String("\\clpadb") +
                             Number(CELL_MARGIN_BOTTOM) + QLatin1String("\\clpadr") +
                             Number(CELL_MARGIN_RIGHT) + QLatin1String("\\clpadfl3\\clpadfb3");
+    QStringList starts;
     for (const clsRTFCell& cell : RTFCells) {
         line(cell.RTF_CELL_BACKCOLOR());
         line(cell.RTF_CELL_BORDER());
         line(padding);
         line(cell.RTF_CELL_VERTICAL_ALIGNMENT());
         line(QLatin1String("\\cellx") + Number(cell.CELLX));
+        starts << QLatin1String("\\intbl") + cell.RTF_CELL_HORIZONTAL_ALIGNMENT() + cell.RTF_CELL_FORECOLOR() +
+                      QLatin1String("\\sb30\\sa30 ");
     }
     line(QStringLiteral("\\pard"), true);
-    for (clsRTFCell& cell : RTFCells) {
-        line(QLatin1String("\\intbl") + cell.RTF_CELL_HORIZONTAL_ALIGNMENT() + cell.RTF_CELL_FORECOLOR() +
-             QLatin1String("\\sb30\\sa30 ") + CellTextRTF(cell) + QLatin1String("\\cell\\pard"));
+    mLayout = RowLayout{std::move(key), std::move(out), std::move(starts)};
+    return mLayout;
+}
+
+void clsRTFMaster::PrintCells(bool RowHeader, int RTF_HEIGHT) {
+    if (!USE_RTF) {
+        mFile.WriteLine(CsvRecord());
+        return;
     }
-    line(QStringLiteral("\\intbl\\row"), true);
-    line(QStringLiteral("\\pard"), true);
-    out.chop(2); // the file adds the last line end
-    WriteLine(out);
+    // The row goes to the file in one piece, its lines joined by CR LF.
+    const RowLayout& layout = Layout(RowHeader, RTF_HEIGHT);
+    QString out;
+    out.reserve(layout.Definition.size() + 160 * RTFCells.size());
+    out += layout.Definition;
+    for (qsizetype i = 0; i < RTFCells.size(); ++i) {
+        out += layout.CellStarts.at(i);
+        out += CellTextRTF(RTFCells[i]);
+        out += QLatin1String("\\cell\\pard\r\n");
+    }
+    out += QLatin1String("\r\n\\intbl\\row\r\n\r\n\\pard");
+    WriteLine(out); // the file adds the last line end
 }
 
 void clsRTFMaster::PrintBlankCells() {

@@ -9,6 +9,8 @@
 #include <QDateTime>
 #include <QList>
 #include <QString>
+#include <QStringList>
+#include <vector>
 
 // The writer of every report: a Rich Text Format document made of table rows, or a CSV file, from the
 // same calls. A report sets the public fields, calls RTFOpen, then for each row ResetCells, AddCell
@@ -136,8 +138,17 @@ private:
     void WriteLine(const QString& text, int blankLinesBefore = 0);
     QString CellTextRTF(clsRTFCell& cell) const;
     QString CsvRecord() const;
+    // What a table row writes before its texts, and before each cell's text, for the present cells.
+    struct RowLayout {
+        std::vector<int> Key; // everything the texts below are made of
+        QString Definition;   // "\trowd ..." up to the "\pard" before the first text
+        QStringList CellStarts; // "\intbl\ql\cf0\sb30\sa30 " per cell
+    };
+    const RowLayout& Layout(bool RowHeader, int RTF_HEIGHT);
 
     const clsRTFMasterTemp* mSettings;
     TextFile mFile;
     bool mWritten = false;
+    // Rows of one report mostly share their layout: it is made once and used until a cell changes.
+    RowLayout mLayout;
 };

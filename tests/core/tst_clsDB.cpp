@@ -1,6 +1,7 @@
 #include "TestDatabase.h"
 #include "core/RecordIO.h"
 #include "core/clsDB.h"
+#include "core/modGeneral.h"
 #include "core/modSchema.h"
 
 #include <QFile>
@@ -216,6 +217,57 @@ private slots:
         QCOMPARE(DbDates::ToStorage("05-Jun-2027", "X_DT"), QStringLiteral("2027-06-05"));
         QCOMPARE(DbDates::FromStorage("2027-06-05"), QStringLiteral("05-Jun-2027"));
         QVERIFY_THROWS_EXCEPTION(clsDbError, DbDates::ToStorage("next Saturday", "EVENT_DT"));
+    }
+
+    void storedDatesReadInTheProgramsFormat_data() {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("shown");
+        const QString time = FormatTime(QTime(15, 30));
+        QTest::newRow("date") << "2027-06-05" << "05-Jun-2027";
+        QTest::newRow("date and time") << "2027-06-05 15:30:00" << "05-Jun-2027 " + time;
+        QTest::newRow("no seconds") << "2027-06-05 15:30" << "05-Jun-2027 " + time;
+        QTest::newRow("midnight is the date alone") << "2027-06-05 00:00:00" << "05-Jun-2027";
+        QTest::newRow("leap day") << "2028-02-29" << "29-Feb-2028";
+        QTest::newRow("no such day stays as stored") << "2027-02-30" << "2027-02-30";
+        QTest::newRow("no such hour stays as stored") << "2027-06-05 25:00:00" << "2027-06-05 25:00:00";
+        QTest::newRow("older text is still read") << "5-Jun-2027" << "05-Jun-2027";
+        QTest::newRow("no date stays as typed") << "next Saturday" << "next Saturday";
+        QTest::newRow("digits in the wrong places") << "2027/06/05" << "2027/06/05";
+    }
+
+    void storedDatesReadInTheProgramsFormat() {
+        QFETCH(QString, stored);
+        QFETCH(QString, shown);
+        QCOMPARE(DbDates::FromStorage(stored), shown);
+    }
+
+    // Values repeat down a column and are shared between rows; each row must still read as its own, and
+    // a record changed after reading must not change the next one.
+    void repeatedValuesReadRowByRow() {
+        db->Exec("CREATE TABLE PROBE (N INTEGER, T TEXT, F TEXT, X_DT TEXT, R REAL) STRICT");
+        const QList<QVariantList> rows = {
+            {1, "Anne", "Y", "2027-06-05", 1.5},   {1, "Anne", "Y", "2027-06-05", 1.5},
+            {QVariant(), QVariant(), QVariant(), QVariant(), QVariant()},
+            {300, "Anne", "N", "2027-06-06", 2.0}, {300, "Zoë", "é", "2027-06-06", 2.0},
+            {-4, "Zoë", "é", "2027-06-06 15:30:00", -0.25}};
+        int id = 0;
+        for (const QVariantList& row : rows)
+            db->Exec("INSERT INTO PROBE (rowid, N, T, F, X_DT, R) VALUES (?, ?, ?, ?, ?, ?)",
+                     QVariantList{++id} + row);
+        const clsRecordset rs = gDB().Execute("SELECT N, T, F, X_DT, R FROM PROBE ORDER BY rowid");
+        QList<QStringList> read;
+        for (int row = 0; row < rs.RowCount(); ++row)
+            read << rs.Row(row);
+        QStringList changed = rs.Row(0);
+        changed[1].append(QStringLiteral(" Lee"));
+        QCOMPARE(rs.Row(1).at(1), QStringLiteral("Anne"));
+        const QString time = FormatTime(QTime(15, 30));
+        const QList<QStringList> expected = {
+            {"1", "Anne", "Y", "05-Jun-2027", "1.5"}, {"1", "Anne", "Y", "05-Jun-2027", "1.5"},
+            {"", "", "", "", ""},
+            {"300", "Anne", "N", "06-Jun-2027", "2"}, {"300", "Zoë", "é", "06-Jun-2027", "2"},
+            {"-4", "Zoë", "é", "06-Jun-2027 " + time, "-0.25"}};
+        QCOMPARE(read, expected);
     }
 
     void valuesOfTheWrongTypeAreRefused() {

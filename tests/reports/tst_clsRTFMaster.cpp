@@ -571,6 +571,47 @@ private slots:
         QCOMPARE(lines.at(firstCellx + 3), padding);
     }
 
+    // Rows that share their cells share their definition; any change to a cell or a margin shows in the
+    // very next row.
+    void rowLayoutFollowsEveryChange_data() {
+        QTest::addColumn<int>("change");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("border") << 0 << R(R"(\clbrdrt\brdrs\brdrw15\brdrcf3)");
+        QTest::newRow("fill") << 1 << R(R"(\clcbpat2)");
+        QTest::newRow("margin") << 2 << R(R"(\cltxlrtb\clpadl99\clpadt45\clpadb45\clpadr45\clpadfl3\clpadfb3)");
+        QTest::newRow("right edge") << 3 << R(R"(\cellx3000)");
+        QTest::newRow("alignment") << 4 << R(R"(\intbl\qr\cf0\sb30\sa30 x\cell\pard)");
+        QTest::newRow("text colour") << 5 << R(R"(\intbl\ql\cf4\sb30\sa30 x\cell\pard)");
+        QTest::newRow("height") << 6 << R(R"(\trowd\trkeep\trrh-400\trgaph90\trleft0\trql)");
+        QTest::newRow("vertical alignment") << 7 << R(R"(\clvertalb)");
+    }
+    void rowLayoutFollowsEveryChange() {
+        QFETCH(int, change);
+        QFETCH(QString, expected);
+        auto rtf = NewWriter(plainRtf);
+        QVERIFY(rtf->RTFOpen());
+        rtf->AddCell(2000, "x", clsRTFCell::AlignLeft, clsRTFCell::AlignTop, clsRTFCell::NoBorder, 0, 0);
+        rtf->PrintCells(false, 0);
+        clsRTFCell& cell = rtf->RTFCells[0];
+        switch (change) {
+        case 0: rtf->SetCellsCELL_BORDER(clsRTFCell::BorderTop); break;
+        case 1: rtf->SetCellsCELL_BACKCOLOR(2); break;
+        case 2: rtf->CELL_MARGIN_LEFT = 99; break;
+        case 3: cell.CELLX = 3000; break;
+        case 4: cell.CELL_HORIZONTAL_ALIGNMENT = clsRTFCell::AlignRight; break;
+        case 5: rtf->SetCellsCELL_FORECOLOR(4); break;
+        case 7: cell.CELL_VERTICAL_ALIGNMENT = clsRTFCell::AlignBottom; break;
+        default: break;
+        }
+        rtf->PrintCells(false, change == 6 ? 400 : 0);
+        rtf->PrintCells(false, 0);
+        QVERIFY(rtf->RTFClose());
+        const QStringList lines = FileLines(rtf->FULL_FILE_NAME());
+        QVERIFY(!RowLines(lines, 1).contains(expected));
+        QVERIFY(RowLines(lines, 2).contains(expected));
+        QCOMPARE(RowLines(lines, 3).contains(expected), change != 6);
+    }
+
     void styleFlagsAreSpentByPrinting_data() {
         QTest::addColumn<bool>("bold");
         QTest::addColumn<bool>("italic");
