@@ -35,7 +35,6 @@ frmMain_99_Forums::frmMain_99_Forums(QWidget* parent) : QWidget(parent) {
     auto* card = new QWidget(this);
     card->setObjectName(QStringLiteral("fraForums"));
     card->setAttribute(Qt::WA_StyledBackground);
-    card->setFixedWidth(600);
 
     auto* picture = new QLabel(card);
     picture->setPixmap(
@@ -102,6 +101,11 @@ frmMain_99_Forums::frmMain_99_Forums(QWidget* parent) : QWidget(parent) {
     inner->addLayout(form);
     inner->addWidget(hint);
     inner->addLayout(buttons);
+
+    // The card's height follows its wrapped lines at its fixed width.
+    constexpr int kCardWidth = 600;
+    const int height = card->heightForWidth(kCardWidth);
+    card->setFixedSize(kCardWidth, height > 0 ? height : card->sizeHint().height());
 
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(24, 28, 24, 24);
