@@ -53,6 +53,19 @@ int ShowMessage(const QString& prompt, int buttons, const QString& title) {
     return MessageSink().Show(TranslateEngineMessage(prompt), buttons, title.isEmpty() ? ProgramTitle() : title);
 }
 
+CloseChoice AskBeforeClose(bool dirty, const QString& question) {
+    if (!dirty)
+        return CloseChoice::Discard;
+    switch (ShowMessage(question, Msg::YesNoCancel | Msg::Question)) {
+    case Msg::Yes:
+        return CloseChoice::Save;
+    case Msg::No:
+        return CloseChoice::Discard;
+    default:
+        return CloseChoice::Stay;
+    }
+}
+
 std::unique_ptr<clsMessageSink> SetMessageSink(std::unique_ptr<clsMessageSink> sink) {
     return std::exchange(CurrentSink(), std::move(sink));
 }

@@ -52,6 +52,12 @@ inline QString ProgramTitle() { return QStringLiteral("Vowren"); }
 // a duplicate value is replaced by the program's own words first.
 int ShowMessage(const QString& prompt, int buttons = Msg::OKOnly, const QString& title = QString());
 
+// What the user chose on closing an editor.
+enum class CloseChoice { Save, Discard, Stay };
+// An editor with unsaved changes asks "Save Changes?" (or its own question) with Yes, No and Cancel; a
+// clean editor simply closes.
+CloseChoice AskBeforeClose(bool dirty, const QString& question = QStringLiteral("Save Changes?"));
+
 // The replacement that ShowMessage makes: the first of the five engine texts found wins.
 QString TranslateEngineMessage(const QString& prompt);
 

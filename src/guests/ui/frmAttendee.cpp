@@ -83,15 +83,9 @@ bool frmAttendee::SaveAttendee() {
 }
 
 void frmAttendee::reject() {
-    if (IsDirty()) {
-        const int answer = ShowMessage(QStringLiteral("Save Changes?"), Msg::YesNoCancel | Msg::Question);
-        if (answer == Msg::Cancel)
-            return;
-        if (answer == Msg::Yes) {
-            if (SaveAttendee())
-                QDialog::accept();
-            return;
-        }
-    }
-    QDialog::reject();
+    const CloseChoice choice = AskBeforeClose(IsDirty());
+    if (choice == CloseChoice::Save && SaveAttendee())
+        QDialog::accept();
+    else if (choice == CloseChoice::Discard)
+        QDialog::reject();
 }

@@ -2,6 +2,7 @@
 
 #include "core/clsApp.h"
 #include "core/clsDICT.h"
+#include "guests/ui/modGuestEditors.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -66,14 +67,7 @@ void frmCheckName::BuildControls() {
     connect(mShowWhenUnclear, &QCheckBox::toggled, this,
             [](bool checked) { gApp().SetShowDialogWhenNameUnclear(checked); });
 
-    auto* buttons = new QDialogButtonBox(this);
-    QPushButton* ok = buttons->addButton(QDialogButtonBox::Ok);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setDefault(true);
-    QPushButton* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
-    connect(ok, &QPushButton::clicked, this, &frmCheckName::cmdOK_Click);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    QDialogButtonBox* buttons = modGuestEditors::OkCancelButtons(this, [this] { cmdOK_Click(); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);

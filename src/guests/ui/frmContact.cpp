@@ -704,18 +704,11 @@ void frmContact::StartNewOfHousehold() {
 }
 
 void frmContact::reject() {
-    if (IsDirty()) {
-        switch (ShowMessage(QStringLiteral("Save Changes?"), Msg::YesNoCancel | Msg::Question)) {
-        case Msg::Yes:
-            cmdSave_Click();
-            return;
-        case Msg::No:
-            break;
-        default:
-            return;
-        }
-    }
-    QDialog::reject();
+    const CloseChoice choice = AskBeforeClose(IsDirty());
+    if (choice == CloseChoice::Save)
+        cmdSave_Click();
+    else if (choice == CloseChoice::Discard)
+        QDialog::reject();
 }
 
 // ---- Registration -----------------------------------------------------------------------------------

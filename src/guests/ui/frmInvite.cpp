@@ -760,17 +760,10 @@ bool frmInvite::SaveInvitation() {
 }
 
 void frmInvite::reject() {
-    if (IsDirty()) {
-        const QString question =
-            mAdd ? QStringLiteral("Create Invitation?") : QStringLiteral("Save Changes?");
-        const int answer = ShowMessage(question, Msg::YesNoCancel | Msg::Question);
-        if (answer == Msg::Cancel)
-            return;
-        if (answer == Msg::Yes) {
-            if (SaveInvitation())
-                QDialog::accept();
-            return;
-        }
-    }
-    QDialog::reject();
+    const CloseChoice choice =
+        AskBeforeClose(IsDirty(), mAdd ? QStringLiteral("Create Invitation?") : QStringLiteral("Save Changes?"));
+    if (choice == CloseChoice::Save && SaveInvitation())
+        QDialog::accept();
+    else if (choice == CloseChoice::Discard)
+        QDialog::reject();
 }

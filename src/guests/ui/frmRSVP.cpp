@@ -252,15 +252,9 @@ void frmRSVP::mfrmContact_Updated(const QString& contactId) {
 }
 
 void frmRSVP::reject() {
-    if (IsDirty()) {
-        const int answer = ShowMessage(QStringLiteral("Save Changes?"), Msg::YesNoCancel | Msg::Question);
-        if (answer == Msg::Cancel)
-            return;
-        if (answer == Msg::Yes) {
-            if (SaveRSVP())
-                QDialog::accept();
-            return;
-        }
-    }
-    QDialog::reject();
+    const CloseChoice choice = AskBeforeClose(IsDirty());
+    if (choice == CloseChoice::Save && SaveRSVP())
+        QDialog::accept();
+    else if (choice == CloseChoice::Discard)
+        QDialog::reject();
 }

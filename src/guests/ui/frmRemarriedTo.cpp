@@ -46,14 +46,7 @@ frmRemarriedTo::frmRemarriedTo(int roleId, QWidget* parent) : QDialog(parent), m
     form->addRow(nameLabel, mContacts);
     form->addRow(QString(), add);
 
-    auto* buttons = new QDialogButtonBox(this);
-    QPushButton* ok = buttons->addButton(QDialogButtonBox::Ok);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setDefault(true);
-    QPushButton* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
-    connect(ok, &QPushButton::clicked, this, &frmRemarriedTo::cmdOK_Click);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    QDialogButtonBox* buttons = modGuestEditors::OkCancelButtons(this, [this] { cmdOK_Click(); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(header);

@@ -2,11 +2,26 @@
 
 #include "shell/controls/ControlIcons.h"
 
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPushButton>
 
 namespace modGuestEditors {
+
+QDialogButtonBox* OkCancelButtons(QDialog* dialog, const std::function<void()>& ok) {
+    auto* buttons = new QDialogButtonBox(dialog);
+    QPushButton* okButton = buttons->addButton(QDialogButtonBox::Ok);
+    okButton->setObjectName(QStringLiteral("cmdOK"));
+    okButton->setDefault(true);
+    QPushButton* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+    cancel->setObjectName(QStringLiteral("cmdCancel"));
+    QObject::connect(okButton, &QPushButton::clicked, dialog, ok);
+    QObject::connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
+    return buttons;
+}
 namespace {
 
 const QColor kPaper(0xfb, 0xf8, 0xf1);

@@ -2,7 +2,10 @@
 
 #include <QIcon>
 #include <QPixmap>
+#include <functional>
 
+class QDialog;
+class QDialogButtonBox;
 class QLabel;
 class QWidget;
 
@@ -10,6 +13,8 @@ class QWidget;
 // a response card, drawn as vectors so that they stay crisp at any screen density.
 namespace modGuestEditors {
 
+// OK ("cmdOK", the default button) runs the dialog's own check; Cancel ("cmdCancel") rejects.
+QDialogButtonBox* OkCancelButtons(QDialog* dialog, const std::function<void()>& ok);
 // The bold heading at the top of an editor ("lblHeader").
 QLabel* HeaderLabel(QWidget* parent);
 // An arrow pointing up or down, in the palette's text colour.

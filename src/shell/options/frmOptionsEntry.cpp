@@ -150,16 +150,9 @@ void frmOptionsEntry::cmdSaveNew_Click() {
 }
 
 void frmOptionsEntry::reject() {
-    if (IsDirty() && mSave->isEnabled()) {
-        switch (ShowMessage(QStringLiteral("Save Changes?"), Msg::YesNoCancel | Msg::Question)) {
-        case Msg::Yes:
-            cmdSave_Click();
-            return;
-        case Msg::Cancel:
-            return;
-        default:
-            break;
-        }
-    }
-    QDialog::reject();
+    const CloseChoice choice = AskBeforeClose(IsDirty() && mSave->isEnabled());
+    if (choice == CloseChoice::Save)
+        cmdSave_Click();
+    else if (choice == CloseChoice::Discard)
+        QDialog::reject();
 }
