@@ -54,7 +54,7 @@ QList<clsGridColumn> ContactColumns() {
 }
 
 // The cells of a contact's row, by column key.
-QList<std::pair<QString, QString>> ContactCells(const clsCONTACT& c) {
+GridCells ContactCells(const clsCONTACT& c) {
     return {{QStringLiteral("TITLE_TX"), c.TITLE_TX},
             {QStringLiteral("FULL_NM"), c.ListName()},
             {QStringLiteral("ADDRESS_TX"), c.DisplayAddress(false)},
@@ -136,9 +136,8 @@ int frmMain_01_Contacts::FillRows(clsGridFill& fill, int filterId) {
     for (const clsCONTACT& contact : contacts) {
         fill.Row(contact.CONTACT_ID.toLongLong())
             .Icon(QStringLiteral("ICO"), GuestIcons::PersonIndex(contact))
-            .Icon(QStringLiteral("INVITE_ICO"), GuestIcons::InviteIndex(contact));
-        for (const auto& [key, text] : ContactCells(contact))
-            fill.Set(key, text);
+            .Icon(QStringLiteral("INVITE_ICO"), GuestIcons::InviteIndex(contact))
+            .Set(ContactCells(contact));
     }
     return static_cast<int>(contacts.size());
 }
@@ -147,8 +146,7 @@ void frmMain_01_Contacts::SetRowCells(const QModelIndex& row, const clsCONTACT& 
     clsGridModel* model = Grid()->Model();
     model->SetCell(row, QStringLiteral("ICO"), QString::number(GuestIcons::PersonIndex(contact)));
     model->SetCell(row, QStringLiteral("INVITE_ICO"), QString::number(GuestIcons::InviteIndex(contact)));
-    for (const auto& [key, text] : ContactCells(contact))
-        model->SetCell(row, key, text);
+    model->SetCells(row, ContactCells(contact));
 }
 
 void frmMain_01_Contacts::Activate(qint64 key) { OpenEditor(QString::number(key), false); }

@@ -43,7 +43,7 @@ int StateIcon(const clsINVITE& invite) {
     return invite.RSVP_RECEIVED_FG == QLatin1String("Y") ? GuestIcons::InviteReplied : GuestIcons::InviteSent;
 }
 
-QList<std::pair<QString, QString>> InvitationCells(const clsINVITE& invite) {
+GridCells InvitationCells(const clsINVITE& invite) {
     return {{QStringLiteral("RSVP_ID"), invite.INVITE_RSVP_ID},
             {QStringLiteral("INVITATION"), invite.DISPLAY_AS_TX},
             {QStringLiteral("OUTER_ENVELOPE"), invite.OUTER_ENVELOPE_TX_AND_OUTER_ENVELOPE_ADDRESS_TX(false)},
@@ -117,9 +117,8 @@ long frmMain_02_Invitations::CountOf(int filterId) const {
 int frmMain_02_Invitations::FillRows(clsGridFill& fill, int filterId) {
     const QList<clsINVITE> invites = clsINVITE::OpenRecords(filterId, true);
     for (const clsINVITE& invite : invites) {
-        fill.Row(invite.INVITE_ID.toLongLong()).Icon(QStringLiteral("ICO"), StateIcon(invite));
-        for (const auto& [key, text] : InvitationCells(invite))
-            fill.Set(key, text);
+        fill.Row(invite.INVITE_ID.toLongLong()).Icon(QStringLiteral("ICO"), StateIcon(invite))
+            .Set(InvitationCells(invite));
     }
     return static_cast<int>(invites.size());
 }
@@ -127,8 +126,7 @@ int frmMain_02_Invitations::FillRows(clsGridFill& fill, int filterId) {
 void frmMain_02_Invitations::SetRowCells(const QModelIndex& row, const clsINVITE& invite) {
     clsGridModel* model = Grid()->Model();
     model->SetCell(row, QStringLiteral("ICO"), QString::number(StateIcon(invite)));
-    for (const auto& [key, text] : InvitationCells(invite))
-        model->SetCell(row, key, text);
+    model->SetCells(row, InvitationCells(invite));
 }
 
 void frmMain_02_Invitations::RefreshRow(const QString& inviteId) {

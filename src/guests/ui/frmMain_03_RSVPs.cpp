@@ -59,7 +59,7 @@ QColor StruckColor() {
     return {gray.RedPart(), gray.GreenPart(), gray.BluePart()};
 }
 
-QList<std::pair<QString, QString>> RSVPCells(const clsINVITE& invite) {
+GridCells RSVPCells(const clsINVITE& invite) {
     return {{QStringLiteral("RSVP_ID"), invite.INVITE_RSVP_ID},
             {QStringLiteral("INVITATION"), invite.DISPLAY_AS_TX},
             {QStringLiteral("AB"), invite.AB_LIST_CD},
@@ -141,9 +141,8 @@ int frmMain_03_RSVPs::ShareBaseOf(int filterId) const {
 int frmMain_03_RSVPs::FillRows(clsGridFill& fill, int filterId) {
     const QList<clsINVITE> invites = clsINVITE::OpenRecords(filterId, false);
     for (const clsINVITE& invite : invites) {
-        fill.Row(invite.INVITE_ID.toLongLong()).Icon(QStringLiteral("ICO"), StateIcon(invite));
-        for (const auto& [key, text] : RSVPCells(invite))
-            fill.Set(key, text);
+        fill.Row(invite.INVITE_ID.toLongLong()).Icon(QStringLiteral("ICO"), StateIcon(invite))
+            .Set(RSVPCells(invite));
         if (NobodyComes(invite))
             fill.Look(StruckColor(), true);
     }
@@ -153,8 +152,7 @@ int frmMain_03_RSVPs::FillRows(clsGridFill& fill, int filterId) {
 void frmMain_03_RSVPs::SetRowCells(const QModelIndex& row, const clsINVITE& invite) {
     clsGridModel* model = Grid()->Model();
     model->SetCell(row, QStringLiteral("ICO"), QString::number(StateIcon(invite)));
-    for (const auto& [key, text] : RSVPCells(invite))
-        model->SetCell(row, key, text);
+    model->SetCells(row, RSVPCells(invite));
     const bool struck = NobodyComes(invite);
     model->SetRowLook(row, struck ? StruckColor() : QColor(), struck);
 }

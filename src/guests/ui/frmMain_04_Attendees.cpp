@@ -55,7 +55,7 @@ QString ListName(const clsCONTACT& c) {
     return name.startsWith(QLatin1String(", ")) ? name.mid(2) : name;
 }
 
-QList<std::pair<QString, QString>> AttendeeCells(const clsCONTACT& c) {
+GridCells AttendeeCells(const clsCONTACT& c) {
     return {{QStringLiteral("RSVP_ID"), c.INVITE_RSVP_ID},
             {QStringLiteral("ATTENDEE_NM"), ListName(c)},
             {QStringLiteral("FRIEND_OF"), c.FRIEND_OF_TX()},
@@ -210,9 +210,8 @@ int frmMain_04_Attendees::FillRows(clsGridFill& fill, int filterId) {
                                             : clsCONTACT::OpenRecords(kCustomFilter, meal, {}, false);
     for (const clsCONTACT& contact : attendees) {
         fill.Row(contact.CONTACT_ID.toLongLong())
-            .Icon(QStringLiteral("ICO"), GuestIcons::PersonIndex(contact));
-        for (const auto& [key, text] : AttendeeCells(contact))
-            fill.Set(key, text);
+            .Icon(QStringLiteral("ICO"), GuestIcons::PersonIndex(contact))
+            .Set(AttendeeCells(contact));
     }
     return static_cast<int>(attendees.size());
 }
@@ -220,8 +219,7 @@ int frmMain_04_Attendees::FillRows(clsGridFill& fill, int filterId) {
 void frmMain_04_Attendees::SetRowCells(const QModelIndex& row, const clsCONTACT& contact) {
     clsGridModel* model = Grid()->Model();
     model->SetCell(row, QStringLiteral("ICO"), QString::number(GuestIcons::PersonIndex(contact)));
-    for (const auto& [key, text] : AttendeeCells(contact))
-        model->SetCell(row, key, text);
+    model->SetCells(row, AttendeeCells(contact));
 }
 
 void frmMain_04_Attendees::Activate(qint64 key) {

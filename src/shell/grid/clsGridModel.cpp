@@ -131,6 +131,11 @@ void clsGridModel::SetCell(const QModelIndex& index, const QString& key, const Q
     emit dataChanged(cell, cell);
 }
 
+void clsGridModel::SetCells(const QModelIndex& index, const GridCells& cells) {
+    for (const auto& [key, text] : cells)
+        SetCell(index, key, text);
+}
+
 void clsGridModel::SetRowText(const QModelIndex& index, const QString& text) {
     clsGridRow* row = RowAt(index);
     if (row == nullptr || row->IsGroup) return;
@@ -299,6 +304,12 @@ clsGridFill& clsGridFill::Set(const QString& key, const QString& text) { return 
 
 clsGridFill& clsGridFill::Set(int column, const QString& text) {
     if (mRow != nullptr && column >= 0 && column < mRow->Cells.size()) mRow->Cells[column] = text;
+    return *this;
+}
+
+clsGridFill& clsGridFill::Set(const GridCells& cells) {
+    for (const auto& [key, text] : cells)
+        Set(key, text);
     return *this;
 }
 

@@ -8,7 +8,11 @@
 #include <QString>
 #include <QVector>
 #include <memory>
+#include <utility>
 #include <vector>
+
+// The texts of a row by column key, as a page makes them for one record.
+using GridCells = QList<std::pair<QString, QString>>;
 
 // The data roles of the grid beside Qt's own.
 namespace GridRole {
@@ -120,6 +124,7 @@ public:
     QModelIndex AddRecord(qint64 itemData, const QString& groupText = QString());
     void RemoveRow(const QModelIndex& index);
     void SetCell(const QModelIndex& index, const QString& key, const QString& text);
+    void SetCells(const QModelIndex& index, const GridCells& cells);
     void SetRowText(const QModelIndex& index, const QString& text);
     // The colour of a record row's text (invalid: the palette's) and whether a line goes through it.
     void SetRowLook(const QModelIndex& index, const QColor& foreground, bool strikeOut);
@@ -179,6 +184,7 @@ public:
     clsGridFill& Row(qint64 itemData);
     clsGridFill& Set(const QString& key, const QString& text);
     clsGridFill& Set(int column, const QString& text);
+    clsGridFill& Set(const GridCells& cells);
     clsGridFill& Icon(const QString& key, int imageIndex);
     clsGridFill& Notes(const QString& text);
     clsGridFill& Look(const QColor& foreground, bool strikeOut);
