@@ -39,17 +39,7 @@ frmAttendee::frmAttendee(const QString& contactId, QWidget* parent) : QDialog(pa
     mealLabel->setBuddy(mMeal->ComboBox());
     form->addRow(mealLabel, mMeal);
 
-    auto* buttons = new QDialogButtonBox(this);
-    mSave = buttons->addButton(QStringLiteral("Save"), QDialogButtonBox::AcceptRole);
-    mSave->setObjectName(QStringLiteral("cmdSave"));
-    mSave->setDefault(true);
-    QPushButton* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
-    connect(mSave, &QPushButton::clicked, this, [this] {
-        if (SaveAttendee())
-            QDialog::accept();
-    });
-    connect(cancel, &QPushButton::clicked, this, &frmAttendee::reject);
+    QDialogButtonBox* buttons = modGuestEditors::SaveCancelButtons(this, [this] { return SaveAttendee(); }, &mSave);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(top);

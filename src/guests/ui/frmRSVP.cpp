@@ -42,17 +42,7 @@ frmRSVP::frmRSVP(const QString& inviteId, QWidget* parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("Open RSVP"));
     mInvite.OpenRecord(inviteId, true);
 
-    auto* buttons = new QDialogButtonBox(this);
-    mSave = buttons->addButton(QStringLiteral("Save"), QDialogButtonBox::AcceptRole);
-    mSave->setObjectName(QStringLiteral("cmdSave"));
-    mSave->setDefault(true);
-    QPushButton* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
-    connect(mSave, &QPushButton::clicked, this, [this] {
-        if (SaveRSVP())
-            QDialog::accept();
-    });
-    connect(cancel, &QPushButton::clicked, this, &frmRSVP::reject);
+    QDialogButtonBox* buttons = modGuestEditors::SaveCancelButtons(this, [this] { return SaveRSVP(); }, &mSave);
 
     mSummary = new QLabel(this);
     mSummary->setObjectName(QStringLiteral("lblSummary"));

@@ -11,16 +11,37 @@
 
 namespace modGuestEditors {
 
-QDialogButtonBox* OkCancelButtons(QDialog* dialog, const std::function<void()>& ok) {
-    auto* buttons = new QDialogButtonBox(dialog);
-    QPushButton* okButton = buttons->addButton(QDialogButtonBox::Ok);
-    okButton->setObjectName(QStringLiteral("cmdOK"));
-    okButton->setDefault(true);
+namespace {
+
+// The default button and Cancel, in the platform's order.
+QDialogButtonBox* AcceptCancelButtons(QDialog* dialog, QPushButton* accept, const QString& name,
+                                      const std::function<void()>& onAccept) {
+    auto* buttons = qobject_cast<QDialogButtonBox*>(accept->parentWidget());
+    accept->setObjectName(name);
+    accept->setDefault(true);
     QPushButton* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
     cancel->setObjectName(QStringLiteral("cmdCancel"));
-    QObject::connect(okButton, &QPushButton::clicked, dialog, ok);
+    QObject::connect(accept, &QPushButton::clicked, dialog, onAccept);
     QObject::connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
     return buttons;
+}
+
+} // namespace
+
+QDialogButtonBox* OkCancelButtons(QDialog* dialog, const std::function<void()>& ok) {
+    auto* buttons = new QDialogButtonBox(dialog);
+    return AcceptCancelButtons(dialog, buttons->addButton(QDialogButtonBox::Ok), QStringLiteral("cmdOK"), ok);
+}
+
+QDialogButtonBox* SaveCancelButtons(QDialog* dialog, const std::function<bool()>& save, QPushButton** saveButton) {
+    auto* buttons = new QDialogButtonBox(dialog);
+    QPushButton* button = buttons->addButton(QStringLiteral("Save"), QDialogButtonBox::AcceptRole);
+    if (saveButton)
+        *saveButton = button;
+    return AcceptCancelButtons(dialog, button, QStringLiteral("cmdSave"), [dialog, save] {
+        if (save())
+            dialog->accept();
+    });
 }
 namespace {
 
