@@ -24,8 +24,6 @@ public:
     QString Value(int row, const QString& column) const;
     QString Value(int row, int column) const;
     const QStringList& Row(int row) const { return mRows[static_cast<size_t>(row)]; }
-    // A row whose values may be moved away; for a recordset that is used up.
-    QStringList& TakeRow(int row) { return mRows[static_cast<size_t>(row)]; }
     // The first column of the first row, or "" when there is none (counts, Max(...) + 1).
     QString Scalar() const;
 

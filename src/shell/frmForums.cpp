@@ -15,7 +15,7 @@ frmForums::frmForums(QWidget* parent) : QDialog(parent) {
     auto* picture = new QToolButton(this);
     picture->setObjectName(QStringLiteral("imgForums"));
     picture->setIcon(mdiMain::ShellIcon(QStringLiteral("forums")));
-    picture->setIconSize(QSize(64, 64));
+    picture->setIconSize(QSize(modNotice::kPictureSize, modNotice::kPictureSize));
     picture->setAutoRaise(true);
     picture->setCursor(Qt::PointingHandCursor);
     picture->setToolTip(QStringLiteral("Visit the forums"));

@@ -325,37 +325,30 @@ void frmMain_00_Home::showEvent(QShowEvent* event) {
 
 // ---- Notices -----------------------------------------------------------------------------------------
 
-QString frmMain_00_Home::TakeFirstVisitOffer() {
+QDialog* frmMain_00_Home::TakeNotice(QWidget* owner) {
+    static bool screenHintShown = false;
+    const QScreen* screen = owner->screen();
+    if (screen && !screenHintShown &&
+        clsApp::Screen_800_x_600(screen->geometry().width(), screen->geometry().height())) {
+        screenHintShown = true;
+        return new frmScreenResolution(owner);
+    }
     clsApp& app = gApp();
     if (!app.ShownFeatureTour()) {
         app.SetShownFeatureTour(true);
-        return QStringLiteral("frmFeatureTour");
+        return new frmFeatureTour(owner);
     }
     if (!app.ShownForums()) {
         app.SetShownForums(true);
-        return QStringLiteral("frmForums");
+        return new frmForums(owner);
     }
-    return QString();
+    return nullptr;
 }
 
 // One notice at a time, none of them modal: the page stays usable behind it. The screen hint comes once a
 // run, the tour's offer and then the forums' invitation once each on their first visits.
 void frmMain_00_Home::ShowNotices() {
-    QWidget* owner = window();
-    QDialog* notice = nullptr;
-    const QScreen* screen = owner->screen();
-    static bool screenHintShown = false;
-    if (screen && !screenHintShown &&
-        clsApp::Screen_800_x_600(screen->geometry().width(), screen->geometry().height())) {
-        screenHintShown = true;
-        notice = new frmScreenResolution(owner);
-    } else {
-        const QString offer = TakeFirstVisitOffer();
-        if (offer == QLatin1String("frmFeatureTour"))
-            notice = new frmFeatureTour(owner);
-        else if (offer == QLatin1String("frmForums"))
-            notice = new frmForums(owner);
-    }
+    QDialog* notice = TakeNotice(window());
     if (!notice)
         return;
     notice->setAttribute(Qt::WA_DeleteOnClose);

@@ -4,6 +4,7 @@
 #include <QMap>
 #include <QWidget>
 
+class QDialog;
 class QGridLayout;
 class QLabel;
 class QPushButton;
@@ -26,9 +27,6 @@ public:
     QString BudgetText() const;
     QString BudgetActualText() const;
     QString BudgetPlusMinusText() const;
-
-    // The offer a first visit brings, marked as made: "frmFeatureTour", then "frmForums", then none.
-    static QString TakeFirstVisitOffer();
 
     // "1 vendor", "2 vendors": the noun gets its "s" unless the number is 1.
     static QString Counted(long number, const QString& noun);
@@ -55,6 +53,8 @@ private:
     void ArrangeCards();
     void UpdateClock();
     void ShowNotices();
+    // The notice this visit brings, marked as shown, or none: the screen hint, the tour, the forums.
+    static QDialog* TakeNotice(QWidget* owner);
 
     QLabel* lblDate = nullptr;
     QLabel* lblTime = nullptr;

@@ -10,10 +10,6 @@
 
 namespace modNotice {
 
-namespace {
-constexpr int kPictureSize = 64;
-} // namespace
-
 QLabel* Picture(const QString& icon, QWidget* parent) {
     auto* picture = new QLabel(parent);
     picture->setPixmap(mdiMain::ShellIcon(icon).pixmap(QSize(kPictureSize, kPictureSize),

@@ -11,6 +11,9 @@ class QWidget;
 // look: a picture on the left, a heading and a few lines beside it, and a row of buttons below.
 namespace modNotice {
 
+// The size of a notice's picture, in pixels.
+inline constexpr int kPictureSize = 64;
+
 // A picture of the shell's own (see mdiMain::ShellIcon) at the notices' size.
 QLabel* Picture(const QString& icon, QWidget* parent);
 
