@@ -1,4 +1,4 @@
-#include "shell/frmMain_00_Welcome.h"
+#include "startup/ui/frmMain_00_Welcome.h"
 
 #include "core/RecordIO.h"
 #include "core/clsDB.h"

@@ -1,4 +1,4 @@
-#include "shell/frmMain_00_Home.h"
+#include "startup/ui/frmMain_00_Home.h"
 
 #include "core/clsApp.h"
 #include "core/modGeneral.h"
