@@ -2,7 +2,7 @@
 // grid is filled and painted, and one keystroke in its search box.
 #include "core/ShowMessage.h"
 #include "core/clsDB.h"
-#include "core/modDemoWedding.h"
+#include "startup/modDemoWedding.h"
 #include "core/modSubMain.h"
 #include "guests/ui/frmMain_01_Contacts.h"
 #include "shell/controls/usrSearch.h"

@@ -3,7 +3,7 @@
 // baseline reads the same rows with bare sqlite3 calls, to show what the program's layers cost.
 #include "core/ShowMessage.h"
 #include "core/clsDB.h"
-#include "core/modDemoWedding.h"
+#include "startup/modDemoWedding.h"
 #include "core/modSubMain.h"
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"

@@ -8,7 +8,7 @@
 #include "planning/clsEVENT.h"
 #include "platform/clsShell.h"
 #include "shell/controls/usrHyperlink.h"
-#include "shell/frmMain_00_Welcome.h"
+#include "startup/ui/frmMain_00_Welcome.h"
 #include "shell/options/modBrideGroomIcons.h"
 #include "shell/modFormPlace.h"
 #include "shell/modHelp.h"

@@ -121,7 +121,7 @@ void Clear() {
 #include "reports/ui/modReportDialogs.h"
 #include "shell/frmFeatureTour.h"
 #include "shell/frmForums.h"
-#include "shell/frmMain_00_Home.h"
+#include "startup/ui/frmMain_00_Home.h"
 #include "shell/frmMain_99_Forums.h"
 #include "shell/frmScreenResolution.h"
 #include "shell/grid/frmCustomizeColumns.h"

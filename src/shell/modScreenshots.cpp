@@ -1,11 +1,11 @@
 #include "shell/modScreenshots.h"
 
 #include "core/ShowMessage.h"
-#include "core/modDemoWedding.h"
+#include "startup/modDemoWedding.h"
 #include "core/modGeneral.h"
 #include "core/modSubMain.h"
 #include "platform/clsRegistry.h"
-#include "shell/frmMain_00_Welcome.h"
+#include "startup/ui/frmMain_00_Welcome.h"
 #include "shell/frmVowren.h"
 #include "shell/controls/usrNumberBox.h"
 #include "shell/mdiMain.h"

@@ -5,7 +5,7 @@
 #include "platform/clsShell.h"
 #include "shell/frmFeatureTour.h"
 #include "shell/frmForums.h"
-#include "shell/frmMain_00_Home.h"
+#include "startup/ui/frmMain_00_Home.h"
 #include "shell/frmMain_99_Forums.h"
 #include "shell/frmScreenResolution.h"
 #include "shell/mdiMain.h"

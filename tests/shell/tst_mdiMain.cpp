@@ -3,7 +3,7 @@
 #include "core/modGeneral.h"
 #include "core/modSubMain.h"
 #include "shell/controls/usrHyperlink.h"
-#include "shell/frmMain_00_Home.h"
+#include "startup/ui/frmMain_00_Home.h"
 #include "shell/frmVowren.h"
 #include "shell/mdiMain.h"
 #include "shell/modPages.h"

@@ -5,7 +5,7 @@
 #include "guests/clsINVITE.h"
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmRSVP.h"
-#include "reports/clsColor.h"
+#include "core/clsColor.h"
 #include "reports/clsReportCatalogue.h"
 #include "reports/ui/modReportDialogs.h"
 #include "shell/controls/usrHyperlink.h"
