@@ -1,12 +1,13 @@
 // vowren: the desktop program.
+#include "app/modKnownScreens.h"
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
 #include "core/modSubMain.h"
 #include "platform/clsShell.h"
 #include "shell/frmVowren.h"
 #include "shell/mdiMain.h"
-#include "shell/modPages.h"
 #include "shell/modScreenshots.h"
+#include "startup/modStartup.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -84,7 +85,8 @@ int main(int argc, char** argv) {
     parser.process(app);
 
     mdiMain::ApplyLook();
-    modPages::RegisterKnownScreens();
+    modStartup::RegisterSubsystems();
+    RegisterKnownScreens();
 
     if (parser.isSet(screenshots)) {
         QString message;

@@ -1,14 +1,14 @@
 #include "guests/ui/frmMain_03_RSVPs.h"
 
 #include "core/clsApp.h"
+#include "core/clsColor.h"
 #include "core/clsDICT.h"
 #include "guests/clsINVITE.h"
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmRSVP.h"
-#include "core/clsColor.h"
 #include "reports/clsReportCatalogue.h"
-#include "reports/ui/modReportDialogs.h"
 #include "shell/controls/usrHyperlink.h"
+#include "shell/modPages.h"
 #include "shell/options/frmOptions.h"
 
 #include <QMenu>
@@ -113,7 +113,7 @@ void frmMain_03_RSVPs::BuildActions() {
     AddAction(CustomizeMeals, QStringLiteral("Customize meals"),
               [this] { ShowOptions(this, clsDICT::Meal); });
     AddAction(PrintReports, QStringLiteral("Print reports"),
-              [this] { ShowReports(this, clsReportCatalogue::RSVPs, CurrentFilter()); });
+              [this] { modPages::OpenReports(this, clsReportCatalogue::RSVPs, CurrentFilter()); });
     AddReportsFolderAction(OpenReportsFolder);
     AddCustomizeColumnsAction(CustomizeColumns);
 }
