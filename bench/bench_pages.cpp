@@ -2,10 +2,11 @@
 // grid is filled and painted, and one keystroke in its search box.
 #include "core/ShowMessage.h"
 #include "core/clsDB.h"
-#include "core/modDemoWedding.h"
 #include "core/modSubMain.h"
 #include "guests/ui/frmMain_01_Contacts.h"
 #include "shell/controls/usrSearch.h"
+#include "startup/modDemoWedding.h"
+#include "startup/modStartup.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -58,6 +59,7 @@ int main(int argc, char** argv) {
     qputenv("VOWREN_HOME", home.path().toUtf8());
     qputenv("VOWREN_NO_OPEN", "1");
     SetMessageSink(std::make_unique<clsCapturingMessageSink>());
+    modStartup::RegisterSubsystems();
     QString message;
     if (!modSubMain::Start(&message) || !FillDemoWedding(10000, 1, &message)) {
         std::fprintf(stderr, "vowren-bench-pages: %s\n", qPrintable(message));

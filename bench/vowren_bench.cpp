@@ -3,13 +3,14 @@
 // baseline reads the same rows with bare sqlite3 calls, to show what the program's layers cost.
 #include "core/ShowMessage.h"
 #include "core/clsDB.h"
-#include "core/modDemoWedding.h"
 #include "core/modSubMain.h"
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
 #include "reports/clsReportCatalogue.h"
 #include "reports/modReportRegistry.h"
 #include "reports/modReportRunner.h"
+#include "startup/modDemoWedding.h"
+#include "startup/modStartup.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -255,6 +256,7 @@ int main(int argc, char** argv) {
     qputenv("VOWREN_HOME", home.path().toUtf8());
     qputenv("VOWREN_NO_OPEN", "1");
     SetMessageSink(std::make_unique<clsCapturingMessageSink>());
+    modStartup::RegisterSubsystems();
     QString message;
     if (!modSubMain::Start(&message)) {
         std::fprintf(stderr, "vowren-bench: %s\n", qPrintable(message));

@@ -2,6 +2,7 @@
 
 #include "core/ShowMessage.h"
 #include "platform/clsRegistry.h"
+#include "startup/modStartup.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -17,6 +18,7 @@ public:
         auto sink = std::make_unique<clsCapturingMessageSink>();
         mMessages = sink.get();
         SetMessageSink(std::move(sink));
+        modStartup::RegisterSubsystems();
     }
     ~TestHome() {
         SetRegistryStore(nullptr);

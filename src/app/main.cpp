@@ -1,4 +1,5 @@
 // vowren: the desktop program.
+#include "app/modKnownScreens.h"
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
 #include "core/clsDB.h"
@@ -7,9 +8,9 @@
 #include "platform/clsShell.h"
 #include "shell/frmVowren.h"
 #include "shell/mdiMain.h"
-#include "shell/modPages.h"
 #include "shell/modScreenshots.h"
 #include "shell/modSingleInstance.h"
+#include "startup/modStartup.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -87,7 +88,8 @@ int main(int argc, char** argv) {
     parser.process(app);
 
     mdiMain::ApplyLook();
-    modPages::RegisterKnownScreens();
+    modStartup::RegisterSubsystems();
+    RegisterKnownScreens();
 
     if (parser.isSet(screenshots)) {
         QString message;

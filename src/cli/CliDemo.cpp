@@ -1,6 +1,6 @@
 #include "cli/CliCommand.h"
 
-#include "core/modDemoWedding.h"
+#include "startup/modDemoWedding.h"
 
 namespace {
 

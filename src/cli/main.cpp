@@ -2,6 +2,7 @@
 #include "cli/CliCommand.h"
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
+#include "startup/modStartup.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -27,6 +28,7 @@ int main(int argc, char** argv) {
     QTextStream out(stdout);
     QTextStream err(stderr);
     SetMessageSink(std::make_unique<clsConsoleMessageSink>());
+    modStartup::RegisterSubsystems();
 
     QStringList args = QCoreApplication::arguments().mid(1);
     if (args.isEmpty()) {

@@ -1,5 +1,6 @@
 #include "core/clsApp.h"
 
+#include "core/clsDICT.h"
 #include "core/modGeneral.h"
 #include "platform/VowrenPaths.h"
 #include "platform/clsRegistry.h"
@@ -12,6 +13,11 @@
 namespace {
 
 QString DataFolder(const char* name) { return VowrenPaths::Join(VowrenPaths::DataRoot(), QString::fromLatin1(name)); }
+
+std::unique_ptr<clsCounters>& InstalledCounters() {
+    static std::unique_ptr<clsCounters> counters;
+    return counters;
+}
 
 } // namespace
 
@@ -144,3 +150,42 @@ clsApp& gApp() {
     static clsApp app;
     return app;
 }
+
+// ---- Counts ----
+
+void clsApp::SetCounters(std::unique_ptr<clsCounters> counters) { InstalledCounters() = std::move(counters); }
+
+const clsCounters& clsApp::Counters() {
+    // A program that counts before it installed the counters is wired wrongly; no count would be true.
+    if (!InstalledCounters())
+        qFatal("clsApp: a count was asked for before the start-up layer installed the counters");
+    return *InstalledCounters();
+}
+
+long clsApp::TotalSettings(int dictionaryKind) const { return clsDICT::GetTotal(dictionaryKind); }
+
+long clsApp::TotalBudget(int filter, const QString& categoryId) const {
+    return Counters().TotalBudget(filter, categoryId);
+}
+long clsApp::TotalBudgetCategories() const { return Counters().TotalBudgetCategories(); }
+long clsApp::TotalContacts(int filter, const QString& customWhere, bool excludeBrideGroom) const {
+    return Counters().TotalContacts(filter, customWhere, excludeBrideGroom);
+}
+long clsApp::TotalEvents() const { return Counters().TotalEvents(); }
+long clsApp::TotalGifts(int filter, const QString& customWhere) const {
+    return Counters().TotalGifts(filter, customWhere);
+}
+long clsApp::TotalInvitations(int filter, const QString& customWhere) const {
+    return Counters().TotalInvitations(filter, customWhere);
+}
+long clsApp::TotalNotes() const { return Counters().TotalNotes(); }
+long clsApp::TotalTables(int kind) const { return Counters().TotalTables(kind); }
+long clsApp::TotalTasks(int filter) const { return Counters().TotalTasks(filter); }
+long clsApp::TotalTentcards() const { return Counters().TotalTentcards(); }
+long clsApp::TotalTimelineEntries(const QString& eventId) const { return Counters().TotalTimelineEntries(eventId); }
+long clsApp::TotalTimelineEvents() const { return Counters().TotalTimelineEvents(); }
+long clsApp::TotalVendors() const { return Counters().TotalVendors(); }
+double clsApp::TotalBudgetSumEstimates() const { return Counters().TotalBudgetSumEstimates(); }
+long clsApp::TotalFlights() const { return Counters().TotalFlights(); }
+long clsApp::TotalHotels() const { return Counters().TotalHotels(); }
+long clsApp::TotalSongs() const { return Counters().TotalSongs(); }

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "core/clsCounters.h"
+
 #include <QDateTime>
 #include <QString>
+#include <memory>
 
 // The one object through which the program reaches its settings, its own paths and version, and a few
 // facts about the couple's data. A setting is read from the store every time it is asked for and written
@@ -112,7 +115,8 @@ public:
     QString TimeToWedding;
 
     // ---- Counts for the Home page and the statistics ----
-    // Each asks a new record object of its class and passes its arguments through unchanged.
+    // Each passes its arguments unchanged to the counters installed by the start-up layer; the settings
+    // dictionaries, which live here, are counted here.
     long TotalBudget(int filter, const QString& categoryId = QString()) const;
     long TotalBudgetCategories() const;
     long TotalContacts(int filter, const QString& customWhere = QString(), bool excludeBrideGroom = false) const;
@@ -137,7 +141,11 @@ public:
     static int ToInt16(const QString& text, int defaultValue);
     static QString FromBool(bool value) { return value ? QStringLiteral("1") : QStringLiteral("0"); }
 
+    // The answer to the counts; the program and every test install it once, before the first count.
+    static void SetCounters(std::unique_ptr<clsCounters> counters);
+
 private:
+    static const clsCounters& Counters();
     QString ShowNotesName() const { return QStringLiteral("ShowNotes") + QString::number(ShowForm()); }
     QString GetText(const QString& name, const char* defaultValue) const;
     void SetText(const QString& name, const QString& value) const;

@@ -2,7 +2,6 @@
 
 #include "core/clsApp.h"
 #include "core/clsDB.h"
-#include "planning/ChecklistSeed.h"
 
 #include <QDir>
 #include <QFile>
@@ -114,15 +113,12 @@ const QMap<QString, QString>& Definitions() {
     return ddl;
 }
 
-void InsertRows(clsDB& db, const QString& table, const QStringList& columns, const QList<QVariantList>& rows) {
-    QStringList marks;
-    for (qsizetype i = 0; i < columns.size(); ++i)
-        marks << QStringLiteral("?");
-    const QString sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                            .arg(table, columns.join(QStringLiteral(", ")), marks.join(QStringLiteral(", ")));
-    for (const QVariantList& row : rows)
-        db.Execute(sql, row);
+QMap<QString, modSchema::SeedRows>& RegisteredSeeds() {
+    static QMap<QString, modSchema::SeedRows> seeds;
+    return seeds;
 }
+
+using modSchema::InsertRows;
 
 // Rows numbered from 1 in the order given.
 void InsertNumbered(clsDB& db, const QString& table, const QString& key, const QString& text,
@@ -138,6 +134,18 @@ QString EtiquetteText() { return gApp().EtiquetteIsFormal() ? QStringLiteral("Tr
 } // namespace
 
 namespace modSchema {
+
+void InsertRows(clsDB& db, const QString& table, const QStringList& columns, const QList<QVariantList>& rows) {
+    QStringList marks;
+    for (qsizetype i = 0; i < columns.size(); ++i)
+        marks << QStringLiteral("?");
+    const QString sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                            .arg(table, columns.join(QStringLiteral(", ")), marks.join(QStringLiteral(", ")));
+    for (const QVariantList& row : rows)
+        db.Execute(sql, row);
+}
+
+void RegisterSeed(const QString& table, SeedRows seed) { RegisteredSeeds().insert(table, std::move(seed)); }
 
 QStringList TableNames() {
     return {"ROLE_DICT", "MEAL_DICT",     "TASK_GROUP_DICT", "TITLE_DICT", "PAID_BY_DICT", "BUDGET_CATEGORY_DICT",
@@ -238,12 +246,6 @@ void SeedTable(clsDB& db, const QString& table) {
                                      "FRIEND_OF_CD", "AB_LIST_CD", "PRIMARY_CONTACT_FG", "OUT_OF_TOWNER_FG"};
         InsertRows(db, table, columns,
                    {{1, 1, "Y", "F", "N", 1, "A", "N", "N"}, {2, 2, "Y", "M", "N", 2, "A", "N", "N"}});
-    } else if (table == QLatin1String("TASK")) {
-        QList<QVariantList> rows;
-        const auto tasks = DefaultChecklistTasks();
-        for (int i = 0; i < tasks.size(); ++i)
-            rows.append({i + 1, tasks[i].second, tasks[i].first, "N", i + 1});
-        InsertRows(db, table, {"TASK_ID", "TASK_NM", "TASK_GROUP_ID", "COMPLETED_FG", "SORT_ORDER_NB"}, rows);
     } else if (table == QLatin1String("WORDING")) {
         InsertRows(db, table, {"WORDING_ID"}, {{1}, {2}, {3}});
     } else if (table == QLatin1String("VOWREN")) {
@@ -252,9 +254,14 @@ void SeedTable(clsDB& db, const QString& table) {
                     {5, QString::number(ReportColour(1))}, {6, QString::number(ReportColour(2))},
                     {7, EtiquetteText()}, {8, EtiquetteText()}, {9, QString::number(gApp().GoogleMapIndex())}});
     }
+    if (const auto seed = RegisteredSeeds().constFind(table); seed != RegisteredSeeds().constEnd())
+        (*seed)(db);
 }
 
 void CreateCurrentSchema(clsDB& db) {
+    // Without the subsystems' seed rows a new wedding would start without its checklist, unnoticed.
+    if (RegisteredSeeds().isEmpty())
+        throw clsDbError(QStringLiteral("The program was started without the seed rows of its subsystems."), 0);
     clsTransaction tx(db);
     for (const QString& table : TableNames()) {
         db.ExecuteScript(TableDDL(table));

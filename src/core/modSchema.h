@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
+#include <QVariantList>
+#include <functional>
 
 class clsDB;
 
@@ -19,6 +22,13 @@ QStringList IndexDDL(const QString& table);
 void CreateMissingIndexes(clsDB& db);
 // Creates one table with its indexes if it is missing; true when it was created.
 bool CreateTableIfMissing(clsDB& db, const QString& table);
+
+// The seed rows a subsystem gives one of its tables, written after the rows kept here when the table
+// is made. The start-up layer registers every subsystem's before the first database is made.
+using SeedRows = std::function<void(clsDB& db)>;
+void RegisterSeed(const QString& table, SeedRows seed);
+// Inserts the rows, one value per column, into the table.
+void InsertRows(clsDB& db, const QString& table, const QStringList& columns, const QList<QVariantList>& rows);
 
 // Every table with its seed rows, in one transaction.
 void CreateCurrentSchema(clsDB& db);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <functional>
+#include <initializer_list>
 
 // The road from the start of the process to the first screen, shared by the desktop program and the
 // command line: settings values written, folders made, the database opened (or created when the
@@ -26,6 +28,18 @@ bool Start(QString* message);
 bool StartForChange(QString* message, int waitMs = 3000);
 bool StartForReading(QString* message);
 
+// What the subsystems add to a start. They live above this layer, so the start-up layer registers them
+// (once, before the first start); a start without them stops the program as wired wrongly.
+struct clsStartSteps {
+    // The patch driver's steps for the subsystems' tables, run after the key-value store's own step.
+    std::function<void()> PatchSteps;
+    // The subsystems' global records, opened after the key-value store, also when patches are skipped.
+    std::function<void()> OpenGlobals;
+    // What holds after every start, patched or not; `mayWrite` is false for a file that is only read.
+    std::function<void(bool mayWrite)> AfterPatches;
+};
+void RegisterStartSteps(clsStartSteps steps);
+
 // "Unable to connect to database: " + the path, the reason, and where to write for help.
 QString ConnectFailureMessage(const QString& path, const QString& reason);
 
@@ -40,6 +54,13 @@ QString SupportPhone();
 namespace modPatchDriver {
 
 void Run();
+// One failure unit of the driver, numbered for the message, all or nothing: the first failure undoes the
+// step, skips the rest of it and shows the update message (naming the step and the copy written before
+// the update); the driver goes on with the next step.
+void Step(int step, std::initializer_list<std::function<void()>> operations);
+// Operations without a handler of their own: each stands alone, so one failure neither ends the program
+// nor keeps the others from running.
+void EachAlone(int step, std::initializer_list<std::function<void()>> operations);
 // The message a failed step shows.
 QString UpdateErrorMessage();
 

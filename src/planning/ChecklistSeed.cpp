@@ -1,5 +1,7 @@
 #include "planning/ChecklistSeed.h"
 
+#include "core/modSchema.h"
+
 QList<QPair<int, QString>> DefaultChecklistTasks() {
     return {
         // A year or more ahead
@@ -94,4 +96,15 @@ QList<QPair<int, QString>> DefaultChecklistTasks() {
         {10, "Order prints and the wedding album"},
         {10, "Review the vendors"},
     };
+}
+
+void RegisterChecklistSeed() {
+    modSchema::RegisterSeed(QStringLiteral("TASK"), [](clsDB& db) {
+        QList<QVariantList> rows;
+        const auto tasks = DefaultChecklistTasks();
+        for (int i = 0; i < tasks.size(); ++i)
+            rows.append({i + 1, tasks[i].second, tasks[i].first, "N", i + 1});
+        modSchema::InsertRows(db, QStringLiteral("TASK"),
+                              {"TASK_ID", "TASK_NM", "TASK_GROUP_ID", "COMPLETED_FG", "SORT_ORDER_NB"}, rows);
+    });
 }

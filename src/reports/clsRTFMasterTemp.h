@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/clsColor.h"
+#include "core/clsColor.h"
 
 #include <QString>
 

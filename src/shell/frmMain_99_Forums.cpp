@@ -28,7 +28,7 @@ QString Setting(const char* name) {
 
 } // namespace
 
-frmMain_99_Forums::frmMain_99_Forums(QWidget* parent) : QWidget(parent) {
+frmMain_99_Forums::frmMain_99_Forums(QWidget* parent) : usrPage(parent) {
     setObjectName(QStringLiteral("frmMain_99_Forums"));
     setStyleSheet(QLatin1String(kStyle));
 

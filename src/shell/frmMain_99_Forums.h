@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/usrPage.h"
+
 #include <QWidget>
 
 class QLineEdit;
@@ -7,7 +9,7 @@ class QLineEdit;
 // The forums page. The forums themselves open in the desktop's browser; the page keeps the user's forum
 // name and password (below the root key as ForumLoginName and ForumLoginPassword) so that they are at
 // hand when the forums ask for them.
-class frmMain_99_Forums : public QWidget {
+class frmMain_99_Forums : public usrPage {
     Q_OBJECT
 
 public:
@@ -15,9 +17,6 @@ public:
 
     static QString LoginName();
     static QString LoginPassword();
-
-signals:
-    void Breadcrumb(const QString& text);
 
 protected:
     void showEvent(QShowEvent* event) override;

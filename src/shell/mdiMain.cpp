@@ -4,16 +4,15 @@
 #include "core/clsApp.h"
 #include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
-#include "guests/clsCONTACT.h"
-#include "planning/clsEVENT.h"
 #include "platform/clsShell.h"
 #include "shell/controls/usrHyperlink.h"
-#include "shell/frmMain_00_Welcome.h"
 #include "shell/options/frmOptions.h"
-#include "shell/options/modBrideGroomIcons.h"
 #include "shell/modFormPlace.h"
 #include "shell/modHelp.h"
 #include "shell/modPages.h"
+#include "shell/options/modBrideGroomIcons.h"
+#include "shell/usrPage.h"
+#include "startup/modWedding.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -56,11 +55,6 @@ const char* const kStyle = R"(
 #picBottom QToolButton::menu-indicator { image: none; }
 #mPageHost { background: #faf7f8; }
 )";
-
-bool CoreGathered() {
-    return clsApp::CoreInformationGathered(gBride().FIRST_NM, gBride().LAST_NM, gGroom().FIRST_NM, gGroom().LAST_NM,
-                                           gWeddingEvent().EVENT_DT);
-}
 
 QString EnglishDate(const QDateTime& moment, const char* format) {
     return QLocale(QLocale::English, QLocale::UnitedStates).toString(moment.date(), QLatin1String(format));
@@ -114,7 +108,7 @@ mdiMain::CountdownTexts mdiMain::Countdown(const QString& weddingDateTime, const
 }
 
 void mdiMain::UpdateCountdown() {
-    const QString when = gWeddingEvent().EVENT_DT;
+    const QString when = modWedding::WeddingDateTime();
     if (when.isEmpty()) {
         lblCountdown->setText(QString());
         lblCountdown->setVisible(false);
@@ -371,7 +365,7 @@ void mdiMain::UpdatePageActions() {
 void mdiMain::Load() {
     SetBreadcrumb(QString(), QString());
     lblPlaylist->setText(QString());
-    if (CoreGathered()) {
+    if (modWedding::CoreInformationGathered()) {
         UpdateWeddingCaption();
         imgMusicPlay->setVisible(true);
         RefreshPlaylist();
@@ -389,8 +383,13 @@ void mdiMain::Load() {
 
 void mdiMain::ShowWelcome() {
     UnloadPage();
-    auto* welcome = new frmMain_00_Welcome(mPageHost);
+    usrPage* welcome = modPages::CreateWelcome(mPageHost);
+    if (!welcome)
+        return;
     AttachPage(welcome);
+    // Leaving the Welcome steps brings the footer's playlist with it.
+    disconnect(welcome, &usrPage::ShowForm, this, &mdiMain::ShowPage);
+    connect(welcome, &usrPage::ShowForm, this, &mdiMain::ShowFirstPage);
     SetBreadcrumb(QString(), QStringLiteral("Welcome"));
     lblWedding->setText(QStringLiteral("Let's plan your wedding"));
     welcome->setFocus();
@@ -430,7 +429,7 @@ bool mdiMain::ShowPage(int index) {
         SetBreadcrumb(index == modPages::kHome ? QString() : modPages::Caption(index), QStringLiteral("Home"));
         if (index == modPages::kHome)
             lblPlaylist->setVisible(true);
-        QWidget* page = modPages::CreatePage(index, mPageHost);
+        usrPage* page = modPages::CreatePage(index, mPageHost);
         if (page) {
             if (page->objectName().isEmpty())
                 page->setObjectName(modPages::FormName(index));
@@ -441,7 +440,7 @@ bool mdiMain::ShowPage(int index) {
     return true;
 }
 
-void mdiMain::AttachPage(QWidget* page) {
+void mdiMain::AttachPage(usrPage* page) {
     mPage = page;
     ConnectPage(page);
     mPageLayout->addWidget(page);
@@ -460,59 +459,37 @@ void mdiMain::UnloadPage() {
     old->deleteLater();
 }
 
-// A page offers what it offers; the frame listens to the signals it finds by name.
-void mdiMain::ConnectPage(QWidget* page) {
-    const QMetaObject* meta = page->metaObject();
-    auto has = [meta](const char* signature) { return meta->indexOfSignal(signature) >= 0; };
-    if (has("ShowForm(int)")) {
-        if (qobject_cast<frmMain_00_Welcome*>(page))
-            connect(page, SIGNAL(ShowForm(int)), this, SLOT(OnWelcomeShowFormSlot(int)));
-        else
-            connect(page, SIGNAL(ShowForm(int)), this, SLOT(ShowPageSlot(int)));
-    }
-    if (has("Breadcrumb(QString)"))
-        connect(page, SIGNAL(Breadcrumb(QString)), this, SLOT(BreadcrumbSlot(QString)));
-    if (has("EnableToolbar(bool)"))
-        connect(page, SIGNAL(EnableToolbar(bool)), this, SLOT(EnableToolbarSlot(bool)));
-    if (has("UpdateWeddingCouple()"))
-        connect(page, SIGNAL(UpdateWeddingCouple()), this, SLOT(UpdateWeddingCoupleSlot()));
-    if (has("PlaylistCreated()"))
-        connect(page, SIGNAL(PlaylistCreated()), this, SLOT(PlaylistCreatedSlot()));
+// What a page asks of the frame.
+void mdiMain::ConnectPage(usrPage* page) {
+    connect(page, &usrPage::ShowForm, this, &mdiMain::ShowPage);
+    connect(page, &usrPage::Breadcrumb, this, [this](const QString& text) { SetBreadcrumb(text, QStringLiteral("Home")); });
+    connect(page, &usrPage::EnableToolbar, this, &mdiMain::EnableToolbar);
+    connect(page, &usrPage::UpdateWeddingCouple, this, [this] {
+        UpdateWeddingCaption();
+        UpdateCountdown();
+    });
+    connect(page, &usrPage::PlaylistCreated, this, &mdiMain::RefreshPlaylist);
 }
 
-void mdiMain::ShowPageSlot(int index) { ShowPage(index); }
-
-void mdiMain::OnWelcomeShowFormSlot(int index) {
+void mdiMain::ShowFirstPage(int index) {
     imgMusicPlay->setVisible(true);
     lblPlaylist->setVisible(true);
     RefreshPlaylist();
     ShowPage(index);
 }
 
-void mdiMain::BreadcrumbSlot(const QString& text) { SetBreadcrumb(text, QStringLiteral("Home")); }
-
-void mdiMain::EnableToolbarSlot(bool enable) {
+void mdiMain::EnableToolbar(bool enable) {
     if (enable)
         UpdateWeddingCaption();
     else
         picLonghorn->setEnabled(false);
 }
 
-void mdiMain::UpdateWeddingCoupleSlot() {
-    UpdateWeddingCaption();
-    UpdateCountdown();
-}
-
-void mdiMain::PlaylistCreatedSlot() { RefreshPlaylist(); }
-
 // ---- Header texts and breadcrumb -----------------------------------------------------------------
 
 void mdiMain::UpdateWeddingCaption() {
-    const QString bride = gBride().FirstMiddle().trimmed();
-    const QString groom = gGroom().FirstMiddle().trimmed();
-    lblWedding->setText(bride + QStringLiteral(" & ") + groom + QStringLiteral("'s Wedding"));
-    const QString couple = gBride().FirstLast().trimmed() + QStringLiteral(" and ") + gGroom().FirstLast().trimmed();
-    setWindowTitle(QStringLiteral("Vowren - ") + couple);
+    lblWedding->setText(modWedding::WeddingCaption());
+    setWindowTitle(QStringLiteral("Vowren - ") + modWedding::CoupleNames());
 }
 
 QString mdiMain::WeddingCaption() const { return lblWedding->text(); }
@@ -569,7 +546,7 @@ void mdiMain::OnBreadcrumbClicked(int level) {
     }
     const int page = gApp().ShowForm();
     if (level == 1 && mPage && ((page >= 1 && page <= 7) || page == 9))
-        QMetaObject::invokeMethod(mPage, "GoToTopLevel");
+        mPage->GoToTopLevel();
 }
 
 // ---- Footer --------------------------------------------------------------------------------------

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/usrPage.h"
+
 #include <QDateTime>
 #include <QIcon>
 #include <QList>
@@ -36,7 +38,7 @@ public:
     void UpdateWeddingCaption();
     void UpdateCountdown();
 
-    QWidget* CurrentPage() const { return mPage; }
+    usrPage* CurrentPage() const { return mPage; }
     QStringList BreadcrumbTexts() const;
     QString WeddingCaption() const;
     QString CountdownCaption() const;
@@ -76,9 +78,11 @@ private:
     void BuildMenus();
     void Load();
     void ShowWelcome();
-    void AttachPage(QWidget* page);
+    void AttachPage(usrPage* page);
     void UnloadPage();
-    void ConnectPage(QWidget* page);
+    void ConnectPage(usrPage* page);
+    void ShowFirstPage(int index);
+    void EnableToolbar(bool enable);
     void OnBreadcrumbClicked(int level);
     void OnTimer();
     void OnCountdownClicked();
@@ -91,17 +95,6 @@ private:
     void RestorePosition();
     void SavePosition();
     void UpdatePageActions();
-
-private slots:
-    // What the page that is up asks of the frame (connected by name, see modPages.h).
-    void ShowPageSlot(int index);
-    void OnWelcomeShowFormSlot(int index);
-    void BreadcrumbSlot(const QString& text);
-    void EnableToolbarSlot(bool enable);
-    void UpdateWeddingCoupleSlot();
-    void PlaylistCreatedSlot();
-
-private:
 
     QWidget* picLonghorn = nullptr;
     QLabel* lblWedding = nullptr;
@@ -125,7 +118,7 @@ private:
     QMenu* mGoMenu = nullptr;
     QTimer* timer = nullptr;
 
-    QPointer<QWidget> mPage;
+    QPointer<usrPage> mPage;
     QString mPlaylistFile;
     bool mShownStoredPage = false;
     bool mShowCountdown = true;

@@ -42,6 +42,16 @@ QMap<int, modPages::PageFactory>& Factories() {
     return factories;
 }
 
+modPages::PageFactory& Welcome() {
+    static modPages::PageFactory welcome;
+    return welcome;
+}
+
+modPages::ReportOpener& Reports() {
+    static modPages::ReportOpener reports;
+    return reports;
+}
+
 QHash<QString, modPages::DialogOpener>& Dialogs() {
     static QHash<QString, modPages::DialogOpener> dialogs;
     return dialogs;
@@ -84,9 +94,20 @@ bool IsAvailable(int index) {
     return Factories().contains(index);
 }
 
-QWidget* CreatePage(int index, QWidget* parent) {
+usrPage* CreatePage(int index, QWidget* parent) {
     const auto found = Factories().constFind(index);
     return found == Factories().constEnd() ? nullptr : (*found)(parent);
+}
+
+void RegisterWelcome(PageFactory factory) { Welcome() = std::move(factory); }
+
+usrPage* CreateWelcome(QWidget* parent) { return Welcome() ? Welcome()(parent) : nullptr; }
+
+void RegisterReports(ReportOpener opener) { Reports() = std::move(opener); }
+
+void OpenReports(QWidget* parent, int sectionKey, int filterIndex) {
+    if (Reports())
+        Reports()(parent, sectionKey, filterIndex);
 }
 
 void RegisterDialog(const QString& formName, DialogOpener opener) {
@@ -109,56 +130,8 @@ bool OpenDialog(const QString& formName, QWidget* parent) {
 void Clear() {
     Factories().clear();
     Dialogs().clear();
+    Welcome() = nullptr;
+    Reports() = nullptr;
 }
 
 } // namespace modPages
-
-// ---- The screens of the program ----------------------------------------------------------------------
-// One line per screen: a page's factory by its index, a dialog's opener by its form name, and a maker for
-// the screenshots of anything that is not a page.
-
-#include "guests/ui/modGuestPages.h"
-#include "reports/ui/modReportDialogs.h"
-#include "shell/frmFeatureTour.h"
-#include "shell/frmForums.h"
-#include "shell/frmMain_00_Home.h"
-#include "shell/frmMain_99_Forums.h"
-#include "shell/frmScreenResolution.h"
-#include "shell/grid/frmCustomizeColumns.h"
-#include "shell/grid/usrGrid.h"
-#include "shell/mdiMain.h"
-#include "shell/modScreenshots.h"
-#include "shell/options/frmBackup.h"
-#include "shell/options/frmOptions.h"
-
-#include <QDialog>
-
-void modPages::RegisterKnownScreens() {
-    RegisterPage(kHome, [](QWidget* parent) { return new frmMain_00_Home(parent); });
-    RegisterPage(kForums, [](QWidget* parent) { return new frmMain_99_Forums(parent); });
-    RegisterDialog(FormName(kOptions), [](QWidget* parent) { ShowOptions(parent); });
-    RegisterDialog(QStringLiteral("frmBackup"), [](QWidget* parent) { ShowBackup(parent); });
-    RegisterDialog(QStringLiteral("frmReports"), [](QWidget* parent) { ShowReports(parent, 0, 0); });
-    RegisterGuestPages();
-    RegisterReportScreens();
-
-    modScreenshots::Register(QStringLiteral("frmAbout"), [] { return mdiMain::MakeAbout(nullptr); });
-    modScreenshots::Register(FormName(kOptions), []() -> QWidget* { return new frmOptions(nullptr); });
-    modScreenshots::Register(QStringLiteral("frmFeatureTour"), []() -> QWidget* { return new frmFeatureTour; });
-    modScreenshots::Register(QStringLiteral("frmForums"), []() -> QWidget* { return new frmForums; });
-    modScreenshots::Register(QStringLiteral("frmScreenResolution"), []() -> QWidget* { return new frmScreenResolution; });
-    modScreenshots::Register(QStringLiteral("frmBackup"), []() -> QWidget* { return new frmBackup; });
-    // The columns of the guest list; the page goes with the dialog.
-    modScreenshots::Register(QStringLiteral("frmCustomizeColumns"), []() -> QWidget* {
-        QWidget* page = CreatePage(1, nullptr);
-        auto* grid = page ? page->findChild<usrGrid*>() : nullptr;
-        if (!grid) {
-            delete page;
-            return nullptr;
-        }
-        auto* dialog = new frmCustomizeColumns(grid);
-        page->setParent(dialog);
-        page->hide();
-        return dialog;
-    });
-}

@@ -3,15 +3,14 @@
 #include "core/ShowMessage.h"
 #include "core/clsDB.h"
 #include "core/modBackup.h"
-#include "core/modDemoWedding.h"
 #include "core/modGeneral.h"
 #include "core/modSubMain.h"
 #include "platform/clsRegistry.h"
-#include "shell/frmMain_00_Welcome.h"
-#include "shell/frmVowren.h"
 #include "shell/controls/usrNumberBox.h"
+#include "shell/frmVowren.h"
 #include "shell/mdiMain.h"
 #include "shell/modPages.h"
+#include "startup/modDemoWedding.h"
 
 #include <QApplication>
 #include <QCalendarWidget>
@@ -48,7 +47,7 @@ mdiMain* MakeMainWindow() {
 
 int WelcomeSteps(const QString& folder) {
     std::unique_ptr<mdiMain> window(MakeMainWindow());
-    auto* welcome = qobject_cast<frmMain_00_Welcome*>(window->CurrentPage());
+    QWidget* welcome = window->CurrentPage();
     if (!welcome)
         return 0;
     int saved = modScreenshots::Save(window.get(), folder, QStringLiteral("frmMain_00_Welcome")) ? 1 : 0;

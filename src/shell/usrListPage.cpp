@@ -1,11 +1,11 @@
 #include "shell/usrListPage.h"
 
 #include "core/RecordIO.h"
-#include "core/clsDB.h"
 #include "core/clsApp.h"
+#include "core/clsDB.h"
 #include "core/modGeneral.h"
-#include "platform/clsShell.h"
 #include "platform/clsRegistry.h"
+#include "platform/clsShell.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/controls/usrLinks.h"
 #include "shell/controls/usrSearch.h"
@@ -110,7 +110,7 @@ private:
 
 } // namespace
 
-usrListPage::usrListPage(const QString& formName, QWidget* parent) : QWidget(parent) {
+usrListPage::usrListPage(const QString& formName, QWidget* parent) : usrPage(parent) {
     setObjectName(formName);
     BuildLayout();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/usrPage.h"
+
 #include "shell/grid/usrGrid.h"
 
 #include <QHash>
@@ -27,7 +29,7 @@ class usrSearch;
 // progress bar for long runs and the grid. The page says what its filters, columns and rows are; the
 // frame keeps the chosen filter ("FilterIndex") and the last selected record ("LastKey") in the page's
 // settings, loads lazily after the first paint, and answers Ctrl+F (search) and F5 (reload).
-class usrListPage : public QWidget {
+class usrListPage : public usrPage {
     Q_OBJECT
 
 public:
@@ -64,10 +66,6 @@ public:
 public slots:
     // Back to the first filter of the panel, the whole list.
     void FilterOff();
-
-signals:
-    void Breadcrumb(const QString& text);
-    void ShowForm(int index);
 
 protected:
     // ---- What the page sets up in its constructor ----

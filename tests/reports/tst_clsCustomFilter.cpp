@@ -1,7 +1,7 @@
 // The custom filter: which condition, caption and count a set of ticked boxes gives, and the report
 // run it leads to.
 #include "TestDatabase.h"
-#include "core/modDemoWedding.h"
+#include "startup/modDemoWedding.h"
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
 #include "reports/clsCustomFilter.h"

@@ -5,7 +5,7 @@
 #include "reports/RtfMarkup.h"
 #include "reports/RtfTestTools.h"
 #include "reports/TextFile.h"
-#include "reports/clsColor.h"
+#include "core/clsColor.h"
 #include "reports/clsRTFMaster.h"
 #include "reports/clsRTFMasterTemp.h"
 

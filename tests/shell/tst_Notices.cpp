@@ -1,17 +1,18 @@
 #include "TestDatabase.h"
+#include "app/modKnownScreens.h"
 #include "core/clsApp.h"
 #include "core/modSubMain.h"
 #include "platform/clsRegistry.h"
 #include "platform/clsShell.h"
 #include "shell/frmFeatureTour.h"
 #include "shell/frmForums.h"
-#include "shell/frmMain_00_Home.h"
 #include "shell/frmMain_99_Forums.h"
 #include "shell/frmScreenResolution.h"
 #include "shell/mdiMain.h"
 #include "shell/modFormPlace.h"
 #include "shell/modHelp.h"
 #include "shell/modPages.h"
+#include "startup/ui/frmMain_00_Home.h"
 
 #include <QDialog>
 #include <QLabel>
@@ -49,7 +50,7 @@ void GatherCoreInformation() {
         QStringLiteral("UPDATE EVENT SET EVENT_DT = '2027-06-12 15:30:00' WHERE EVENT_ID = 1"));
     modSubMain::RunPatchesAndOpenGlobals();
     modPages::Clear();
-    modPages::RegisterKnownScreens();
+    RegisterKnownScreens();
 }
 
 // The notices the window shows over its page, by form name.
@@ -83,7 +84,7 @@ private slots:
     void homeBringsOneNoticePerVisit() {
         TestDatabase db;
         GatherCoreInformation();
-        modPages::RegisterPage(5, [](QWidget* parent) { return new QWidget(parent); });
+        modPages::RegisterPage(5, [](QWidget* parent) { return new usrPage(parent); });
         mdiMain window;
         window.show();
         QTest::qWait(10);

@@ -1,13 +1,15 @@
 #include "TestDatabase.h"
+#include "app/modKnownScreens.h"
 #include "core/clsApp.h"
 #include "core/modGeneral.h"
 #include "core/modSubMain.h"
+#include "guests/clsCONTACT.h"
 #include "shell/controls/usrHyperlink.h"
-#include "shell/frmMain_00_Home.h"
 #include "shell/frmVowren.h"
 #include "shell/mdiMain.h"
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
+#include "startup/ui/frmMain_00_Home.h"
 
 #include <QAction>
 #include <QLabel>
@@ -16,17 +18,13 @@
 #include <QtTest>
 
 // A page that only counts how often it was made and lets the test raise its events.
-class FakePage : public QWidget {
+class FakePage : public usrPage {
     Q_OBJECT
 public:
-    explicit FakePage(QWidget* parent) : QWidget(parent) { ++Made; }
+    explicit FakePage(QWidget* parent) : usrPage(parent) { ++Made; }
     static inline int Made = 0;
     static inline int TopLevelCalls = 0;
-signals:
-    void ShowForm(int index);
-    void Breadcrumb(const QString& text);
-public slots:
-    void GoToTopLevel() { ++TopLevelCalls; }
+    void GoToTopLevel() override { ++TopLevelCalls; }
 };
 
 namespace {
@@ -44,7 +42,7 @@ void GatherCoreInformation() {
 
 void RegisterScreens() {
     modPages::Clear();
-    modPages::RegisterKnownScreens();
+    RegisterKnownScreens();
     modPages::RegisterPage(5, [](QWidget* parent) { return new FakePage(parent); });
     FakePage::Made = 0;
     FakePage::TopLevelCalls = 0;
@@ -255,6 +253,13 @@ private slots:
                  (QStringList{QStringLiteral("Home"), QStringLiteral("Gifts"), QStringLiteral("Thank Yous")}));
         QTest::mouseClick(window.findChild<usrHyperlink*>(QStringLiteral("linkBreadcrumb_1")), Qt::LeftButton);
         QCOMPARE(FakePage::TopLevelCalls, 1);
+
+        auto* header = window.findChild<QWidget*>(QStringLiteral("picLonghorn"));
+        emit page->EnableToolbar(false);
+        QVERIFY(!header->isEnabled());
+        gBride().FIRST_NM = QStringLiteral("Emma");
+        emit page->UpdateWeddingCouple();
+        QCOMPARE(window.WeddingCaption(), QStringLiteral("Emma Rose & Daniel's Wedding"));
 
         emit page->ShowForm(0);
         QCOMPARE(window.CurrentPage()->objectName(), QStringLiteral("frmMain_00_Home"));

@@ -11,9 +11,9 @@
 #include "platform/clsShell.h"
 #include "reports/clsReportCatalogue.h"
 #include "reports/modReportRunner.h"
-#include "reports/ui/modReportDialogs.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/grid/modGrid.h"
+#include "shell/modPages.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -116,7 +116,7 @@ void frmMain_01_Contacts::BuildActions() {
     ActionLink(ImportContacts)->setToolTip(QStringLiteral("Not available yet"));
     AddAction(ExportContacts, QStringLiteral("Export contacts"), [this] { ExportContactsCsv(); });
     AddAction(PrintReports, QStringLiteral("Print reports"),
-              [this] { ShowReports(this, clsReportCatalogue::Contacts, CurrentFilter()); });
+              [this] { modPages::OpenReports(this, clsReportCatalogue::Contacts, CurrentFilter()); });
     AddReportsFolderAction(OpenReportsFolder);
     AddCustomizeColumnsAction(CustomizeColumns);
     CountSelectionIn(DeleteContact);

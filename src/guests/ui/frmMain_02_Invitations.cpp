@@ -8,9 +8,9 @@
 #include "guests/ui/frmInvite.h"
 #include "guests/ui/frmInviteRSVPIDs.h"
 #include "reports/clsReportCatalogue.h"
-#include "reports/ui/modReportDialogs.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/grid/modGrid.h"
+#include "shell/modPages.h"
 
 #include <QMenu>
 
@@ -96,7 +96,7 @@ void frmMain_02_Invitations::BuildActions() {
     AddAction(SortRSVPIDs, kSort, [this] { OpenSort(); });
     AddAction(LockRSVPIDs, QStringLiteral("Lock RSVP IDs"), [this] { ToggleLock(); });
     AddAction(PrintReports, QStringLiteral("Print reports"),
-              [this] { ShowReports(this, clsReportCatalogue::Invitations, CurrentFilter()); });
+              [this] { modPages::OpenReports(this, clsReportCatalogue::Invitations, CurrentFilter()); });
     AddReportsFolderAction(OpenReportsFolder);
     AddCustomizeColumnsAction(CustomizeColumns);
     CountSelectionIn(DeleteInvitation);

@@ -2,14 +2,14 @@
 
 #include "core/FilterCode.h"
 #include "core/clsApp.h"
+#include "core/clsColor.h"
 #include "core/clsDICT.h"
 #include "guests/clsINVITE.h"
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmRSVP.h"
-#include "reports/clsColor.h"
 #include "reports/clsReportCatalogue.h"
-#include "reports/ui/modReportDialogs.h"
 #include "shell/controls/usrHyperlink.h"
+#include "shell/modPages.h"
 #include "shell/options/frmOptions.h"
 
 #include <QMenu>
@@ -123,7 +123,7 @@ void frmMain_03_RSVPs::BuildActions() {
     AddAction(CustomizeMeals, QStringLiteral("Customize meals"),
               [this] { ShowOptions(this, clsDICT::Meal); });
     AddAction(PrintReports, QStringLiteral("Print reports"),
-              [this] { ShowReports(this, clsReportCatalogue::RSVPs, CurrentFilter()); });
+              [this] { modPages::OpenReports(this, clsReportCatalogue::RSVPs, CurrentFilter()); });
     AddReportsFolderAction(OpenReportsFolder);
     AddCustomizeColumnsAction(CustomizeColumns);
 }

@@ -9,7 +9,6 @@
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmAttendee.h"
 #include "reports/clsReportCatalogue.h"
-#include "reports/ui/modReportDialogs.h"
 #include "shell/controls/ControlIcons.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/modPages.h"
@@ -165,7 +164,7 @@ void frmMain_04_Attendees::BuildActions() {
         link->setToolTip(modPages::NotAvailableText());
     }
     AddAction(PrintReports, QStringLiteral("Print reports"),
-              [this] { ShowReports(this, clsReportCatalogue::Attendees, CurrentFilter()); });
+              [this] { modPages::OpenReports(this, clsReportCatalogue::Attendees, CurrentFilter()); });
     AddReportsFolderAction(OpenReportsFolder);
     AddCustomizeColumnsAction(CustomizeColumns);
 }

@@ -1,6 +1,6 @@
 #include "shell/controls/usrColor.h"
 
-#include "reports/clsColor.h"
+#include "core/clsColor.h"
 #include "shell/controls/ControlIcons.h"
 
 #include <QColorDialog>

@@ -5,8 +5,6 @@
 #include "core/clsApp.h"
 #include "core/clsDB.h"
 #include "core/clsVOWREN.h"
-#include "guests/clsINVITE.h"
-#include "seating/clsTENTCARD.h"
 #include "shell/controls/usrDropdown.h"
 #include "shell/controls/usrHint.h"
 #include "shell/controls/usrHyperlink.h"
@@ -16,6 +14,7 @@
 #include "shell/options/frmOptionsEntryMeal.h"
 #include "shell/options/modBrideGroomIcons.h"
 #include "shell/modFormPlace.h"
+#include "startup/modEtiquette.h"
 
 #include <QButtonGroup>
 #include <QCoreApplication>
@@ -713,7 +712,7 @@ bool frmOptions::WriteEtiquette(EtiquetteBox& box, bool formal) {
     try {
         clsTransaction tx(gDB());
         written = gVowren().QuickUpdate(box.Key, FormalText(formal)) &&
-                  (box.Key == kInvitationsKey ? RelabelInvitations(box) : clsTENTCARD::RefreshTentcards()) &&
+                  (box.Key == kInvitationsKey ? RelabelInvitations(box) : modEtiquette::RefreshTentcards()) &&
                   !mCancelRequested;
         if (written)
             tx.Commit();
@@ -731,16 +730,12 @@ bool frmOptions::WriteEtiquette(EtiquetteBox& box, bool formal) {
 }
 
 bool frmOptions::RelabelInvitations(EtiquetteBox& box) {
-    QList<clsINVITE> invitations = clsINVITE::OpenRecordsOrThrow(0, true);
-    box.Progress->setMaximum(static_cast<int>(invitations.size()));
-    for (clsINVITE& invitation : invitations) {
+    return modEtiquette::RelabelInvitations([this, &box](int done, int total) {
+        box.Progress->setMaximum(total);
+        box.Progress->setValue(done);
         QCoreApplication::processEvents();
-        if (mCancelRequested || !invitation.RefreshInnerEnvelope())
-            return false;
-        invitation.SaveOrThrow(false);
-        box.Progress->setValue(box.Progress->value() + 1);
-    }
-    return true;
+        return !mCancelRequested;
+    });
 }
 
 void frmOptions::SetRunning(EtiquetteBox& box, bool running) {

@@ -3,7 +3,7 @@
 #include "TestDatabase.h"
 #include "core/clsApp.h"
 #include "core/clsDICT.h"
-#include "core/modDemoWedding.h"
+#include "startup/modDemoWedding.h"
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
 #include "guests/ui/frmAttendee.h"

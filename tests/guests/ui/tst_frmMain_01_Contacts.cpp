@@ -2,7 +2,7 @@
 // checked against the database.
 #include "TestDatabase.h"
 #include "core/clsApp.h"
-#include "core/modDemoWedding.h"
+#include "startup/modDemoWedding.h"
 #include "guests/clsCONTACT.h"
 #include "guests/ui/frmMain_01_Contacts.h"
 #include "shell/controls/usrHyperlink.h"

@@ -1,4 +1,4 @@
-#include "reports/clsColor.h"
+#include "core/clsColor.h"
 
 clsColor clsColor::FromRGBText(const QString& text, const clsColor& fallback) {
     bool ok = false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/usrPage.h"
+
 #include <QList>
 #include <QMap>
 #include <QWidget>
@@ -14,7 +16,7 @@ class QTimer;
 // The first page: today's date and time, one card per part of the planning with its counts and a link
 // to its page, and the links to everything else. Every visit makes the page anew, so the counts are
 // always current.
-class frmMain_00_Home : public QWidget {
+class frmMain_00_Home : public usrPage {
     Q_OBJECT
 
 public:
@@ -30,11 +32,6 @@ public:
 
     // "1 vendor", "2 vendors": the noun gets its "s" unless the number is 1.
     static QString Counted(long number, const QString& noun);
-
-signals:
-    void ShowForm(int index);
-    void Breadcrumb(const QString& text);
-    void EnableToolbar(bool enable);
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -1,4 +1,4 @@
-#include "shell/frmMain_00_Home.h"
+#include "startup/ui/frmMain_00_Home.h"
 
 #include "core/FilterCode.h"
 #include "core/clsApp.h"
@@ -65,7 +65,7 @@ QString frmMain_00_Home::Counted(long number, const QString& noun) {
     return QString::number(number) + QLatin1Char(' ') + noun + (number == 1 ? QString() : QStringLiteral("s"));
 }
 
-frmMain_00_Home::frmMain_00_Home(QWidget* parent) : QWidget(parent) {
+frmMain_00_Home::frmMain_00_Home(QWidget* parent) : usrPage(parent) {
     setObjectName(QStringLiteral("frmMain_00_Home"));
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QLatin1String(kStyle));

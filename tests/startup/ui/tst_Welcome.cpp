@@ -1,15 +1,16 @@
 #include "TestDatabase.h"
+#include "app/modKnownScreens.h"
 #include "core/clsApp.h"
 #include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
 #include "core/modSubMain.h"
 #include "guests/clsCONTACT.h"
 #include "planning/clsEVENT.h"
-#include "shell/frmMain_00_Home.h"
-#include "shell/frmMain_00_Welcome.h"
 #include "shell/controls/usrNumberBox.h"
 #include "shell/mdiMain.h"
 #include "shell/modPages.h"
+#include "startup/ui/frmMain_00_Home.h"
+#include "startup/ui/frmMain_00_Welcome.h"
 
 #include <QCalendarWidget>
 #include <QLabel>
@@ -40,7 +41,7 @@ QString Scalar(const QString& sql) { return TestDatabase::Scalar(sql); }
 // The shell's own screens and nothing else.
 void KnownScreensOnly() {
     modPages::Clear();
-    modPages::RegisterKnownScreens();
+    RegisterKnownScreens();
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "shell/frmMain_00_Welcome.h"
+#include "startup/ui/frmMain_00_Welcome.h"
 
 #include "core/RecordIO.h"
 #include "core/clsDB.h"
@@ -104,7 +104,7 @@ const QList<frmMain_00_Welcome::CategoryShare>& frmMain_00_Welcome::DefaultShare
     return shares;
 }
 
-frmMain_00_Welcome::frmMain_00_Welcome(QWidget* parent) : QWidget(parent) {
+frmMain_00_Welcome::frmMain_00_Welcome(QWidget* parent) : usrPage(parent) {
     setObjectName(QStringLiteral("frmMain_00_Welcome"));
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QLatin1String(kStyle));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "guests/clsCONTACT.h"
+#include "shell/usrPage.h"
 
 #include <QDate>
 #include <QList>
@@ -22,7 +23,7 @@ class usrNumberBox;
 // The four steps a new database shows instead of Home until the couple's names and the wedding date are
 // known: the names (with the couple's pictures), the wedding day and time, the budget, and the first
 // estimates of the budget categories. The fourth Continue writes it all and goes on to Home.
-class frmMain_00_Welcome : public QWidget {
+class frmMain_00_Welcome : public usrPage {
     Q_OBJECT
 
 public:
@@ -45,10 +46,6 @@ public:
     QString WeddingDateTimeText() const;
     // The estimate of a row of the fourth step: the budget times the row's share.
     double Estimate(int row) const;
-
-signals:
-    void ShowForm(int index);
-    void UpdateWeddingCouple();
 
 private:
     QWidget* BuildNames();

@@ -1,5 +1,5 @@
 #include "TestDatabase.h"
-#include "core/modDemoWedding.h"
+#include "startup/modDemoWedding.h"
 #include "core/modSchema.h"
 #include "guests/clsINVITE.h"
 

@@ -1,8 +1,7 @@
-// The counts of clsApp: the Home page, the filter panels and the statistics report read them. Each
-// makes a new record object, asks it and hands the answer back as it is.
-#include "core/clsApp.h"
+// The counts gApp hands out, answered by the record classes of every subsystem. Each makes a new record
+// object, asks it and hands the answer back as it is.
+#include "startup/clsApp_Counters.h"
 
-#include "core/clsDICT.h"
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
 #include "planning/clsBUDGET.h"
@@ -19,74 +18,70 @@
 #include "seating/clsTENTCARD.h"
 #include "widgets/clsSONG.h"
 
-long clsApp::TotalBudget(int filter, const QString& categoryId) const {
+long clsApp_Counters::TotalBudget(int filter, const QString& categoryId) const {
     return clsBUDGET().Total(filter, categoryId);
 }
 
-long clsApp::TotalBudgetCategories() const {
+long clsApp_Counters::TotalBudgetCategories() const {
     return clsBUDGET_CATEGORY_DICT().Total();
 }
 
-long clsApp::TotalContacts(int filter, const QString& customWhere, bool excludeBrideGroom) const {
+long clsApp_Counters::TotalContacts(int filter, const QString& customWhere, bool excludeBrideGroom) const {
     return clsCONTACT::GetTotal(filter, customWhere, excludeBrideGroom);
 }
 
-long clsApp::TotalEvents() const {
+long clsApp_Counters::TotalEvents() const {
     return clsEVENT().GetTotal();
 }
 
-long clsApp::TotalGifts(int filter, const QString& customWhere) const {
+long clsApp_Counters::TotalGifts(int filter, const QString& customWhere) const {
     return clsGIFT().GetTotal(filter, customWhere);
 }
 
-long clsApp::TotalInvitations(int filter, const QString& customWhere) const {
+long clsApp_Counters::TotalInvitations(int filter, const QString& customWhere) const {
     return clsINVITE::GetTotal(filter, customWhere);
 }
 
-long clsApp::TotalNotes() const {
+long clsApp_Counters::TotalNotes() const {
     return clsNOTEBOOK().GetTotal();
 }
 
-long clsApp::TotalSettings(int dictionaryKind) const {
-    return clsDICT::GetTotal(dictionaryKind);
-}
-
-long clsApp::TotalTables(int kind) const {
+long clsApp_Counters::TotalTables(int kind) const {
     return clsDINING_TABLE().GetTotal(kind);
 }
 
-long clsApp::TotalTasks(int filter) const {
+long clsApp_Counters::TotalTasks(int filter) const {
     return clsTASK().GetTotal(filter);
 }
 
-long clsApp::TotalTentcards() const {
+long clsApp_Counters::TotalTentcards() const {
     return clsTENTCARD::Total();
 }
 
-long clsApp::TotalTimelineEntries(const QString& eventId) const {
+long clsApp_Counters::TotalTimelineEntries(const QString& eventId) const {
     return clsTIMELINE().GetTotal(eventId);
 }
 
-long clsApp::TotalTimelineEvents() const {
+long clsApp_Counters::TotalTimelineEvents() const {
     return clsTIMELINE().GetTotalEvents();
 }
 
-long clsApp::TotalVendors() const {
+long clsApp_Counters::TotalVendors() const {
     return clsVENDOR().GetTotal();
 }
 
-double clsApp::TotalBudgetSumEstimates() const {
+double clsApp_Counters::TotalBudgetSumEstimates() const {
     return clsBUDGET_CATEGORY_DICT::TotalSumEstimates();
 }
 
-long clsApp::TotalFlights() const {
+long clsApp_Counters::TotalFlights() const {
     return clsFLIGHT::Total();
 }
 
-long clsApp::TotalHotels() const {
+long clsApp_Counters::TotalHotels() const {
     return clsHOTEL::Total();
 }
 
-long clsApp::TotalSongs() const {
+long clsApp_Counters::TotalSongs() const {
     return clsSONG::Total(QString());
 }

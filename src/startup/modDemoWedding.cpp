@@ -1,4 +1,4 @@
-#include "core/modDemoWedding.h"
+#include "startup/modDemoWedding.h"
 
 #include "core/clsDB.h"
 #include "guests/clsCONTACT.h"

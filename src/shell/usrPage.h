@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QWidget>
+
+// A page of the main window. The frame connects to these signals when it shows the page; a page raises
+// only those it needs.
+class usrPage : public QWidget {
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    // The breadcrumb's second link was clicked: the page goes back to its top level. Most pages have
+    // only one level and do nothing.
+    virtual void GoToTopLevel() {}
+
+signals:
+    // Change to another page (or 13, the options dialog).
+    void ShowForm(int index);
+    // Levels joined by ">", shown after "Home". Raised when the page shows, not in its constructor.
+    void Breadcrumb(const QString& text);
+    // Home tells whether the header's links may be used.
+    void EnableToolbar(bool enable);
+    // The couple's names or the wedding day changed.
+    void UpdateWeddingCouple();
+    // A playlist was written; the footer shows the newest.
+    void PlaylistCreated();
+};
