@@ -32,6 +32,7 @@ const std::vector<CliCommand>& CliCommands() {
         ParseAddressCommand(),
         DemoCommand(),
         ReportCommand(),
+        DeleteCommand(),
     };
     return commands;
 }
