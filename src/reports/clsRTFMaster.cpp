@@ -5,6 +5,7 @@
 #include "core/modGeneral.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <array>
 #include <cmath>
 
@@ -165,8 +166,10 @@ bool clsRTFMaster::RTFOpen() {
         }
     }
     QDir().mkpath(gApp().ReportPath());
+    // Each run makes a new file: a report of the same name (one started in the same second) stays.
     if (!mFile.OpenFile(FULL_FILE_NAME(), TextFile::ForWriting,
-                        USE_RTF ? TextFile::Encoding::Utf8 : TextFile::Encoding::Utf8WithBom))
+                        USE_RTF ? TextFile::Encoding::Utf8 : TextFile::Encoding::Utf8WithBom,
+                        clsPrivateFile::Existing::KeepOthers))
         return false;
     if (USE_RTF)
         WriteHead(halfPoints);
@@ -242,6 +245,8 @@ bool clsRTFMaster::RTFClose() {
     if (USE_RTF)
         WriteLine(QStringLiteral("}"));
     mWritten = mFile.CloseFile();
+    if (mWritten)
+        FILE_NAME = QFileInfo(mFile.FileName()).completeBaseName(); // with "_2" when the name was taken
     return mWritten;
 }
 

@@ -813,6 +813,39 @@ private slots:
         QCOMPARE(rtf.FULL_FILE_NAME(), gApp().ReportPath() + "/" + withExtension);
     }
 
+    // Three runs of one report in the same second, the last started before the first is done.
+    void reportsOfOneSecondKeepTheirOwnNames_data() {
+        QTest::addColumn<bool>("useRtf");
+        QTest::newRow("rtf") << true;
+        QTest::newRow("csv") << false;
+    }
+    void reportsOfOneSecondKeepTheirOwnNames() {
+        QFETCH(bool, useRtf);
+        plainRtf.USE_RTF = useRtf;
+        const NoUmask noUmask;
+        std::vector<std::unique_ptr<clsRTFMaster>> runs;
+        for (const char* text : {"first", "second", "third"}) {
+            runs.push_back(NewWriter(plainRtf, "01_Contacts_2027-06-05_150500"));
+            QVERIFY(runs.back()->RTFOpen());
+            runs.back()->AddCell(1000, text);
+            runs.back()->PrintCells();
+        }
+        QStringList names;
+        for (auto& run : runs) {
+            QVERIFY(run->RTFClose());
+            names << QFileInfo(run->FULL_FILE_NAME()).fileName();
+            QVERIFY(
+                FileBytes(run->FULL_FILE_NAME()).contains(run->RTFCells.first().CELL_TX.Plain().toUtf8()));
+            QCOMPARE(QFile::permissions(run->FULL_FILE_NAME()),
+                     QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
+        }
+        const QString ext = useRtf ? ".rtf" : ".csv";
+        QCOMPARE(names,
+                 QStringList({"01_Contacts_2027-06-05_150500" + ext, "01_Contacts_2027-06-05_150500_2" + ext,
+                              "01_Contacts_2027-06-05_150500_3" + ext}));
+        QCOMPARE(QDir(gApp().ReportPath()).entryList(QDir::Files | QDir::Hidden), names);
+    }
+
     void aReportThatFailsLeavesNothingHalfWritten() {
         auto first = NewWriter(plainRtf, "Same");
         QVERIFY(first->RTFOpen());
