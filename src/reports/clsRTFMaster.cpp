@@ -70,8 +70,18 @@ QString FontNameRTF(const QString& name) {
     return RtfMarkup::EscapeText(cleaned);
 }
 
-// A field of a CSV record: line breaks as CR LF, quoted when not empty, inner quotes doubled.
-QString CsvField(const QString& text) {
+// Whether a spreadsheet would take the text for a formula (or a command) when it opens the file.
+bool LooksLikeFormula(const QString& text) {
+    static const QString starts = QStringLiteral("=+-@\t\r");
+    return !text.isEmpty() && starts.contains(text.at(0));
+}
+
+// A field of a CSV record: line breaks as CR LF, quoted when not empty, inner quotes doubled. Text that
+// a spreadsheet would run as a formula gets a leading apostrophe, which makes it show as text; a
+// figure of the report's own stays a number.
+QString CsvField(const RtfMarkup& cell) {
+    const QString& plain = cell.Plain();
+    const QString text = !cell.IsFigure() && LooksLikeFormula(plain) ? QLatin1Char('\'') + plain : plain;
     if (!text.contains(QLatin1Char('\r')) && !text.contains(QLatin1Char('\n')))
         return QuoteCSV(text);
     QString normalised = text;
@@ -322,7 +332,7 @@ QString clsRTFMaster::CsvRecord() const {
     for (qsizetype i = 0; i < RTFCells.size(); ++i) {
         if (i > 0)
             record += QLatin1Char(',');
-        record += CsvField(RTFCells.at(i).CELL_TX.Plain());
+        record += CsvField(RTFCells.at(i).CELL_TX);
     }
     return record;
 }
@@ -406,7 +416,7 @@ void clsRTFMaster::PrintRaw(const RtfMarkup& rtf) {
         return;
     }
     if (!rtf.Plain().isEmpty())
-        mFile.WriteLine(CsvField(rtf.Plain()));
+        mFile.WriteLine(CsvField(rtf));
 }
 
 void clsRTFMaster::FontSize(const QString& points) {
