@@ -32,6 +32,8 @@ const std::vector<CliCommand>& CliCommands() {
         ParseAddressCommand(),
         DemoCommand(),
         ReportCommand(),
+        BackupCommand(),
+        RestoreCommand(),
         DeleteCommand(),
     };
     return commands;

@@ -3,7 +3,6 @@
 
 #include "core/ShowMessage.h"
 #include "core/clsDB.h"
-#include "core/modSubMain.h"
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
 
@@ -41,11 +40,8 @@ int RunDelete(const QStringList& args, QTextStream& out, QTextStream& err) {
         err << "vowren-cli: delete: usage: " << kUsage << " (keys are whole numbers above 0)\n";
         return kExitUsage;
     }
-    QString message;
-    if (!modSubMain::Start(&message)) {
-        err << "vowren-cli: delete: " << message << '\n';
+    if (!StartForChange(err))
         return kExitFailed;
-    }
     try {
         // Checked inside the one transaction: a refusal rolls everything back.
         clsTransaction tx(gDB());
