@@ -233,18 +233,26 @@ BENCHMARK(BM_GetTotal_AllContactFilters_BareSqlite)->Unit(benchmark::kMillisecon
 
 // ---- Deleting a selection --------------------------------------------------------------------------
 
-// Every second guest of the list, 5 000 in all, deleted with the guests they bring in one run, the way
-// the Contacts page deletes a selection; the outer transaction is rolled back, so every round starts
-// from the same file.
+// Every second guest of the list who has no gift (a gift keeps its giver), 5 000 in all, deleted with
+// the guests they bring in one run, the way the Contacts page deletes a selection; the outer
+// transaction is rolled back, so every round starts from the same file.
 void BM_DeleteContacts(benchmark::State& state) {
+    const clsRecordset free = gDB().Execute(QStringLiteral(
+        "SELECT CONTACT_ID FROM CONTACT AS C WHERE CONTACT_ID > 2 AND NOT EXISTS (SELECT 1 FROM CONTACT AS G "
+        "JOIN GIFT ON GIFT.CONTACT_ID = G.CONTACT_ID WHERE G.CONTACT_ID = C.CONTACT_ID OR G.GUEST_OF_ID = "
+        "C.CONTACT_ID) ORDER BY CONTACT_ID"));
     QStringList keys;
-    const QList<clsCONTACT> contacts = clsCONTACT::OpenRecordsOrThrow(0, {}, {}, true);
-    for (qsizetype i = 0; i < contacts.size() && keys.size() < state.range(0); i += 2)
-        keys.append(contacts.at(i).CONTACT_ID);
+    for (int row = 0; row < free.RowCount() && keys.size() < state.range(0); row += 2)
+        keys.append(free.Row(row).at(0));
     for (auto _ : state) {
-        clsTransaction tx(gDB());
-        const clsDeleteResult result = clsCONTACT::DeleteManyOrThrow(keys);
-        state.counters["deleted"] = static_cast<double>(result.Deleted.size());
+        try {
+            clsTransaction tx(gDB());
+            const clsDeleteResult result = clsCONTACT::DeleteManyOrThrow(keys);
+            state.counters["deleted"] = static_cast<double>(result.Deleted.size());
+        } catch (const clsDbError& e) {
+            state.SkipWithError(qPrintable(e.Message()));
+            break;
+        }
     }
 }
 BENCHMARK(BM_DeleteContacts)->Arg(5000)->Unit(benchmark::kMillisecond);

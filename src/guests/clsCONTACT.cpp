@@ -464,13 +464,20 @@ Leaving WhoLeaves(const QStringList& contactIds, clsDeleteResult& result) {
     return leaving;
 }
 
-// The first person left becomes primary, and every text is written anew, even when the user froze
-// them. An invitation nobody is left on is not read here.
+// The first person left becomes primary (read once, for the labels too), and every text is written
+// anew, even when the user froze them. An invitation nobody is left on is not touched here.
 void RelabelAfterLeaving(const QString& inviteId) {
-    clsINVITE::RefreshPrimaryContactOrThrow(inviteId);
     clsINVITE invite;
+    invite.INVITE_ID = inviteId;
+    invite.SetGuestsOrThrow();
+    if (invite.GUESTS.isEmpty())
+        return;
+    const clsCONTACT& first = invite.GUESTS.first();
+    if (first.PRIMARY_CONTACT_FG != QLatin1String("Y"))
+        gDB().Execute(QStringLiteral("UPDATE CONTACT SET PRIMARY_CONTACT_FG = 'Y' WHERE CONTACT_ID = ?"),
+                      {first.CONTACT_ID});
     if (invite.OpenRecordOrThrow(inviteId, false)) {
-        invite.RefreshLabelingOrThrow(true, true);
+        invite.RefreshLabelingOrThrow(false, true);
         invite.SaveOrThrow(false);
     }
 }
