@@ -6,6 +6,7 @@
 
 #include <QTemporaryDir>
 #include <QtTest>
+#include <sys/stat.h>
 
 // Gives a test its own data root: $VOWREN_HOME points into a fresh temporary folder, the settings store
 // is the INI file inside it, and messages are captured instead of shown.
@@ -35,4 +36,14 @@ public:
 private:
     QTemporaryDir mDir;
     clsCapturingMessageSink* mMessages = nullptr;
+};
+
+// Lets files be made readable and writable by all for as long as it lives, so that only the program's
+// own modes keep others out.
+struct NoUmask {
+    NoUmask() : Before(::umask(0)) {}
+    ~NoUmask() { ::umask(Before); }
+    NoUmask(const NoUmask&) = delete;
+    NoUmask& operator=(const NoUmask&) = delete;
+    mode_t Before;
 };

@@ -22,6 +22,7 @@ CliCommand ParseNameCommand();
 CliCommand ParseAddressCommand();
 CliCommand DemoCommand();
 CliCommand ReportCommand();
+CliCommand DeleteCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

@@ -34,6 +34,7 @@ const std::vector<CliCommand>& CliCommands() {
         ReportCommand(),
         BackupCommand(),
         RestoreCommand(),
+        DeleteCommand(),
     };
     return commands;
 }

@@ -11,6 +11,8 @@
 #include "guests/clsParseName.h"
 #include "platform/clsShell.h"
 
+#include <QSet>
+
 namespace {
 
 const QString kCrLf = QStringLiteral("\r\n");
@@ -404,36 +406,116 @@ bool clsCONTACT::Save(bool Add, bool RefreshInvite) {
 }
 
 bool clsCONTACT::Delete(const QString& contactId) {
-    const QString cascadeBefore = CascadeDeletedCONTACT_ID;
-    try {
-        clsTransaction tx(gDB());
-        const QString deleteSql =
-            QStringLiteral("DELETE FROM CONTACT WHERE CONTACT_ID = ? OR GUEST_OF_ID = ?");
-        // The person's invitation, and the guest they bring, who exists only through them.
-        const QString inviteId =
-            gDB()
-                .Execute(QStringLiteral("SELECT INVITE_ID FROM CONTACT WHERE CONTACT_ID = ?"), {contactId})
-                .Scalar();
-        CascadeDeletedCONTACT_ID =
-            gDB()
-                .Execute(QStringLiteral(
-                             "SELECT CONTACT_ID FROM CONTACT WHERE GUEST_OF_ID = ? ORDER BY CONTACT_ID"),
-                         {contactId})
-                .Scalar();
-        gDB().Execute(deleteSql, {contactId, contactId});
-        clsINVITE::RefreshPrimaryContactOrThrow(inviteId);
-        clsINVITE invite;
-        if (invite.OpenRecordOrThrow(inviteId, false)) {
-            // Everything is rewritten, even when the user froze the envelope texts.
-            invite.RefreshLabelingOrThrow(true, true);
-            invite.SaveOrThrow(false);
+    clsDeleteResult result;
+    if (!DeleteMany({contactId}, &result))
+        return false;
+    CascadeDeletedCONTACT_ID = result.Deleted.value(1); // the person goes first, then their guest
+    return true;
+}
+
+bool clsCONTACT::IsCouple(const QString& contactId, const QString& roleId) {
+    const auto isOneOrTwo = [](const QString& id) {
+        return id == QLatin1String("1") || id == QLatin1String("2");
+    };
+    return isOneOrTwo(contactId) || isOneOrTwo(roleId);
+}
+
+namespace {
+
+// The people a delete takes, each with the invitation they leave, and the invitations touched.
+struct Leaving {
+    QStringList People;
+    QStringList Invites;
+    QSet<QString> Taken;
+
+    void Take(const QString& contactId, const QString& inviteId) {
+        Taken.insert(contactId);
+        People.append(contactId);
+        if (!inviteId.isEmpty() && !Invites.contains(inviteId))
+            Invites.append(inviteId);
+    }
+};
+
+// Each person named, then the guests of everyone taken (a guest exists only through the person who
+// brings them). A guest named as well is taken once.
+Leaving WhoLeaves(const QStringList& contactIds, clsDeleteResult& result) {
+    Leaving leaving;
+    for (const QString& id : contactIds) {
+        const clsRecordset row = gDB().Execute(
+            QStringLiteral("SELECT CONTACT_ID, ROLE_ID, INVITE_ID FROM CONTACT WHERE CONTACT_ID = ?"), {id});
+        if (row.IsEmpty())
+            result.Missing.append(id);
+        else if (clsCONTACT::IsCouple(row.Row(0).at(0), row.Row(0).at(1)))
+            result.Kept.append(id);
+        else if (!leaving.Taken.contains(row.Row(0).at(0)))
+            leaving.Take(row.Row(0).at(0), row.Row(0).at(2));
+    }
+    for (qsizetype i = 0; i < leaving.People.size(); ++i) { // grows while guests are found
+        const clsRecordset guests = gDB().Execute(
+            QStringLiteral("SELECT CONTACT_ID, ROLE_ID, INVITE_ID FROM CONTACT WHERE GUEST_OF_ID = ? "
+                           "ORDER BY CONTACT_ID"),
+            {leaving.People.at(i)});
+        for (int g = 0; g < guests.RowCount(); ++g) {
+            const QStringList& guest = guests.Row(g);
+            if (!leaving.Taken.contains(guest.at(0)) && !clsCONTACT::IsCouple(guest.at(0), guest.at(1)))
+                leaving.Take(guest.at(0), guest.at(2));
         }
-        clsINVITE::DeleteInvitesWithNoGuestsOrThrow();
-        gDB().Execute(deleteSql, {contactId, contactId});
-        tx.Commit();
+    }
+    return leaving;
+}
+
+// The first person left becomes primary (read once, for the labels too), and every text is written
+// anew, even when the user froze them. An invitation nobody is left on is not touched here.
+void RelabelAfterLeaving(const QString& inviteId) {
+    clsINVITE invite;
+    invite.INVITE_ID = inviteId;
+    invite.SetGuestsOrThrow();
+    if (invite.GUESTS.isEmpty())
+        return;
+    const clsCONTACT& first = invite.GUESTS.first();
+    if (first.PRIMARY_CONTACT_FG != QLatin1String("Y"))
+        gDB().Execute(QStringLiteral("UPDATE CONTACT SET PRIMARY_CONTACT_FG = 'Y' WHERE CONTACT_ID = ?"),
+                      {first.CONTACT_ID});
+    if (invite.OpenRecordOrThrow(inviteId, false)) {
+        invite.RefreshLabelingOrThrow(false, true);
+        invite.SaveOrThrow(false);
+    }
+}
+
+} // namespace
+
+clsDeleteResult clsCONTACT::DeleteManyOrThrow(const QStringList& contactIds, const clsProgress& progress) {
+    clsDeleteResult result;
+    clsTransaction tx(gDB());
+    const Leaving leaving = WhoLeaves(contactIds, result);
+    const int total = static_cast<int>(leaving.People.size() + leaving.Invites.size());
+    int done = 0;
+    const auto step = [&] {
+        if (progress)
+            progress(++done, total);
+    };
+    for (const QString& id : leaving.People) {
+        gDB().Execute(QStringLiteral("DELETE FROM CONTACT WHERE CONTACT_ID = ?"), {id});
+        result.Deleted.append(id);
+        step();
+    }
+    for (const QString& inviteId : leaving.Invites) {
+        RelabelAfterLeaving(inviteId);
+        step();
+    }
+    clsINVITE::DeleteInvitesWithNoGuestsOrThrow();
+    tx.Commit();
+    return result;
+}
+
+bool clsCONTACT::DeleteMany(const QStringList& contactIds, clsDeleteResult* result,
+                            const clsProgress& progress) {
+    try {
+        clsDeleteResult done = DeleteManyOrThrow(contactIds, progress);
+        if (result)
+            *result = std::move(done);
         return true;
     } catch (const clsDbError& e) {
-        CascadeDeletedCONTACT_ID = cascadeBefore;
         RecordIO::Report(e);
         return false;
     }

@@ -5,6 +5,19 @@
 #include <QList>
 #include <QString>
 #include <QVariantList>
+#include <functional>
+
+// What a delete of several records did. Deleted: every key removed, in the order they went (the
+// guests that went with a person come after them). Kept: keys named that a rule keeps. Missing: keys
+// named that have no record.
+struct clsDeleteResult {
+    QStringList Deleted;
+    QStringList Kept;
+    QStringList Missing;
+};
+
+// How far a long run has come: done of total steps.
+using clsProgress = std::function<void(int done, int total)>;
 
 // One person of the wedding: the bride (ROLE_ID 1), the groom (ROLE_ID 2), a friend or relative, or
 // the guest an invited person brings. Attendance, meal, table, flight and hotel are columns of the
@@ -131,8 +144,18 @@ public:
     bool Save(bool Add, bool RefreshInvite);
     void SaveOrThrow(bool Add, bool RefreshInvite);
     // Removes the person and the guest they bring, makes the next person of their invitation the
-    // primary one, re-labels the invitation and removes it if nobody is left: all or nothing.
+    // primary one, re-labels the invitation and removes it if nobody is left: all or nothing. The one
+    // person of DeleteMany; the bride and the groom stay.
     bool Delete(const QString& contactId);
+    // Removes the people and the guests they bring, makes the first person left on each invitation
+    // they were on its primary one, re-labels those invitations (even frozen ones) and removes those
+    // nobody is left on. One transaction, one step of progress per person and per invitation. The
+    // bride and the groom are kept. False, with the message shown and nothing changed, on a failure.
+    static bool DeleteMany(const QStringList& contactIds, clsDeleteResult* result = nullptr,
+                           const clsProgress& progress = {});
+    static clsDeleteResult DeleteManyOrThrow(const QStringList& contactIds, const clsProgress& progress = {});
+    // The bride and the groom: contact rows 1 and 2, and whoever holds their roles 1 and 2.
+    static bool IsCouple(const QString& contactId, const QString& roleId);
     // A role is held by one person: it is taken from whoever has it, then given to the contact (or to
     // nobody when the contact id is empty).
     static bool SaveRole(const QString& contactId, const QString& roleId);

@@ -5,6 +5,7 @@
 #include "core/modGeneral.h"
 #include "guests/clsFilterTable.h"
 
+#include <QSet>
 #include <initializer_list>
 
 namespace {
@@ -249,17 +250,49 @@ bool clsINVITE::Save(bool Add) {
 }
 
 bool clsINVITE::Delete(const QString& inviteId) {
+    return DeleteMany({inviteId}, false);
+}
+
+clsDeleteResult clsINVITE::DeleteManyOrThrow(const QStringList& inviteIds, bool KeepSent,
+                                             const clsProgress& progress) {
+    clsDeleteResult result;
+    clsTransaction tx(gDB());
+    const int total = static_cast<int>(inviteIds.size());
+    int done = 0;
+    QSet<QString> seen;
+    for (const QString& id : inviteIds) {
+        if (seen.contains(id))
+            continue;
+        seen.insert(id);
+        const clsRecordset row = gDB().Execute(
+            QStringLiteral("SELECT INVITE_ID, INVITE_SENT_FG FROM INVITE WHERE INVITE_ID = ?"), {id});
+        if (row.IsEmpty()) {
+            result.Missing.append(id);
+        } else if (KeepSent && row.Row(0).at(1) == QLatin1String("Y")) {
+            result.Kept.append(id); // its card is out; the envelope must stay
+        } else {
+            gDB().Execute(QStringLiteral("UPDATE CONTACT SET INVITE_ID = NULL, PRIMARY_CONTACT_FG = 'N', "
+                                         "ATTENDING_FG = 'N', MEAL_ID = NULL, DINING_TABLE_ID = NULL "
+                                         "WHERE INVITE_ID = ?"),
+                          {id});
+            gDB().Execute(QStringLiteral("DELETE FROM INVITE WHERE INVITE_ID = ?"), {id});
+            result.Deleted.append(row.Row(0).at(0));
+        }
+        if (progress)
+            progress(++done, total);
+    }
+    // Brought guests exist only through an invitation.
+    gDB().Execute(QStringLiteral("DELETE FROM CONTACT WHERE GUEST_OF_ID Is Not Null AND INVITE_ID Is Null"));
+    tx.Commit();
+    return result;
+}
+
+bool clsINVITE::DeleteMany(const QStringList& inviteIds, bool KeepSent, clsDeleteResult* result,
+                           const clsProgress& progress) {
     try {
-        clsTransaction tx(gDB());
-        gDB().Execute(
-            QStringLiteral("UPDATE CONTACT SET INVITE_ID = NULL, PRIMARY_CONTACT_FG = 'N', "
-                           "ATTENDING_FG = 'N', MEAL_ID = NULL, DINING_TABLE_ID = NULL WHERE INVITE_ID = ?"),
-            {inviteId});
-        gDB().Execute(QStringLiteral("DELETE FROM INVITE WHERE INVITE_ID = ?"), {inviteId});
-        // Brought guests exist only through an invitation.
-        gDB().Execute(
-            QStringLiteral("DELETE FROM CONTACT WHERE GUEST_OF_ID Is Not Null AND INVITE_ID Is Null"));
-        tx.Commit();
+        clsDeleteResult done = DeleteManyOrThrow(inviteIds, KeepSent, progress);
+        if (result)
+            *result = std::move(done);
         return true;
     } catch (const clsDbError& e) {
         RecordIO::Report(e);

@@ -62,8 +62,15 @@ public:
     bool Save(bool Add);
     void SaveOrThrow(bool Add);
     // Sets its people free, removes the invitation and the guests they brought; the invited people
-    // stay as uninvited contacts.
+    // stay as uninvited contacts. The one invitation of DeleteMany, sent or not.
     static bool Delete(const QString& inviteId);
+    // The same for each invitation, in one transaction, one step of progress each. With KeepSent an
+    // invitation whose card is out stays (it is Kept). False, with the message shown and nothing
+    // changed, on a failure.
+    static bool DeleteMany(const QStringList& inviteIds, bool KeepSent, clsDeleteResult* result = nullptr,
+                           const clsProgress& progress = {});
+    static clsDeleteResult DeleteManyOrThrow(const QStringList& inviteIds, bool KeepSent,
+                                             const clsProgress& progress = {});
     // Removes every invitation no contact points to.
     static bool DeleteInvitesWithNoGuests();
     static void DeleteInvitesWithNoGuestsOrThrow();

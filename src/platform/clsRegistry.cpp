@@ -1,6 +1,7 @@
 #include "platform/clsRegistry.h"
 
 #include "platform/VowrenPaths.h"
+#include "platform/clsPrivateFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,7 +30,17 @@ struct clsIniRegistry::Impl {
 
 clsIniRegistry::clsIniRegistry(QString filePath) : mFilePath(std::move(filePath)) {
     QDir().mkpath(QFileInfo(mFilePath).absolutePath());
+    // A file of an older version may be readable by others; from now on it isn't.
+    if (QFileInfo::exists(mFilePath))
+        QFile::setPermissions(mFilePath, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     d = std::make_unique<Impl>(mFilePath);
+}
+
+// The settings are written through a temporary file that takes the file's mode, so the file is made
+// 0600 before the first value goes into it.
+void clsIniRegistry::MakeFilePrivate() {
+    if (!QFileInfo::exists(mFilePath))
+        clsPrivateFile::CreateNew(mFilePath);
 }
 
 clsIniRegistry::~clsIniRegistry() = default;
@@ -40,9 +51,9 @@ QString clsIniRegistry::GetSetting(const QString& key, const QString& name, cons
 }
 
 void clsIniRegistry::SaveSetting(const QString& key, const QString& name, const QString& value) {
+    MakeFilePrivate();
     d->settings.setValue(JoinKey(key, name), value);
     d->settings.sync();
-    QFile::setPermissions(mFilePath, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }
 
 bool clsIniRegistry::HasSetting(const QString& key, const QString& name) {

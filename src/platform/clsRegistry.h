@@ -18,7 +18,7 @@ public:
     virtual QStringList AllSettings() = 0;
 };
 
-// The desktop's store: an INI file. The file is created with permissions 0600 on the first write.
+// The desktop's store: an INI file, readable by its owner alone (0600) from its first byte.
 class clsIniRegistry : public clsRegistryStore {
 public:
     explicit clsIniRegistry(QString filePath);
@@ -30,6 +30,8 @@ public:
     QString FilePath() const { return mFilePath; }
 
 private:
+    void MakeFilePrivate();
+
     struct Impl;
     QString mFilePath;
     std::unique_ptr<Impl> d;

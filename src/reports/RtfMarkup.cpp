@@ -141,6 +141,7 @@ RtfMarkup RtfMarkup::Wrapped(const char* on, const RtfMarkup& inner, const char*
     RtfMarkup result(QString::fromLatin1(on), QString());
     result += inner;
     result += RtfMarkup(QString::fromLatin1(off), QString());
+    result.mFigure = inner.mFigure; // a bold figure is still the figure
     return result;
 }
 
@@ -154,7 +155,14 @@ RtfMarkup RtfMarkup::Strike(const RtfMarkup& inner) {
     return Wrapped("\\strike ", inner, "\\strike0");
 }
 
+RtfMarkup RtfMarkup::Figure(const QString& text) {
+    RtfMarkup figure(text);
+    figure.mFigure = true;
+    return figure;
+}
+
 RtfMarkup& RtfMarkup::operator+=(const RtfMarkup& next) {
+    mFigure = false;
     const QString& rtf = Rtf();
     const QString& nextRtf = next.Rtf();
     if (!nextRtf.isEmpty() && NeedsDelimiterBefore(nextRtf.at(0)) && EndsInOpenControlWord(rtf))

@@ -42,6 +42,10 @@ public:
     RtfMarkup(const QStringBuilder<A, B>& text) : RtfMarkup(QString(text)) {}
 
     static RtfMarkup Text(const QString& text) { return RtfMarkup(text); }
+    // A figure the report formatted itself: a count, an amount such as "-12.50". A CSV file writes it as
+    // it stands, so that a spreadsheet reads a number; text from anywhere else that a spreadsheet would
+    // take for a formula is written as text there.
+    static RtfMarkup Figure(const QString& text);
     // Control words of the writer, e.g. Control("\\page"); they stand for no plain text.
     static RtfMarkup Control(RtfControl words);
     // " \par ", a new line inside a paragraph or cell; CR LF in the plain text.
@@ -61,6 +65,7 @@ public:
     }
     const QString& Plain() const { return mPlain; }
     bool IsEmpty() const { return Rtf().isEmpty() && mPlain.isEmpty(); }
+    bool IsFigure() const { return mFigure; }
 
     // Joins two pieces. When this one ends in a control word and the next begins with a letter, digit,
     // blank or minus, a blank goes between them as the word's delimiter, so that "\b0" + "12" can never
@@ -84,4 +89,5 @@ private:
     mutable QString mRtf;
     QString mPlain;
     mutable bool mEscapePending = false;
+    bool mFigure = false; // joined to anything, it is text again
 };

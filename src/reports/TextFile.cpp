@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 TextFile::TextFile() = default;
 TextFile::~TextFile() = default; // a file still open for writing is dropped, never half written
@@ -16,9 +15,7 @@ bool TextFile::IsOpen() const {
 }
 
 void TextFile::Fail(const QString& reason) {
-    if (mOut)
-        mOut->cancelWriting();
-    mOut.reset();
+    mOut.reset(); // what was written goes
     if (mFailed)
         return;
     mFailed = true;
@@ -27,7 +24,7 @@ void TextFile::Fail(const QString& reason) {
         Msg::OKOnly | Msg::Exclamation, ProgramTitle());
 }
 
-bool TextFile::OpenFile(const QString& path, int mode, Encoding encoding) {
+bool TextFile::OpenFile(const QString& path, int mode, Encoding encoding, clsPrivateFile::Existing existing) {
     mOut.reset();
     mPath = path;
     mMode = mode;
@@ -51,13 +48,13 @@ bool TextFile::OpenFile(const QString& path, int mode, Encoding encoding) {
         Fail(QStringLiteral("A folder of that name is in the way."));
         return false;
     }
-    mOut = std::make_unique<QSaveFile>(path);
-    if (!mOut->open(QIODevice::WriteOnly)) {
-        Fail(mOut->errorString());
+    mOut = std::make_unique<clsPrivateFile>(path, existing);
+    if (!mOut->Open()) {
+        Fail(mOut->ErrorString());
         return false;
     }
-    if (encoding == Encoding::Utf8WithBom && mOut->write("\xEF\xBB\xBF", 3) != 3) {
-        Fail(mOut->errorString());
+    if (encoding == Encoding::Utf8WithBom && !mOut->Write("\xEF\xBB\xBF", 3)) {
+        Fail(mOut->ErrorString());
         return false;
     }
     return true;
@@ -67,9 +64,9 @@ bool TextFile::WriteLine(const QString& text, int blankLinesBefore, int blankLin
     if (!mOut)
         return false;
     const auto write = [this](const char* data, qint64 size) {
-        if (mOut->write(data, size) == size)
+        if (mOut->Write(data, size))
             return true;
-        Fail(mOut->errorString());
+        Fail(mOut->ErrorString());
         return false;
     };
     for (int i = 0; i < blankLinesBefore; ++i)
@@ -91,11 +88,11 @@ bool TextFile::CloseFile() {
     }
     if (!mOut)
         return false;
-    const bool committed = mOut->commit();
-    if (!committed) {
-        Fail(mOut->errorString());
+    if (!mOut->Commit()) {
+        Fail(mOut->ErrorString());
         return false;
     }
+    mPath = mOut->FileName();
     mOut.reset();
     return !mFailed;
 }

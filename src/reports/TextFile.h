@@ -1,15 +1,16 @@
 #pragma once
 
+#include "platform/clsPrivateFile.h"
+
 #include <QString>
 #include <QStringList>
 #include <memory>
 
-class QSaveFile;
-
 // The program's line-oriented text file. A file opened for writing is built in a temporary file in
-// the same folder and takes the place of the named file only when it is closed, so a failure never
-// leaves half a file behind and a file of the same name stays as it was until then. Every failure is
-// told to the user once, through ShowMessage, with the path.
+// the same folder and takes its name only when it is closed, so a failure never leaves half a file
+// behind and a file of the same name stays as it was until then. What it writes is readable by its
+// owner alone (mode 0600) from the first byte. Every failure is told to the user once, through
+// ShowMessage, with the path.
 class TextFile {
 public:
     enum Mode : int { ForReading = 1, ForWriting = 2 };
@@ -20,9 +21,11 @@ public:
     TextFile(const TextFile&) = delete;
     TextFile& operator=(const TextFile&) = delete;
 
-    // Opens a file for reading (it must exist and be readable), or for writing (a new file that
-    // replaces one of the same name at CloseFile). Lines written end in CR LF.
-    bool OpenFile(const QString& path, int mode, Encoding encoding = Encoding::Utf8);
+    // Opens a file for reading (it must exist and be readable), or for writing: a new file that
+    // replaces one of the same name at CloseFile, or with KeepOthers leaves it and takes the name with
+    // "_2", "_3", ... added. Lines written end in CR LF.
+    bool OpenFile(const QString& path, int mode, Encoding encoding = Encoding::Utf8,
+                  clsPrivateFile::Existing existing = clsPrivateFile::Existing::Replace);
     // Writes the text as one line; the two counts add empty lines before and after it (white space
     // only: a reader of the file's format never depends on them).
     bool WriteLine(const QString& text, int blankLinesBefore = 0, int blankLinesAfter = 0);
@@ -33,6 +36,7 @@ public:
     // Hands a path to the desktop to open with its program; the empty path means the file last opened.
     bool ShellOpen(const QString& path = QString(), int flag = 0);
 
+    // The file's name; after CloseFile of a file written, the name it took.
     QString FileName() const { return mPath; }
     bool IsOpen() const;
     // True once something went wrong since the file was opened; the user has been told.
@@ -44,5 +48,5 @@ private:
     QString mPath;
     int mMode = 0;
     bool mFailed = false;
-    std::unique_ptr<QSaveFile> mOut;
+    std::unique_ptr<clsPrivateFile> mOut;
 };

@@ -5,6 +5,7 @@
 #include "core/modGeneral.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <array>
 #include <cmath>
 
@@ -69,8 +70,18 @@ QString FontNameRTF(const QString& name) {
     return RtfMarkup::EscapeText(cleaned);
 }
 
-// A field of a CSV record: line breaks as CR LF, quoted when not empty, inner quotes doubled.
-QString CsvField(const QString& text) {
+// Whether a spreadsheet would take the text for a formula (or a command) when it opens the file.
+bool LooksLikeFormula(const QString& text) {
+    static const QString starts = QStringLiteral("=+-@\t\r");
+    return !text.isEmpty() && starts.contains(text.at(0));
+}
+
+// A field of a CSV record: line breaks as CR LF, quoted when not empty, inner quotes doubled. Text that
+// a spreadsheet would run as a formula gets a leading apostrophe, which makes it show as text; a
+// figure of the report's own stays a number.
+QString CsvField(const RtfMarkup& cell) {
+    const QString& plain = cell.Plain();
+    const QString text = !cell.IsFigure() && LooksLikeFormula(plain) ? QLatin1Char('\'') + plain : plain;
     if (!text.contains(QLatin1Char('\r')) && !text.contains(QLatin1Char('\n')))
         return QuoteCSV(text);
     QString normalised = text;
@@ -165,8 +176,10 @@ bool clsRTFMaster::RTFOpen() {
         }
     }
     QDir().mkpath(gApp().ReportPath());
+    // Each run makes a new file: a report of the same name (one started in the same second) stays.
     if (!mFile.OpenFile(FULL_FILE_NAME(), TextFile::ForWriting,
-                        USE_RTF ? TextFile::Encoding::Utf8 : TextFile::Encoding::Utf8WithBom))
+                        USE_RTF ? TextFile::Encoding::Utf8 : TextFile::Encoding::Utf8WithBom,
+                        clsPrivateFile::Existing::KeepOthers))
         return false;
     if (USE_RTF)
         WriteHead(halfPoints);
@@ -242,6 +255,8 @@ bool clsRTFMaster::RTFClose() {
     if (USE_RTF)
         WriteLine(QStringLiteral("}"));
     mWritten = mFile.CloseFile();
+    if (mWritten)
+        FILE_NAME = QFileInfo(mFile.FileName()).completeBaseName(); // with "_2" when the name was taken
     return mWritten;
 }
 
@@ -317,7 +332,7 @@ QString clsRTFMaster::CsvRecord() const {
     for (qsizetype i = 0; i < RTFCells.size(); ++i) {
         if (i > 0)
             record += QLatin1Char(',');
-        record += CsvField(RTFCells.at(i).CELL_TX.Plain());
+        record += CsvField(RTFCells.at(i).CELL_TX);
     }
     return record;
 }
@@ -401,7 +416,7 @@ void clsRTFMaster::PrintRaw(const RtfMarkup& rtf) {
         return;
     }
     if (!rtf.Plain().isEmpty())
-        mFile.WriteLine(CsvField(rtf.Plain()));
+        mFile.WriteLine(CsvField(rtf));
 }
 
 void clsRTFMaster::FontSize(const QString& points) {

@@ -30,7 +30,7 @@ QList<clsRTFReport::Column> clsRTFMeal::Columns() const {
 }
 
 void clsRTFMeal::MealRow(const RtfMarkup& meal, long count, const QString& price, const QString& cost) {
-    PrintRow({meal, Count(count), price, cost});
+    PrintRow({meal, RtfMarkup::Figure(Count(count)), RtfMarkup::Figure(price), RtfMarkup::Figure(cost)});
 }
 
 void clsRTFMeal::PrintRows() {

@@ -37,7 +37,7 @@ QList<clsRTFReport::Column> clsRTFStatistics::Columns() const {
 void clsRTFStatistics::Line(LineKind kind, const QString& label, const QString& figure) {
     RTF.SetCellsBOLD(kind == Head);
     RTF.SetCellsCELL_BACKCOLOR(kind == Head ? clsRTFMasterTemp::SubHeaderFill : clsRTFMasterTemp::NoColor);
-    PrintRow({kind == Child ? kIndent + label : label, figure});
+    PrintRow({kind == Child ? kIndent + label : label, RtfMarkup::Figure(figure)});
 }
 
 void clsRTFStatistics::MoneyLine(const QString& label, double amount, bool redWhenNegative) {

@@ -15,6 +15,7 @@ QList<clsRTFReport::Column> clsRTFTableLayout::Columns() const {
 
 void clsRTFTableLayout::PrintRows() {
     for (const clsDINING_TABLE& table : clsDINING_TABLE::OpenRecords())
-        PrintRow({table.DINING_TABLE_NB, table.DINING_TABLE_NM, table.SEATS_NB,
-                  Count(table.GetTotal(clsDINING_TABLE::SeatsFree))});
+        PrintRow(
+            {table.DINING_TABLE_NB, table.DINING_TABLE_NM, table.SEATS_NB,
+             RtfMarkup::Figure(Count(table.GetTotal(clsDINING_TABLE::SeatsFree)))}); // below 0 when overfull
 }

@@ -137,6 +137,43 @@ print("\n".join("|".join(str(v) for v in r) for r in rows))' "$@"; }
     wait "$demo" 2>/dev/null
 fi
 
+# Deletes by key: all or nothing, refused with the reason.
+value() { "$cli" sql "$1" | tail -1 | tr -d '"\r'; }
+"$cli" demo --guests 150 >/dev/null
+gifted=$(value "SELECT CONTACT_ID FROM GIFT WHERE CONTACT_ID IS NOT NULL LIMIT 1")
+givers="SELECT CONTACT_ID FROM GIFT WHERE CONTACT_ID IS NOT NULL"
+host=$(value "SELECT GUEST_OF_ID FROM CONTACT WHERE GUEST_OF_ID NOT IN ($givers) AND CONTACT_ID NOT IN ($givers) LIMIT 1")
+guest=$(value "SELECT CONTACT_ID FROM CONTACT WHERE GUEST_OF_ID = $host")
+contacts=$(value "SELECT COUNT(*) FROM CONTACT")
+check "delete keeps the bride" 1 'the bride and the groom \(1\) cannot be deleted\. Nothing was deleted\.$' "$cli" delete contacts "$host" 1
+check "delete of an unknown key" 1 'there is no contact with the key 99999\. Nothing was deleted' "$cli" delete contacts "$host" 99999
+check "delete of a person with a gift" 1 'Gift records exist for this contact\. Nothing was deleted' "$cli" delete contacts "$host" "$gifted"
+check "refused deletes changed nothing" 0 "^\"$contacts\"" "$cli" sql "SELECT COUNT(*) FROM CONTACT"
+check "delete needs keys" 2 'usage: delete contacts\|invitations KEY' "$cli" delete contacts
+check "delete of tables" 2 'usage: delete' "$cli" delete tables 3
+check "delete a guest and their host" 0 "^Deleted 2 contacts: $guest $host$" "$cli" delete contacts "$guest" "$host"
+check "delete a host takes their guest" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM CONTACT WHERE CONTACT_ID IN ($host, $guest)"
+sent=$(value "SELECT INVITE_ID FROM INVITE WHERE INVITE_SENT_FG = 'Y' LIMIT 1")
+unsent=$(value "SELECT INVITE_ID FROM INVITE WHERE INVITE_SENT_FG = 'N' LIMIT 1")
+check "delete keeps a sent invitation" 1 "invitation $sent has been sent" "$cli" delete invitations "$unsent" "$sent"
+check "delete an unsent invitation" 0 "^Deleted 1 invitations: $unsent$" "$cli" delete invitations "$unsent"
+
+# A name a spreadsheet would run as a formula is written as text; Python's strict reader reads it back.
+if command -v python3 >/dev/null; then
+    python3 -c 'import sqlite3, sys
+db = sqlite3.connect(sys.argv[1])
+db.execute("INSERT INTO CONTACT (CONTACT_ID, FIRST_NM, LAST_NM, GENDER_FG, CHILD_FG, OUT_OF_TOWNER_FG) "
+           "VALUES (90001, \"-2+3\", \"=HYPERLINK(\"\"http://x\"\")\", \"M\", \"N\", \"N\")")
+db.commit()' "$home/Database/Vowren.quilldata"
+    csvfile=$("$cli" report Contacts --format csv)
+    check "a formula in a CSV cell shows as text" 0 '^ok$' python3 -c '
+import csv, sys
+rows = list(csv.reader(open(sys.argv[1], encoding="utf-8-sig", newline=""), strict=True))
+names = [cell for row in rows for cell in row if "HYPERLINK" in cell]
+assert names == ["'"'"'=HYPERLINK(\"http://x\")"], names
+print("ok")' "$csvfile"
+fi
+
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
 check "the damaged file is untouched" 0 'not a database at all' cat "$home/Database/Vowren.quilldata"

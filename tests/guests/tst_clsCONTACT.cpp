@@ -804,6 +804,166 @@ private slots:
                  QStringList({"Unable to delete.  Gift records exist for this contact."}));
     }
 
+    // ---- Deleting a selection ---------------------------------------------------------------------
+
+    // Ann Lee brings a guest (invitation A); John, Mary and Tom Smith share invitation B. The names
+    // "a0" to "b2" stand for their keys, other names for themselves.
+    void deletingASelection_data() {
+        QTest::addColumn<QString>("selection");
+        QTest::addColumn<QString>("gone");
+        QTest::addColumn<QString>("kept");
+        QTest::addColumn<QString>("missing");
+        QTest::addColumn<QString>("inviteA");
+        QTest::addColumn<QString>("inviteB");
+        const char* family = "Smith, John, Mary and Tom";
+        QTest::newRow("host, then their guest") << "a0,a1"
+                                                << "a0,a1"
+                                                << ""
+                                                << ""
+                                                << "" << family;
+        QTest::newRow("guest, then their host") << "a1,a0"
+                                                << "a1,a0"
+                                                << ""
+                                                << ""
+                                                << "" << family;
+        QTest::newRow("host alone takes the guest") << "a0"
+                                                    << "a0,a1"
+                                                    << ""
+                                                    << ""
+                                                    << "" << family;
+        QTest::newRow("guest alone") << "a1"
+                                     << "a1"
+                                     << ""
+                                     << ""
+                                     << "Lee, Ann" << family;
+        QTest::newRow("the primary person") << "b0"
+                                            << "b0"
+                                            << ""
+                                            << ""
+                                            << "Lee, Ann and Guest"
+                                            << "Smith, Mary and Tom";
+        QTest::newRow("the couple stays") << "1,b2,2"
+                                          << "b2"
+                                          << "1,2"
+                                          << ""
+                                          << "Lee, Ann and Guest"
+                                          << "Smith, John and Mary";
+        QTest::newRow("a key named twice") << "b1,b1"
+                                           << "b1"
+                                           << ""
+                                           << ""
+                                           << "Lee, Ann and Guest"
+                                           << "Smith, John and Tom";
+        QTest::newRow("an unknown key") << "99,a0"
+                                        << "a0,a1"
+                                        << ""
+                                        << "99"
+                                        << "" << family;
+    }
+    void deletingASelection() {
+        QFETCH(QString, selection);
+        QFETCH(QString, gone);
+        QFETCH(QString, kept);
+        QFETCH(QString, missing);
+        QFETCH(QString, inviteA);
+        QFETCH(QString, inviteB);
+        QStringList a, b;
+        const QString idA = AddInvitation({"Ms.|Ann||Lee||", "|Ann's|Guest||||0"}, {}, &a);
+        const QString idB =
+            AddInvitation({"Mr.|John||Smith||", "Mrs.|Mary||Smith||", "|Tom||Smith||"}, {}, &b);
+        for (const QString& id : {idA, idB}) {
+            clsINVITE invite;
+            QVERIFY(invite.OpenRecord(id, true));
+            QVERIFY(invite.RefreshLabeling(false, true) && invite.Save(false));
+        }
+        const auto keys = [&](const QString& names) {
+            QStringList ids;
+            for (const QString& name : Split(names))
+                ids << (name[0] == 'a'   ? a
+                        : name[0] == 'b' ? b
+                                         : QStringList())
+                           .value(name.mid(1).toInt(), name);
+            return ids;
+        };
+        QList<int> steps;
+        int total = 0;
+        clsDeleteResult result;
+        QVERIFY(clsCONTACT::DeleteMany(keys(selection), &result, [&](int done, int of) {
+            steps << done;
+            total = of;
+        }));
+        QCOMPARE(result.Deleted, keys(gone));
+        QCOMPARE(result.Kept, keys(kept));
+        QCOMPARE(result.Missing, keys(missing));
+        QCOMPARE(Scalar("SELECT COUNT(*) FROM CONTACT WHERE CONTACT_ID IN (" + keys(gone).join(',') + ")"),
+                 QString("0"));
+        QCOMPARE(Scalar("SELECT COUNT(*) FROM CONTACT"), QString::number(7 - Split(gone).size()));
+        for (const auto& [inviteId, display] : {std::pair{idA, inviteA}, std::pair{idB, inviteB}}) {
+            QCOMPARE(Scalar("SELECT DISPLAY_AS_TX FROM INVITE WHERE INVITE_ID = ?", {inviteId}), display);
+            // Whoever is left first on an invitation is its one primary person.
+            QCOMPARE(Scalar("SELECT (SELECT PRIMARY_CONTACT_FG FROM CONTACT WHERE INVITE_ID = ? ORDER BY "
+                            "SORT_ORDER_NB LIMIT 1) || (SELECT COUNT(*) FROM CONTACT WHERE INVITE_ID = ? AND "
+                            "PRIMARY_CONTACT_FG = 'Y')",
+                            {inviteId, inviteId}),
+                     display.isEmpty() ? QString() : QString("Y1"));
+        }
+        // The progress runs to its end, one step at a time.
+        QVERIFY(total > 0);
+        QCOMPARE(steps.size(), total);
+        QCOMPARE(steps.last(), total);
+        QVERIFY(db->Messages().Prompts.isEmpty());
+    }
+
+    // Ann Lee (a0) and John Smith's wife Mary (b1) are deleted; Ann's guest goes last, and then John's
+    // invitation is relabelled and Ann's, now empty, removed.
+    void aFailurePartWayChangesNothing_data() {
+        QTest::addColumn<QString>("event");
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("when");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("the guest, last to go, can't go") << "DELETE"
+                                                         << "CONTACT"
+                                                         << "OLD.MIDDLE_NM = 'Guest'"
+                                                         << "forced failure";
+        QTest::newRow("an invitation can't be relabelled") << "UPDATE"
+                                                           << "INVITE"
+                                                           << ""
+                                                           << "forced failure";
+        QTest::newRow("the emptied invitation can't go") << "DELETE"
+                                                         << "INVITE"
+                                                         << ""
+                                                         << "forced failure";
+        QTest::newRow("the guest has a gift") << ""
+                                              << ""
+                                              << ""
+                                              << "Unable to delete.  Gift records exist for this contact.";
+    }
+    void aFailurePartWayChangesNothing() {
+        QFETCH(QString, event);
+        QFETCH(QString, table);
+        QFETCH(QString, when);
+        QFETCH(QString, message);
+        QStringList a, b;
+        AddInvitation({"Ms.|Ann||Lee||", "|Ann's|Guest||||0"}, {}, &a);
+        AddInvitation({"Mr.|John||Smith||", "Mrs.|Mary||Smith||"}, {}, &b);
+        if (event.isEmpty())
+            Exec("INSERT INTO GIFT (GIFT_ID, EVENT_ID, CONTACT_ID, GIFT_TX, THANK_YOU_SENT_FG) VALUES (1, 1, "
+                 "?, "
+                 "'Vase', 'N')",
+                 {a[1]});
+        else
+            FailOn(event, table, when);
+        const QStringList contacts = Dump("CONTACT");
+        const QStringList invites = Dump("INVITE");
+        clsDeleteResult result;
+        result.Kept = QStringList{"earlier"};
+        QVERIFY(!clsCONTACT::DeleteMany({a[0], b[1]}, &result));
+        QCOMPARE(Dump("CONTACT"), contacts);
+        QCOMPARE(Dump("INVITE"), invites);
+        QCOMPARE(result.Kept, QStringList{"earlier"});
+        QCOMPARE(db->Messages().Prompts, QStringList{message});
+    }
+
     // ---- Roles and narrow updates -----------------------------------------------------------------
 
     void aRoleIsHeldByOnePerson() {

@@ -726,12 +726,12 @@ private slots:
         QTest::newRow("plain") << QStringList{"Smith", "Ann", "12"};
         QTest::newRow("inner quotes doubled") << QStringList{"The \"Big\" Day", "\"", "\"\""};
         QTest::newRow("delimiter inside") << QStringList{"Smith, Jr.", ",", "a,b,c"};
-        QTest::newRow("line breaks inside") << QStringList{"12 Main St\r\nApt 4", "x\r\n", "\r\n"};
+        QTest::newRow("line breaks inside") << QStringList{"12 Main St\r\nApt 4", "x\r\n", "x\r\n\r\ny"};
         QTest::newRow("empty in the middle") << QStringList{"a", "", "c"};
         QTest::newRow("empty first") << QStringList{"", "b"};
         QTest::newRow("all empty") << QStringList{"", "", ""};
         QTest::newRow("scripts") << QStringList{"Zoë O'Brien-Łukasik {Jr.} C:\\temp", "Ωμέγα", "婚礼 😂"};
-        QTest::newRow("blanks at the ends") << QStringList{" padded ", "\ttab"};
+        QTest::newRow("blanks at the ends") << QStringList{" padded ", "tab\t"};
         QTest::newRow("RTF-looking text") << QStringList{"\\b not bold\\b0", "{\\i x}"};
     }
     void csvReadsBackExactly() {
@@ -755,6 +755,40 @@ private slots:
         QCOMPARE(records.size(), 2);
         QCOMPARE(records.at(0), fields);
         QCOMPARE(records.at(1), fields);
+    }
+
+    // What a spreadsheet would run as a formula shows as text; the report's own figures stay numbers.
+    void csvKeepsFormulasText_data() {
+        QTest::addColumn<RtfMarkup>("cell");
+        QTest::addColumn<QString>("field");
+        QTest::newRow("formula") << RtfMarkup("=HYPERLINK(\"http://x\")") << "'=HYPERLINK(\"http://x\")";
+        QTest::newRow("plus") << RtfMarkup("+1-2") << "'+1-2";
+        QTest::newRow("minus") << RtfMarkup("-12.50") << "'-12.50";
+        QTest::newRow("at") << RtfMarkup("@SUM(A1)") << "'@SUM(A1)";
+        QTest::newRow("tab") << RtfMarkup("\t=1") << "'\t=1";
+        QTest::newRow("carriage return") << RtfMarkup("\r\n=1") << "'\r\n=1";
+        QTest::newRow("inside is harmless") << RtfMarkup("a=b-c") << "a=b-c";
+        QTest::newRow("a figure of the report") << RtfMarkup::Figure("-12.50") << "-12.50";
+        QTest::newRow("a bold figure") << clsRTFMaster::BOLD(RtfMarkup::Figure("-3")) << "-3";
+        QTest::newRow("a figure joined to text")
+            << RtfMarkup::Figure("-3") + RtfMarkup(" seats") << "'-3 seats";
+    }
+    void csvKeepsFormulasText() {
+        QFETCH(RtfMarkup, cell);
+        QFETCH(QString, field);
+        plainRtf.USE_RTF = false;
+        auto rtf = NewWriter(plainRtf);
+        QVERIFY(rtf->RTFOpen());
+        rtf->AddCell(1000, "x");
+        rtf->AddCell(2000, cell);
+        rtf->PrintCells();
+        rtf->PrintRaw(cell);
+        QVERIFY(rtf->RTFClose());
+        QString error;
+        const QList<QStringList> records =
+            ParseCsvStrict(QString::fromUtf8(FileBytes(rtf->FULL_FILE_NAME()).mid(3)), &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QCOMPARE(records, (QList<QStringList>{{"x", field}, {field}}));
     }
 
     void csvDialectDetails() {
@@ -811,6 +845,39 @@ private slots:
         rtf.FILE_NAME = name;
         QCOMPARE(rtf.FILE_NAME_WITH_EXTENSION(), withExtension);
         QCOMPARE(rtf.FULL_FILE_NAME(), gApp().ReportPath() + "/" + withExtension);
+    }
+
+    // Three runs of one report in the same second, the last started before the first is done.
+    void reportsOfOneSecondKeepTheirOwnNames_data() {
+        QTest::addColumn<bool>("useRtf");
+        QTest::newRow("rtf") << true;
+        QTest::newRow("csv") << false;
+    }
+    void reportsOfOneSecondKeepTheirOwnNames() {
+        QFETCH(bool, useRtf);
+        plainRtf.USE_RTF = useRtf;
+        const NoUmask noUmask;
+        std::vector<std::unique_ptr<clsRTFMaster>> runs;
+        for (const char* text : {"first", "second", "third"}) {
+            runs.push_back(NewWriter(plainRtf, "01_Contacts_2027-06-05_150500"));
+            QVERIFY(runs.back()->RTFOpen());
+            runs.back()->AddCell(1000, text);
+            runs.back()->PrintCells();
+        }
+        QStringList names;
+        for (auto& run : runs) {
+            QVERIFY(run->RTFClose());
+            names << QFileInfo(run->FULL_FILE_NAME()).fileName();
+            QVERIFY(
+                FileBytes(run->FULL_FILE_NAME()).contains(run->RTFCells.first().CELL_TX.Plain().toUtf8()));
+            QCOMPARE(QFile::permissions(run->FULL_FILE_NAME()),
+                     QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
+        }
+        const QString ext = useRtf ? ".rtf" : ".csv";
+        QCOMPARE(names,
+                 QStringList({"01_Contacts_2027-06-05_150500" + ext, "01_Contacts_2027-06-05_150500_2" + ext,
+                              "01_Contacts_2027-06-05_150500_3" + ext}));
+        QCOMPARE(QDir(gApp().ReportPath()).entryList(QDir::Files | QDir::Hidden), names);
     }
 
     void aReportThatFailsLeavesNothingHalfWritten() {

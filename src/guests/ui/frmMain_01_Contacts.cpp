@@ -8,6 +8,7 @@
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmContact.h"
 #include "guests/ui/frmContactEmail.h"
+#include "guests/ui/modBulkDelete.h"
 #include "platform/clsShell.h"
 #include "reports/clsReportCatalogue.h"
 #include "reports/modReportRunner.h"
@@ -171,39 +172,21 @@ void frmMain_01_Contacts::mfrmContact_OptionsChanged() { Reload(); }
 // ---- Changes to many contacts --------------------------------------------------------------------------
 
 int frmMain_01_Contacts::DeleteSelected() {
-    const QList<QModelIndex> rows = Grid()->SelectedRows();
-    QList<qint64> keys = SelectedKeys();
+    const QList<qint64> keys = SelectedKeys();
     if (keys.isEmpty())
         return 0;
-    const QString name = Grid()->Model()->RowAt(RowOfKey(keys.first()))->Cell(Grid()->ColumnIndex("FULL_NM"));
-    const QString question = keys.size() == 1 ? QStringLiteral("Delete '") + name + QStringLiteral("'?")
-                                              : QStringLiteral("Delete ") + QString::number(keys.size()) +
-                                                    QStringLiteral(" Contacts?");
-    if (ShowMessage(question, Msg::YesNo | Msg::Question) != Msg::Yes)
+    clsCONTACT first;
+    first.OpenRecord(QString::number(keys.first()));
+    if (!modBulkDelete::Confirm(keys.size(), first.ListName(), QStringLiteral(" Contacts")))
         return 0;
-    const int role = Grid()->ColumnIndex(QStringLiteral("ROLE_TX"));
-    int deleted = 0;
-    BeginProgress(static_cast<int>(keys.size()));
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    // From the last selected to the first, so that the rows still to come keep their places.
-    for (auto key = keys.crbegin(); key != keys.crend(); ++key) {
-        const QModelIndex row = RowOfKey(*key);
-        const QString roleText = Grid()->Model()->RowAt(row)->Cell(role);
-        if (roleText == QLatin1String("Bride") || roleText == QLatin1String("Groom"))
-            continue; // the couple stays; nobody is told
-        clsCONTACT contact;
-        if (!contact.Delete(QString::number(*key)))
-            break;
-        Grid()->Model()->RemoveRow(RowOfKey(*key));
-        if (const QModelIndex guest = RowOfKey(contact.CascadeDeletedCONTACT_ID.toLongLong()); guest.isValid())
-            Grid()->Model()->RemoveRow(guest);
-        ++deleted;
-        StepProgress();
-    }
-    QApplication::restoreOverrideCursor();
-    EndProgress();
+    // The bride and the groom stay; nobody is told.
+    clsDeleteResult result;
+    const bool ok = modBulkDelete::RunWithProgress(
+        this, QStringLiteral("Deleting contacts…"), [&](const clsProgress& progress) {
+            result = clsCONTACT::DeleteManyOrThrow(modBulkDelete::LastToFirst(keys), progress);
+        });
     Reload();
-    return deleted;
+    return ok ? static_cast<int>(keys.size() - result.Kept.size() - result.Missing.size()) : 0;
 }
 
 bool frmMain_01_Contacts::ChangeSelected(const std::function<void(clsCONTACT&)>& change) {

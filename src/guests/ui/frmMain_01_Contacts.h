@@ -49,8 +49,8 @@ public:
         ColumnCount
     };
 
-    // Deletes the selected contacts after asking; the bride and the groom are left alone. The number
-    // deleted.
+    // Deletes the selected contacts, with the guests they bring, after asking; all or nothing. The bride
+    // and the groom are left alone. The number of selected contacts deleted.
     int DeleteSelected();
     // Sets a field of every selected contact, saved with their invitations' labels, all or nothing.
     bool ChangeSelected(const std::function<void(clsCONTACT&)>& change);

@@ -7,6 +7,7 @@
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmInvite.h"
 #include "guests/ui/frmInviteRSVPIDs.h"
+#include "guests/ui/modBulkDelete.h"
 #include "reports/clsReportCatalogue.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/grid/modGrid.h"
@@ -232,39 +233,21 @@ int frmMain_02_Invitations::DeleteSelected() {
     const QList<qint64> keys = SelectedKeys();
     if (keys.isEmpty())
         return 0;
-    const QString name =
-        Grid()->Model()->RowAt(RowOfKey(keys.first()))->Cell(Grid()->ColumnIndex("INVITATION"));
-    const QString question = keys.size() == 1 ? QStringLiteral("Delete '") + name + QStringLiteral("'?")
-                                              : QStringLiteral("Delete ") + QString::number(keys.size()) +
-                                                    QStringLiteral(" Invitations?");
-    if (ShowMessage(question, Msg::YesNo | Msg::Question) != Msg::Yes)
+    clsINVITE first;
+    first.OpenRecord(QString::number(keys.first()));
+    if (!modBulkDelete::Confirm(keys.size(), first.DISPLAY_AS_TX, QStringLiteral(" Invitations")))
         return 0;
-    int deleted = 0;
-    int sent = 0;
-    BeginProgress(static_cast<int>(keys.size()));
-    // From the last selected to the first, so that the rows still to come keep their places.
-    for (auto key = keys.crbegin(); key != keys.crend(); ++key) {
-        clsINVITE invite;
-        bool found = false;
-        if (!invite.OpenRecord(QString::number(*key), false, &found))
-            break;
-        if (found && invite.INVITE_SENT_FG != QLatin1String("N")) {
-            ++sent; // its card is out; the envelope must stay
-        } else {
-            if (!clsINVITE::Delete(QString::number(*key)))
-                break;
-            Grid()->Model()->RemoveRow(RowOfKey(*key));
-            ++deleted;
-        }
-        StepProgress();
-    }
-    EndProgress();
-    if (sent != 0)
-        ShowMessage(QStringLiteral("Unable to delete ") + QString::number(sent) +
+    clsDeleteResult result;
+    const bool ok = modBulkDelete::RunWithProgress(
+        this, QStringLiteral("Deleting invitations…"), [&](const clsProgress& progress) {
+            result = clsINVITE::DeleteManyOrThrow(modBulkDelete::LastToFirst(keys), true, progress);
+        });
+    if (!result.Kept.isEmpty())
+        ShowMessage(QStringLiteral("Unable to delete ") + QString::number(result.Kept.size()) +
                         QStringLiteral(" 'Sent' Invitations."),
                     Msg::Exclamation);
     Reload();
-    return deleted;
+    return ok ? static_cast<int>(result.Deleted.size()) : 0;
 }
 
 void frmMain_02_Invitations::ToggleLock() {

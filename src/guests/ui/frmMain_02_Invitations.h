@@ -43,8 +43,8 @@ public:
     // invitation without an address is never changed here; marking one as sent is refused with a
     // message. The number of invitations saved.
     int MarkSelectedSent(bool sent);
-    // Deletes the selected unsent invitations after asking; sent ones stay, and their count is told.
-    // The number deleted.
+    // Deletes the selected unsent invitations after asking, all or nothing; sent ones stay, and their
+    // count is told. The number deleted.
     int DeleteSelected();
     // Locks the RSVP IDs at once; unlocking asks first.
     void ToggleLock();

@@ -2,6 +2,7 @@
 // checked against the database.
 #include "TestDatabase.h"
 #include "core/clsApp.h"
+#include "guests/GuestTestData.h"
 #include "startup/modDemoWedding.h"
 #include "guests/clsCONTACT.h"
 #include "guests/ui/frmMain_01_Contacts.h"
@@ -132,6 +133,55 @@ private slots:
         QCOMPARE(mPage->DeleteSelected(), 0);
         QVERIFY(mDatabase->Messages().Prompts.last().startsWith(QStringLiteral("Delete '")));
         QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM CONTACT WHERE CONTACT_ID = ?", {one}), QStringLiteral("1"));
+    }
+
+    // A host and the guest they bring, selected together with the couple, whose role captions were
+    // renamed. The guest's name puts them above or below the host in the list.
+    void deletingAHostWithTheirGuest_data() {
+        QTest::addColumn<QString>("guestLastName");
+        QTest::addColumn<bool>("guestHasGift");
+        QTest::newRow("guest listed above the host") << "Aalto" << false;
+        QTest::newRow("guest listed below the host") << "Zwick" << false;
+        QTest::newRow("a gift keeps everyone") << "Aalto" << true;
+    }
+    void deletingAHostWithTheirGuest() {
+        QFETCH(QString, guestLastName);
+        QFETCH(bool, guestHasGift);
+        QStringList ids;
+        const QString invite =
+            GuestTestData::AddInvitation({"Ms.|Ann||Mole||", "|Pat||" + guestLastName + "|||0"}, {}, &ids);
+        if (guestHasGift)
+            GuestTestData::Insert(
+                "GIFT", "GIFT_ID",
+                {{"EVENT_ID", 1}, {"CONTACT_ID", ids[1]}, {"GIFT_TX", "Vase"}, {"THANK_YOU_SENT_FG", "N"}});
+        TestDatabase::Exec("UPDATE ROLE_DICT SET ROLE_TX = 'Partner' WHERE ROLE_ID IN (1, 2)");
+        const QStringList contacts = GuestTestData::Dump("CONTACT");
+        mPage->Reload();
+        Select(mPage->Grid(), {"1", ids[0], ids[1], "2"});
+        mDatabase->Messages().NextAnswer = Msg::Yes;
+
+        QTest::mouseClick(mPage->findChild<usrHyperlink*>("linkAction_2"), Qt::LeftButton);
+
+        const QStringList& prompts = mDatabase->Messages().Prompts;
+        QCOMPARE(prompts.first(), QStringLiteral("Delete 4 Contacts?"));
+        QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM CONTACT WHERE CONTACT_ID IN (1, 2)"),
+                 QStringLiteral("2"));
+        if (guestHasGift) {
+            QCOMPARE(prompts.last(),
+                     QStringLiteral("Unable to delete.  Gift records exist for this contact."));
+            QCOMPARE(GuestTestData::Dump("CONTACT"), contacts);
+        } else {
+            QCOMPARE(prompts.size(), 1);
+            QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM CONTACT WHERE CONTACT_ID IN (?, ?)",
+                                          {ids[0], ids[1]}),
+                     QStringLiteral("0"));
+            QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM INVITE WHERE INVITE_ID = ?", {invite}),
+                     QStringLiteral("0"));
+        }
+        // The grid shows what the database holds.
+        for (const QString& id : ids)
+            QCOMPARE(mPage->Grid()->Model()->FindRecord(id.toLongLong()).isValid(), guestHasGift);
+        QCOMPARE(mPage->Grid()->Model()->FlatRowCount(), int(clsCONTACT::GetTotal(0)));
     }
 
     void bulkChangeFromTheMenu_data() {
