@@ -103,11 +103,13 @@ void OpenGlobalReads() {
 }
 
 void CoupleAttends(clsCONTACT& person, const char* key) {
-    person.OpenRecord(QString::fromLatin1(key));
-    if (!person.CONTACT_ID.isEmpty() && person.ATTENDING_FG != QLatin1String("Y")) {
-        person.ATTENDING_FG = QStringLiteral("Y");
-        person.Save(false, false);
-    }
+    RecordIO::Attempt([&person, key] {
+        person.OpenRecord(QString::fromLatin1(key));
+        if (!person.CONTACT_ID.isEmpty() && person.ATTENDING_FG != QLatin1String("Y")) {
+            person.ATTENDING_FG = QStringLiteral("Y");
+            person.Save(false, false);
+        }
+    });
 }
 
 } // namespace
