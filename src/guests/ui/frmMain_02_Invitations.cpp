@@ -115,7 +115,8 @@ long frmMain_02_Invitations::CountOf(int filterId) const {
 }
 
 int frmMain_02_Invitations::FillRows(clsGridFill& fill, int filterId) {
-    const QList<clsINVITE> invites = clsINVITE::OpenRecords(filterId, true);
+    const QList<clsINVITE> invites =
+        RecordIO::Read([filterId] { return clsINVITE::OpenRecords(filterId, true); });
     for (const clsINVITE& invite : invites) {
         fill.Row(invite.INVITE_ID.toLongLong()).Icon(QStringLiteral("ICO"), StateIcon(invite))
             .Set(InvitationCells(invite));
@@ -132,8 +133,7 @@ void frmMain_02_Invitations::SetRowCells(const QModelIndex& row, const clsINVITE
 void frmMain_02_Invitations::RefreshRow(const QString& inviteId) {
     const QModelIndex row = RowOfKey(inviteId.toLongLong());
     clsINVITE invite;
-    bool found = false;
-    if (row.isValid() && invite.OpenRecord(inviteId, false, &found) && found)
+    if (row.isValid() && RecordIO::Read([&] { return invite.OpenRecord(inviteId, false); }))
         SetRowCells(row, invite);
 }
 
@@ -203,7 +203,7 @@ int frmMain_02_Invitations::MarkSelectedSent(bool sent) {
     bool skipped = false;
     const bool ok = RunOverKeys(keys, [&](qint64 key) {
         clsINVITE invite;
-        if (!invite.OpenRecordOrThrow(QString::number(key), false))
+        if (!invite.OpenRecord(QString::number(key), false))
             return;
         // The address lives with the primary contact; an envelope without one can't go out.
         if (invite.OUTER_ENVELOPE_ADDRESS_TX.isEmpty()) {
@@ -213,7 +213,7 @@ int frmMain_02_Invitations::MarkSelectedSent(bool sent) {
         invite.INVITE_SENT_FG = sent ? QStringLiteral("Y") : QStringLiteral("N");
         if (!sent)
             invite.RSVP_RECEIVED_FG = QStringLiteral("N");
-        invite.SaveOrThrow(false);
+        invite.Save(false);
         saved.append(invite.INVITE_ID);
     });
     if (!ok)
@@ -245,7 +245,7 @@ int frmMain_02_Invitations::DeleteSelected() {
     for (auto key = keys.crbegin(); key != keys.crend(); ++key) {
         clsINVITE invite;
         bool found = false;
-        if (!invite.OpenRecord(QString::number(*key), false, &found))
+        if (!RecordIO::Attempt([&] { found = invite.OpenRecord(QString::number(*key), false); }))
             break;
         if (found && invite.INVITE_SENT_FG != QLatin1String("N")) {
             ++sent; // its card is out; the envelope must stay

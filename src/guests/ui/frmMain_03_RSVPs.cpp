@@ -139,7 +139,8 @@ int frmMain_03_RSVPs::ShareBaseOf(int filterId) const {
 }
 
 int frmMain_03_RSVPs::FillRows(clsGridFill& fill, int filterId) {
-    const QList<clsINVITE> invites = clsINVITE::OpenRecords(filterId, false);
+    const QList<clsINVITE> invites =
+        RecordIO::Read([filterId] { return clsINVITE::OpenRecords(filterId, false); });
     for (const clsINVITE& invite : invites) {
         fill.Row(invite.INVITE_ID.toLongLong()).Icon(QStringLiteral("ICO"), StateIcon(invite))
             .Set(RSVPCells(invite));
@@ -176,8 +177,7 @@ void frmMain_03_RSVPs::OpenEditor(const QString& inviteId) {
 void frmMain_03_RSVPs::mfrmRSVP_RSVPUpdated(const QString& inviteId) {
     const QModelIndex row = RowOfKey(inviteId.toLongLong());
     clsINVITE invite;
-    bool found = false;
-    if (row.isValid() && invite.OpenRecord(inviteId, false, &found) && found)
+    if (row.isValid() && RecordIO::Read([&] { return invite.OpenRecord(inviteId, false); }))
         SetRowCells(row, invite);
     RefreshPanel();
 }
