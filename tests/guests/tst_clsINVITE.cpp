@@ -1,4 +1,5 @@
 #include "TestDatabase.h"
+#include "core/clsVOWREN.h"
 #include "guests/GuestTestData.h"
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
@@ -14,6 +15,12 @@ clsINVITE Invite(const QString& id, bool guests = false) {
     clsINVITE invite;
     invite.OpenRecord(id, guests);
     return invite;
+}
+
+clsCONTACT Contact(const QString& id) {
+    clsCONTACT contact;
+    contact.OpenRecord(id);
+    return contact;
 }
 
 QStringList InviteIds(const QList<clsINVITE>& invites) {
@@ -512,6 +519,107 @@ private slots:
                    {id}),
             QString("%1N,%2Y").arg(ids[0], ids[1]));
         clsINVITE::RefreshPrimaryContact("");
+    }
+
+    // ---- Saving with the people, relabelling all -------------------------------------------------
+
+    // John leaves with the guest he brought; Mary heads the envelope, Bob follows, and a guest of Mary's
+    // met for the first time is added. Nobody keeps the attendance of before.
+    void savingWithPeopleReordersReleasesAndAdds() {
+        QStringList ids;
+        const QString id = AddInvitation({"Mr.|John||Smith|||", "Mrs.|Mary||Smith|||", "|John's|Guest||||0"},
+                                         {{"INVITE_SENT_FG", "Y"}}, &ids);
+        Exec("UPDATE CONTACT SET ATTENDING_FG = 'Y' WHERE INVITE_ID = ?", {id});
+        const QString bob = AddContact({{"TITLE_TX", "Mr."}, {"FIRST_NM", "Bob"}, {"LAST_NM", "Jones"}});
+        clsINVITE invite = Invite(id, true);
+        clsCONTACT marysGuest;
+        marysGuest.FIRST_NM = "Mary's";
+        marysGuest.MIDDLE_NM = "Guest";
+        marysGuest.ATTENDING_FG = "N";
+        marysGuest.GUEST_OF_ID = ids[1];
+        invite.SaveWithPeople(false, {invite.GUESTS.at(1), Contact(bob), marysGuest});
+
+        QCOMPARE(Scalar("SELECT IFNULL(INVITE_ID, '-') || ATTENDING_FG FROM CONTACT WHERE CONTACT_ID = ?",
+                        {ids[0]}),
+                 QString("-N"));
+        QCOMPARE(Scalar("SELECT COUNT(*) FROM CONTACT WHERE CONTACT_ID = ?", {ids[2]}), QString("0"));
+        QCOMPARE(
+            Scalar(
+                "SELECT group_concat(FIRST_NM || SORT_ORDER_NB || PRIMARY_CONTACT_FG || ATTENDING_FG, ',') "
+                "FROM (SELECT * FROM CONTACT WHERE INVITE_ID = ? ORDER BY SORT_ORDER_NB)",
+                {id}),
+            QString("Mary1YN,Bob2NN,Mary's3NN"));
+        QCOMPARE(invite.GUESTS.size(), 3);
+        QVERIFY(!invite.GUESTS.at(2).CONTACT_ID.isEmpty());
+        QCOMPARE(invite.GUESTS.at(2).INVITE_ID, id);
+    }
+
+    // A new invitation whose save fails at any step leaves the database and the object as they were.
+    void savingWithPeopleIsAllOrNothing_data() {
+        QTest::addColumn<QString>("event");
+        QTest::addColumn<QString>("table");
+        QTest::newRow("invitation refused") << "INSERT"
+                                            << "INVITE";
+        QTest::newRow("guest refused") << "INSERT"
+                                       << "CONTACT";
+        QTest::newRow("person refused") << "UPDATE"
+                                        << "CONTACT";
+        QTest::newRow("orphans refused") << "DELETE"
+                                         << "CONTACT";
+    }
+    void savingWithPeopleIsAllOrNothing() {
+        QFETCH(QString, event);
+        QFETCH(QString, table);
+        AddInvitation({"Ms.|Ruth||Bell|||", "|Ruth's|Guest||||0"});
+        Exec("UPDATE CONTACT SET INVITE_ID = NULL WHERE GUEST_OF_ID Is Not Null"); // an orphan to remove
+        const QString ann = AddContact({{"FIRST_NM", "Ann"}, {"LAST_NM", "Lee"}});
+        clsCONTACT annsGuest;
+        annsGuest.FIRST_NM = "Ann's";
+        annsGuest.MIDDLE_NM = "Guest";
+        annsGuest.GUEST_OF_ID = ann;
+        const QStringList contacts = Dump("CONTACT"), invites = Dump("INVITE");
+        FailOn(event, table);
+        clsINVITE invite;
+        QVERIFY_THROWS_EXCEPTION(clsDbError, invite.SaveWithPeople(true, {Contact(ann), annsGuest}));
+        QCOMPARE(Dump("CONTACT"), contacts);
+        QCOMPARE(Dump("INVITE"), invites);
+        QCOMPARE(invite.INVITE_ID, QString());
+        QVERIFY(invite.GUESTS.isEmpty());
+    }
+
+    // Changing the etiquette rewrites every inner envelope that follows its people; stopped at any
+    // point, the stored choice (in the table and in memory) and every text stay as they were.
+    void changingTheEtiquetteIsAllOrNothing_data() {
+        QTest::addColumn<int>("stopAt");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("inner");
+        QTest::newRow("runs through") << -1 << "True"
+                                      << "Mr. and Mrs. Smith,Mr. and Mrs. Jones";
+        QTest::newRow("stopped before the first") << 0 << "False"
+                                                  << "as typed,as typed";
+        QTest::newRow("stopped after the first") << 1 << "False"
+                                                 << "as typed,as typed";
+    }
+    void changingTheEtiquetteIsAllOrNothing() {
+        QFETCH(int, stopAt);
+        QFETCH(QString, stored);
+        QFETCH(QString, inner);
+        SetEtiquette(false, false);
+        gVowren().OpenRecords();
+        AddInvitation({"Mr.|John||Smith|||", "Mrs.|Mary||Smith|||"}, {{"INNER_ENVELOPE_TX", "as typed"}});
+        AddInvitation({"Mr.|Tom||Jones|||", "Mrs.|Eve||Jones|||"}, {{"INNER_ENVELOPE_TX", "as typed"}});
+        QList<qsizetype> told;
+        const bool done = clsINVITE::ChangeEtiquette(true, [&](qsizetype count, qsizetype total) {
+            told << count << total;
+            return count != stopAt;
+        });
+        QCOMPARE(done, stopAt < 0);
+        QCOMPARE(told.mid(0, 2), (QList<qsizetype>{0, 2}));
+        QCOMPARE(Scalar("SELECT VOWREN_TX FROM VOWREN WHERE VOWREN_ID = 7"), stored);
+        QCOMPARE(gVowren().Get_VOWREN_TX(7), stored);
+        QCOMPARE(
+            Scalar("SELECT group_concat(INNER_ENVELOPE_TX) FROM (SELECT * FROM INVITE ORDER BY INVITE_ID)"),
+            inner);
     }
 
     // ---- Schema -----------------------------------------------------------------------------------
