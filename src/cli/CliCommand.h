@@ -22,6 +22,7 @@ CliCommand ParseNameCommand();
 CliCommand ParseAddressCommand();
 CliCommand DemoCommand();
 CliCommand ReportCommand();
+CliCommand RelabelCommand();
 
 // Every command the program knows, in the order --help lists them.
 const std::vector<CliCommand>& CliCommands();

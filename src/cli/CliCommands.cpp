@@ -25,13 +25,15 @@ int RunInfo(const QStringList& args, QTextStream& out, QTextStream& err) {
 const std::vector<CliCommand>& CliCommands() {
     static const std::vector<CliCommand> commands = {
         {QStringLiteral("info"), QStringLiteral("info"),
-         QStringLiteral("Print the version, the data root, the settings file and the resolved paths."), RunInfo},
+         QStringLiteral("Print the version, the data root, the settings file and the resolved paths."),
+         RunInfo},
         InitCommand(),
         SqlCommand(),
         ParseNameCommand(),
         ParseAddressCommand(),
         DemoCommand(),
         ReportCommand(),
+        RelabelCommand(),
     };
     return commands;
 }
