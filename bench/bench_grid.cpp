@@ -40,6 +40,24 @@ const std::vector<Record>& Records() {
     return records;
 }
 
+enum Column : int {
+    ICO,
+    INVITE_ICO,
+    TITLE_TX,
+    FULL_NM,
+    ADDRESS_TX,
+    NICK_NM,
+    EMAIL_TX,
+    PHONE_TX,
+    AB,
+    FRIEND_OF_TX,
+    ROLE_TX,
+    GENDER_FG,
+    OUT_OF_TOWNER_FG,
+    GUEST_OF,
+    CITY
+};
+
 QList<clsGridColumn> Columns() {
     return {clsGridColumn("ICO", "", 20).OfKind(GridColumnKind::Icon),
             clsGridColumn("INVITE_ICO", "", 20).OfKind(GridColumnKind::Icon),
@@ -62,10 +80,10 @@ QList<clsGridColumn> Columns() {
 void Fill(usrGrid& grid, bool grouped = true) {
     clsGridFill fill(*grid.Model());
     for (const Record& r : Records())
-        (grouped ? fill.Group(r.group) : fill).Row(r.id).Icon("ICO", FileIconPhoto).Icon("INVITE_ICO", FileIconPdf).Set("TITLE_TX", "Mr.")
-            .Set("FULL_NM", r.name).Set("ADDRESS_TX", r.address).Set("EMAIL_TX", r.email).Set("PHONE_TX", r.phone)
-            .Set("AB", "A").Set("FRIEND_OF_TX", "Bride").Set("GENDER_FG", "Male").Set("OUT_OF_TOWNER_FG", "Local")
-            .Set("CITY", r.city).Notes(r.notes);
+        (grouped ? fill.Group(r.group) : fill).Row(r.id).Icon(ICO, FileIconPhoto).Icon(INVITE_ICO, FileIconPdf)
+            .Set(TITLE_TX, "Mr.").Set(FULL_NM, r.name).Set(ADDRESS_TX, r.address).Set(EMAIL_TX, r.email)
+            .Set(PHONE_TX, r.phone).Set(AB, "A").Set(FRIEND_OF_TX, "Bride").Set(GENDER_FG, "Male")
+            .Set(OUT_OF_TOWNER_FG, "Local").Set(CITY, r.city).Notes(r.notes);
 }
 
 std::unique_ptr<usrGrid> ShownGrid() {

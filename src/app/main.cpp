@@ -1,12 +1,15 @@
 // vowren: the desktop program.
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
+#include "core/clsDB.h"
+#include "core/modBackup.h"
 #include "core/modSubMain.h"
 #include "platform/clsShell.h"
 #include "shell/frmVowren.h"
 #include "shell/mdiMain.h"
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
+#include "shell/modSingleInstance.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -100,11 +103,20 @@ int main(int argc, char** argv) {
                                                                                    : QUrl::fromLocalFile(target));
     });
 
+    if (!modSingleInstance::Claim(gApp().DatabasePath()))
+        return 0;
     QString failure;
     if (!modSubMain::OpenDatabase(&failure)) {
         ShowMessage(failure, Msg::OKOnly | Msg::Exclamation);
         return 1;
     }
+    if (!gDB().OpenNotice().isEmpty())
+        ShowMessage(gDB().OpenNotice(), Msg::OKOnly | Msg::Information);
+    // A copy of the file as this start found it, once a day.
+    const modBackup::Result copy = modBackup::WriteRollingIfDue(gDB());
+    if (!copy.Ok)
+        ShowMessage(QStringLiteral("Vowren could not write today's backup of the database.\n\n") + copy.Error,
+                    Msg::OKOnly | Msg::Exclamation);
     if (parser.isSet(noSplash)) {
         modSubMain::RunPatchesAndOpenGlobals();
         auto* window = new mdiMain;

@@ -24,6 +24,15 @@ CliCommand DemoCommand();
 CliCommand ReportCommand();
 CliCommand RelabelCommand();
 
+CliCommand BackupCommand();
+CliCommand RestoreCommand();
+
+// The two ways a command opens the database, saying why on `err` when it can't: a command that changes
+// the database takes its lock (and is refused while another program holds it); one that only reads may
+// run beside another program.
+bool StartForChange(QTextStream& err);
+bool StartForReading(QTextStream& err);
+
 // Every command the program knows, in the order --help lists them.
 const std::vector<CliCommand>& CliCommands();
 

@@ -33,6 +33,8 @@ const std::vector<CliCommand>& CliCommands() {
         ParseAddressCommand(),
         DemoCommand(),
         ReportCommand(),
+        BackupCommand(),
+        RestoreCommand(),
         RelabelCommand(),
     };
     return commands;

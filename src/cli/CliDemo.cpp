@@ -1,7 +1,6 @@
 #include "cli/CliCommand.h"
 
 #include "core/modDemoWedding.h"
-#include "core/modSubMain.h"
 
 namespace {
 
@@ -47,12 +46,9 @@ int RunDemo(const QStringList& args, QTextStream& out, QTextStream& err) {
             seed = static_cast<quint32>(s);
         }
     }
-    QString message;
-    if (!modSubMain::Start(&message)) {
-        err << "vowren-cli: demo: "
-            << (message.isEmpty() ? QStringLiteral("the database could not be opened") : message) << '\n';
+    if (!StartForChange(err))
         return kExitFailed;
-    }
+    QString message;
     if (!FillDemoWedding(guests, seed, &message)) {
         err << "vowren-cli: demo: " << message << '\n';
         return kExitFailed;

@@ -1,6 +1,5 @@
 #include "cli/CliCommand.h"
 
-#include "core/modSubMain.h"
 #include "reports/clsCustomFilter.h"
 #include "reports/clsReportCatalogue.h"
 #include "reports/clsReportClasses.h"
@@ -177,12 +176,8 @@ int RunReport(const QStringList& args, QTextStream& out, QTextStream& err)
     }
     if (parsed.All && !parsed.FormatGiven)
         parsed.Csv = true; // --all writes both dialects unless one is named
-    QString message;
-    if (!modSubMain::Start(&message)) {
-        err << "vowren-cli: report: "
-            << (message.isEmpty() ? QStringLiteral("the database could not be opened") : message) << '\n';
+    if (!StartForReading(err))
         return kExitFailed;
-    }
     RegisterReportClasses();
     if (parsed.List) {
         for (const QString& line : clsReportCatalogue::CatalogueLines())

@@ -31,6 +31,9 @@ public:
     void SetRevealTableStatus(int v) { SetInt("RevealTableStatus", v); }
     bool ShowDownloadCommand() const { return GetBool("ShowDownloadCommand", true); }
     void SetShowDownloadCommand(bool v) { SetBool("ShowDownloadCommand", v); }
+    // How many rolling backups of the database are kept (the oldest go first).
+    int BackupsKept() const { return GetInt("BackupsKept", 10); }
+    void SetBackupsKept(int v) { SetInt("BackupsKept", v); }
     bool ShowCountdown() const { return GetBool("ShowCountdown", true); }
     void SetShowCountdown(bool v) { SetBool("ShowCountdown", v); }
     bool ShowDialogWhenAddressUnclear() const { return GetBool("ShowDialogWhenAddressUnclear", true); }

@@ -1,5 +1,6 @@
 #include "core/clsDB.h"
 
+#include "core/modBackup.h"
 #include "core/modGeneral.h"
 
 #include <QDir>
@@ -119,8 +120,55 @@ void Bind(sqlite3_stmt* stmt, int index, const QVariant& value) {
     }
 }
 
-int DenyAttach(void*, int action, const char*, const char*, const char*, const char*) {
-    return action == SQLITE_ATTACH || action == SQLITE_DETACH ? SQLITE_DENY : SQLITE_OK;
+// A code of our own for a refusal that is no engine failure.
+constexpr int kForeignFile = 0x10001;
+
+bool IsBusy(int code) {
+    const int primary = code & 0xFF;
+    return primary == SQLITE_BUSY || primary == SQLITE_LOCKED;
+}
+
+bool IsDamage(int code) {
+    const int primary = code & 0xFF;
+    return primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB;
+}
+
+QString InUseText(const QString& path) {
+    return QStringLiteral("The database \"%1\" is in use by another program, which holds it locked.\n\n"
+                          "Nothing was changed. Wait a moment and try again, or first close the other program "
+                          "(another Vowren, a backup tool or a database browser).")
+        .arg(path);
+}
+
+QString NewerFileNotice(const QString& path) {
+    return QStringLiteral("The database \"%1\" was written by a newer version of Vowren. It is open for reading "
+                          "only, so that nothing in it is changed by this older version.\n\n"
+                          "Install the newer Vowren to make changes.")
+        .arg(path);
+}
+
+// Where to turn when the file can't be used: the newest backup, or how to get one back.
+QString RestoreAdvice() {
+    const QString newest = modBackup::NewestBackup();
+    if (newest.isEmpty())
+        return QStringLiteral("Nothing was changed. Keep the file; restore it from a copy you made (see Options, "
+                              "Backup and Restore).");
+    return QStringLiteral("Nothing was changed. Keep the file, and restore your newest backup:\n%1\n"
+                          "(vowren-cli restore \"%1\", or Options, Backup and Restore).")
+        .arg(newest);
+}
+
+QString OpenFailureMessage(const QString& path, const clsDbError& e) {
+    if (IsBusy(e.Code()))
+        return InUseText(path);
+    if (e.Code() == kForeignFile)
+        return QStringLiteral("The file \"%1\" is not a Vowren database (%2).\n\n"
+                              "Nothing was changed. Check the path, and Database/Vowren.connect if you use one.")
+            .arg(path, e.Message());
+    if (IsDamage(e.Code()))
+        return QStringLiteral("The file \"%1\" is damaged or is not a Vowren database (%2).\n\n").arg(path, e.Message()) +
+               RestoreAdvice();
+    return QStringLiteral("Unable to open \"%1\": %2").arg(path, e.Message());
 }
 
 // Frees a prepared statement at the end of a scope.
@@ -136,10 +184,12 @@ clsDbError::clsDbError(const QString& message, int code)
 
 clsDB::~clsDB() { CloseConnection(); }
 
-bool clsDB::OpenConnection() {
-    if (mDb)
-        return true;
-    mOpenError.clear();
+bool clsDB::OpenConnection() { return Open(false); }
+
+bool clsDB::OpenReadOnly() { return Open(true); }
+
+// What can be told of the path before the engine sees it.
+bool clsDB::CheckFile() {
     const QFileInfo file(DatabasePath);
     if (DatabasePath.isEmpty()) {
         mOpenError = QStringLiteral("No database file is named.");
@@ -155,6 +205,8 @@ bool clsDB::OpenConnection() {
         mOpenError = QStringLiteral("\"%1\" is a folder, not a database file.").arg(DatabasePath);
         return false;
     }
+    if (mReadOnly)
+        return true;
     if (!file.isWritable()) {
         mOpenError = QStringLiteral("The database file \"%1\" is read-only.\n\n"
                                     "Give your user permission to change it, then start Vowren again.")
@@ -167,32 +219,89 @@ bool clsDB::OpenConnection() {
                          .arg(file.absolutePath());
         return false;
     }
+    return true;
+}
+
+bool clsDB::Open(bool readOnly) {
+    if (mDb)
+        return true;
+    mOpenError.clear();
+    mOpenNotice.clear();
+    mReadOnly = readOnly;
+    if (!CheckFile())
+        return false;
     sqlite3* db = nullptr;
-    const QByteArray path = QDir::toNativeSeparators(file.absoluteFilePath()).toUtf8();
-    if (sqlite3_open_v2(path.constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
+    const QByteArray path = QDir::toNativeSeparators(QFileInfo(DatabasePath).absoluteFilePath()).toUtf8();
+    const int flags = (readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) | SQLITE_OPEN_NOMUTEX;
+    if (sqlite3_open_v2(path.constData(), &db, flags, nullptr) != SQLITE_OK) {
         mOpenError = QStringLiteral("Unable to open \"%1\": %2").arg(DatabasePath, EngineText(db));
         sqlite3_close(db);
         return false;
     }
     mDb = db;
     sqlite3_extended_result_codes(mDb, 1);
+    sqlite3_busy_timeout(mDb, mBusyTimeoutMs);
     try {
         // A file that is no database fails at its first read; a cut-off file is shorter than its pages.
         Execute(QStringLiteral("SELECT count(*) FROM sqlite_master"));
         const qint64 pages = Execute(QStringLiteral("PRAGMA page_count")).Scalar().toLongLong();
         const qint64 pageSize = Execute(QStringLiteral("PRAGMA page_size")).Scalar().toLongLong();
-        if (file.size() < pages * pageSize)
+        if (QFileInfo(DatabasePath).size() < pages * pageSize)
             throw clsDbError(QStringLiteral("the file is shorter than its contents (it was cut off)"), SQLITE_CORRUPT);
-        SetPragmas();
+        CheckIdentity();
+        if (SchemaVersion() > DbIdentity::kSchemaVersion) {
+            // A newer Vowren's file is read, never changed.
+            mOpenNotice = NewerFileNotice(DatabasePath);
+            if (!readOnly) {
+                CloseConnection();
+                const bool opened = Open(true);
+                mOpenNotice = NewerFileNotice(DatabasePath);
+                return opened;
+            }
+        }
+        const QString check = Execute(QStringLiteral("PRAGMA quick_check(1)")).Scalar();
+        if (check != QLatin1String("ok"))
+            throw clsDbError(check, SQLITE_CORRUPT);
+        if (mReadOnly)
+            ExecuteScript(QStringLiteral("PRAGMA query_only=ON"));
+        else
+            SetPragmas();
     } catch (const clsDbError& e) {
         CloseConnection();
-        mOpenError = QStringLiteral("The file \"%1\" is not a Vowren database, or it is damaged (%2).\n\n"
-                                    "Nothing was changed. Restore the file from a backup, or move it "
-                                    "away and start Vowren again to begin a new database.")
-                         .arg(DatabasePath, e.Message());
+        mOpenError = OpenFailureMessage(DatabasePath, e);
         return false;
     }
     return true;
+}
+
+// A file is ours when it carries our application id, or, without one, when it holds the tables of an
+// older Vowren (or none at all: a new file). Another program's database is never touched.
+void clsDB::CheckIdentity() {
+    const int id = ApplicationId();
+    if (id == 0) {
+        const bool hasTables =
+            Execute(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE type = 'table'")).Scalar() != "0";
+        if (hasTables && !TableExists(QStringLiteral("CONTACT")))
+            throw clsDbError(QStringLiteral("it holds no Vowren tables"), kForeignFile);
+    } else if (id != DbIdentity::kApplicationId) {
+        throw clsDbError(QStringLiteral("it belongs to another program"), kForeignFile);
+    }
+}
+
+int clsDB::SchemaVersion() { return Execute(QStringLiteral("PRAGMA user_version")).Scalar().toInt(); }
+
+int clsDB::ApplicationId() { return Execute(QStringLiteral("PRAGMA application_id")).Scalar().toInt(); }
+
+void clsDB::StampIdentity(int schemaVersion) {
+    ExecuteScript(QStringLiteral("PRAGMA application_id=%1; PRAGMA user_version=%2")
+                      .arg(DbIdentity::kApplicationId)
+                      .arg(schemaVersion));
+}
+
+void clsDB::SetBusyTimeout(int ms) {
+    mBusyTimeoutMs = ms;
+    if (mDb)
+        sqlite3_busy_timeout(mDb, ms);
 }
 
 void clsDB::SetPragmas() {
@@ -222,6 +331,11 @@ clsRecordset clsDB::Run(const QString& sql, const QVariantList& values, bool con
 void clsDB::Stream(const QString& sql, const QVariantList& values, const ColumnsHandler& onColumns,
                    const RowHandler& onRow) {
     Read(sql, values, true, onColumns, onRow);
+}
+
+void clsDB::StreamRaw(const QString& sql, const QVariantList& values, const ColumnsHandler& onColumns,
+                      const RowHandler& onRow) {
+    Read(sql, values, false, onColumns, onRow);
 }
 
 void clsDB::Read(const QString& sql, const QVariantList& values, bool convertDates, const ColumnsHandler& onColumns,
@@ -263,9 +377,8 @@ void clsDB::ExecuteScript(const QString& sql) {
     char* error = nullptr;
     const int rc = sqlite3_exec(mDb, sql.toUtf8().constData(), nullptr, nullptr, &error);
     if (rc != SQLITE_OK) {
-        const QString text = error ? QString::fromUtf8(error) : EngineText(mDb);
         sqlite3_free(error);
-        throw clsDbError(text, rc);
+        throw ErrorFor(rc, sql, {});
     }
 }
 
@@ -274,6 +387,13 @@ int clsDB::Changes() const { return mDb ? sqlite3_changes(mDb) : 0; }
 clsDbError clsDB::ErrorFor(int code, const QString& sql, const QVariantList& values) {
     const QString engine = EngineText(mDb);
     const int extended = mDb ? sqlite3_extended_errcode(mDb) : code;
+    if (IsBusy(extended))
+        return clsDbError(InUseText(DatabasePath), extended);
+    if ((extended & 0xFF) == SQLITE_FULL)
+        return clsDbError(QStringLiteral("The disk that holds \"%1\" is full, so the change could not be saved. "
+                                         "Nothing was changed.\n\nFree some space on the disk and try again.")
+                              .arg(DatabasePath),
+                          extended);
     switch (extended) {
     case SQLITE_CONSTRAINT_FOREIGNKEY: {
         const QString child = ReferringTable(sql, values);
@@ -358,32 +478,6 @@ bool clsDB::ForeignKeyExists(const QString& table, const QString& keyName) {
     }
 }
 
-bool clsDB::IsReadOnlyStatement(const QString& sql, QString* error) {
-    if (!mDb && !OpenConnection()) {
-        if (error)
-            *error = mOpenError;
-        return false;
-    }
-    Statement st;
-    const QByteArray utf8 = sql.toUtf8();
-    const char* tail = nullptr;
-    // Attaching another file would create it, though the engine counts that as reading.
-    sqlite3_set_authorizer(mDb, DenyAttach, nullptr);
-    const int rc = sqlite3_prepare_v2(mDb, utf8.constData(), static_cast<int>(utf8.size()), &st.stmt, &tail);
-    sqlite3_set_authorizer(mDb, nullptr, nullptr);
-    if (rc != SQLITE_OK) {
-        if (error)
-            *error = EngineText(mDb);
-        return false;
-    }
-    if (tail && !QByteArray(tail).trimmed().isEmpty() && QByteArray(tail).trimmed() != ";") {
-        if (error)
-            *error = QStringLiteral("Only one statement can be run at a time.");
-        return false;
-    }
-    return st.stmt != nullptr && sqlite3_stmt_readonly(st.stmt) != 0;
-}
-
 QString clsDB::FormatSQL(const QString& sql, bool upperCase) {
     QString text = upperCase ? sql.toUpper() : sql;
     const QString crlf = QStringLiteral("\r\n");
@@ -400,27 +494,64 @@ QString clsDB::FormatSQL(const QString& sql, bool upperCase) {
 }
 
 void clsDB::BeginSavepoint() {
-    ExecuteScript(QStringLiteral("SAVEPOINT vowren_%1").arg(mSavepointDepth));
+    if (mSavepointDepth > 0 && !InTransaction())
+        mSavepointDepth = 0; // the engine ended the transaction itself (a failure that rolls back)
+    ExecuteScript(mSavepointDepth == 0 ? QStringLiteral("BEGIN IMMEDIATE")
+                                       : QStringLiteral("SAVEPOINT vowren_%1").arg(mSavepointDepth));
     ++mSavepointDepth;
 }
 
 void clsDB::ReleaseSavepoint() {
     if (mSavepointDepth == 0)
         return;
-    --mSavepointDepth;
-    ExecuteScript(QStringLiteral("RELEASE vowren_%1").arg(mSavepointDepth));
+    if (mSavepointDepth > 1) {
+        ExecuteScript(QStringLiteral("RELEASE vowren_%1").arg(mSavepointDepth - 1));
+        --mSavepointDepth;
+        return;
+    }
+    try {
+        ExecuteScript(QStringLiteral("COMMIT"));
+    } catch (const clsDbError&) {
+        // A commit that fails (another program reads the file) leaves the transaction open: undo it, so
+        // that nothing later is saved inside it and lost.
+        if (InTransaction())
+            sqlite3_exec(mDb, "ROLLBACK", nullptr, nullptr, nullptr);
+        mSavepointDepth = 0;
+        throw;
+    }
+    mSavepointDepth = 0;
 }
 
 void clsDB::RollbackSavepoint() {
     if (mSavepointDepth == 0)
         return;
     --mSavepointDepth;
-    ExecuteScript(QStringLiteral("ROLLBACK TO vowren_%1; RELEASE vowren_%1").arg(mSavepointDepth));
+    if (!InTransaction()) {
+        mSavepointDepth = 0;
+        return;
+    }
+    if (mSavepointDepth == 0)
+        ExecuteScript(QStringLiteral("ROLLBACK"));
+    else
+        ExecuteScript(QStringLiteral("ROLLBACK TO vowren_%1; RELEASE vowren_%1").arg(mSavepointDepth));
 }
 
-void clsDB::RebuildTable(const QString& table, const QString& createSql) {
-    if (mSavepointDepth > 0)
-        throw clsDbError(QStringLiteral("A table can't be rebuilt inside another change."), SQLITE_MISUSE);
+bool clsDB::InTransaction() const { return mDb && sqlite3_get_autocommit(mDb) == 0; }
+
+void clsDB::RebuildTable(const QString& table, const QString& createSql, const QStringList& dropped) {
+    if (InTransaction()) {
+        // Only a schema change may hold a rebuild: foreign keys can't be switched off inside a transaction.
+        if (Run(QStringLiteral("PRAGMA foreign_keys"), {}, false).Scalar() != QLatin1String("0"))
+            throw clsDbError(QStringLiteral("A table can't be rebuilt inside another change."), SQLITE_MISUSE);
+        CopyRebuiltTable(table, createSql, dropped);
+        return;
+    }
+    clsSchemaChange change(*this);
+    CopyRebuiltTable(table, createSql, dropped);
+    change.Commit();
+}
+
+void clsDB::CopyRebuiltTable(const QString& table, const QString& createSql, const QStringList& dropped) {
     const QString temp = QStringLiteral("vowren_rebuild_") + table;
     QString createTemp = createSql;
     createTemp.replace(QRegularExpression(QStringLiteral("^\\s*CREATE\\s+TABLE\\s+\"?%1\"?").arg(table),
@@ -429,34 +560,66 @@ void clsDB::RebuildTable(const QString& table, const QString& createSql) {
     const clsRecordset indexes = Run(
         QStringLiteral("SELECT sql FROM sqlite_master WHERE type = 'index' AND tbl_name = ? AND sql IS NOT NULL"),
         {table}, false);
-    ExecuteScript(QStringLiteral("PRAGMA foreign_keys=OFF"));
+    ExecuteScript(createTemp);
+    QStringList shared;
+    const clsRecordset oldColumns = Run(QStringLiteral("SELECT name FROM pragma_table_info(?)"), {table}, false);
+    const clsRecordset newColumns = Run(QStringLiteral("SELECT name FROM pragma_table_info(?)"), {temp}, false);
+    for (int j = 0; j < oldColumns.RowCount(); ++j) {
+        const QString column = oldColumns.Value(j, 0);
+        bool kept = false;
+        for (int i = 0; i < newColumns.RowCount() && !kept; ++i)
+            kept = newColumns.Value(i, 0).compare(column, Qt::CaseInsensitive) == 0;
+        if (kept)
+            shared << column;
+        else if (!dropped.contains(column, Qt::CaseInsensitive))
+            throw clsDbError(QStringLiteral("Rebuilding %1 would lose its column %2, which the new shape does not "
+                                            "know.")
+                                 .arg(table, column),
+                             SQLITE_MISUSE);
+    }
+    const QString list = shared.join(QStringLiteral(", "));
+    ExecuteScript(QStringLiteral("INSERT INTO %1 (%2) SELECT %2 FROM %3").arg(temp, list, table));
+    ExecuteScript(QStringLiteral("DROP TABLE %1").arg(table));
+    ExecuteScript(QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(temp, table));
+    for (int i = 0; i < indexes.RowCount(); ++i)
+        ExecuteScript(indexes.Value(i, 0));
+}
+
+clsSchemaChange::clsSchemaChange(clsDB& db) : mDb(db) {
+    if (mDb.InTransaction())
+        throw clsDbError(QStringLiteral("A change of the schema can't start inside another change."), SQLITE_MISUSE);
+    mDb.ExecuteScript(QStringLiteral("PRAGMA foreign_keys=OFF"));
     try {
-        clsTransaction tx(*this);
-        ExecuteScript(createTemp);
-        QStringList shared;
-        const clsRecordset oldColumns = Run(QStringLiteral("SELECT name FROM pragma_table_info(?)"), {table}, false);
-        const clsRecordset newColumns = Run(QStringLiteral("SELECT name FROM pragma_table_info(?)"), {temp}, false);
-        for (int i = 0; i < newColumns.RowCount(); ++i) {
-            for (int j = 0; j < oldColumns.RowCount(); ++j) {
-                if (newColumns.Value(i, 0).compare(oldColumns.Value(j, 0), Qt::CaseInsensitive) == 0)
-                    shared << newColumns.Value(i, 0);
-            }
-        }
-        const QString list = shared.join(QStringLiteral(", "));
-        ExecuteScript(QStringLiteral("INSERT INTO %1 (%2) SELECT %2 FROM %3").arg(temp, list, table));
-        ExecuteScript(QStringLiteral("DROP TABLE %1").arg(table));
-        ExecuteScript(QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(temp, table));
-        for (int i = 0; i < indexes.RowCount(); ++i)
-            ExecuteScript(indexes.Value(i, 0));
-        if (!Run(QStringLiteral("PRAGMA foreign_key_check"), {}, false).IsEmpty())
-            throw clsDbError(QStringLiteral("Rebuilding %1 would break the links between tables.").arg(table),
-                             SQLITE_CONSTRAINT_FOREIGNKEY);
-        tx.Commit();
+        mDb.BeginSavepoint();
+        mRowChangesAtStart = sqlite3_total_changes64(mDb.Connection());
+        mSchemaAtStart = mDb.Execute(QStringLiteral("PRAGMA schema_version")).Scalar();
     } catch (...) {
-        ExecuteScript(QStringLiteral("PRAGMA foreign_keys=ON"));
+        mDb.ExecuteScript(QStringLiteral("PRAGMA foreign_keys=ON"));
         throw;
     }
-    ExecuteScript(QStringLiteral("PRAGMA foreign_keys=ON"));
+}
+
+clsSchemaChange::~clsSchemaChange() {
+    try {
+        if (!mDone)
+            mDb.RollbackSavepoint();
+        mDb.ExecuteScript(QStringLiteral("PRAGMA foreign_keys=ON"));
+    } catch (const clsDbError&) {
+        // The connection is gone; there is nothing left to undo.
+    }
+}
+
+bool clsSchemaChange::ChangedAnything() {
+    return sqlite3_total_changes64(mDb.Connection()) != mRowChangesAtStart ||
+           mDb.Execute(QStringLiteral("PRAGMA schema_version")).Scalar() != mSchemaAtStart;
+}
+
+void clsSchemaChange::Commit() {
+    if (ChangedAnything() && !mDb.Execute(QStringLiteral("PRAGMA foreign_key_check")).IsEmpty())
+        throw clsDbError(QStringLiteral("The change would break the links between tables."),
+                         SQLITE_CONSTRAINT_FOREIGNKEY);
+    mDb.ReleaseSavepoint();
+    mDone = true;
 }
 
 clsTransaction::clsTransaction(clsDB& db) : mDb(db) { mDb.BeginSavepoint(); }

@@ -263,6 +263,7 @@ void CreateCurrentSchema(clsDB& db) {
     }
     for (const QString& table : TableNames())
         SeedTable(db, table);
+    db.StampIdentity(DbIdentity::kSchemaVersion);
     tx.Commit();
 }
 

@@ -5,6 +5,8 @@
 #include "core/clsDB.h"
 #include "core/clsDICT.h"
 #include "core/clsVOWREN.h"
+#include "core/modBackup.h"
+#include "core/modDatabaseLock.h"
 #include "core/modGeneral.h"
 #include "core/modSchema.h"
 #include "guests/clsCONTACT.h"
@@ -39,26 +41,66 @@ bool HoldsNoTables(clsDB& db) {
     return db.Execute(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE type = 'table'")).Scalar() == "0";
 }
 
-void ShowUpdateError(const clsDbError& e) {
-    ShowMessage(modPatchDriver::UpdateErrorMessage() + QStringLiteral("\r\n\r\n(") + e.Message() + QLatin1Char(')'),
-                Msg::OKOnly | Msg::Exclamation);
+// What the driver tells when a step fails: which step, that it was undone, and where the copy is.
+struct DriverState {
+    QString BackupPath;
+    bool Failed = false;
+};
+DriverState& Driver() {
+    static DriverState state;
+    return state;
 }
 
-// One failure unit of the driver: the first failure skips the rest and shows the update message.
-void Step(std::initializer_list<std::function<void()>> operations) {
+void ShowUpdateError(int step, const clsDbError& e) {
+    Driver().Failed = true;
+    QString text = modPatchDriver::UpdateErrorMessage() + QStringLiteral("\r\n\r\n(") + e.Message() +
+                   QStringLiteral(")\r\n\r\nStep %1 of the update failed and was undone: the database is as it was "
+                                  "before that step.")
+                       .arg(step);
+    if (!Driver().BackupPath.isEmpty())
+        text += QStringLiteral(" A copy from before the update is at:\r\n") + Driver().BackupPath;
+    ShowMessage(text, Msg::OKOnly | Msg::Exclamation);
+}
+
+// One failure unit of the driver, all or nothing: the first failure undoes the step, skips the rest of
+// it and shows the update message; the driver goes on with the next step.
+void Step(int step, std::initializer_list<std::function<void()>> operations) {
     try {
+        clsSchemaChange change(gDB());
         for (const auto& operation : operations)
             operation();
+        change.Commit();
     } catch (const clsDbError& e) {
-        ShowUpdateError(e);
+        ShowUpdateError(step, e);
     }
 }
 
 // Steps without a handler of their own: each operation stands alone, so one failure neither ends the
 // program nor keeps the others from running.
-void EachAlone(std::initializer_list<std::function<void()>> operations) {
+void EachAlone(int step, std::initializer_list<std::function<void()>> operations) {
     for (const auto& operation : operations)
-        Step({operation});
+        Step(step, {operation});
+}
+
+// A file older than this program gets a copy before anything in it changes. False when the copy could
+// not be written: then nothing is changed.
+bool BackUpBeforeUpdate() {
+    Driver() = DriverState();
+    const int version = gDB().SchemaVersion();
+    if (version >= DbIdentity::kSchemaVersion || HoldsNoTables(gDB()))
+        return true;
+    const modBackup::Result copy =
+        modBackup::WriteRolling(gDB().Connection(), QStringLiteral("v%1-before-update").arg(version));
+    if (!copy.Ok) {
+        ShowMessage(QStringLiteral("This database needs an update, but Vowren could not first write a copy of it "
+                                   "(%1)\r\n\r\nThe database was not changed. Free some space or check the folder "
+                                   "\"%2\", then start Vowren again.")
+                        .arg(copy.Error, modBackup::Folder()),
+                    Msg::OKOnly | Msg::Exclamation);
+        return false;
+    }
+    Driver().BackupPath = copy.Path;
+    return true;
 }
 
 // Row 0 of the time frames came with the estimates; a database without it gets both.
@@ -122,25 +164,32 @@ QString UpdateErrorMessage() {
 }
 
 void Run() {
-    Step({[] { clsVOWREN::CreateTable(); }, [] { clsVOWREN::Patch_6_Apply(); }, [] { clsVOWREN::Patch_7_Apply(); }});
+    if (!BackUpBeforeUpdate()) {
+        OpenGlobalReads();
+        return;
+    }
+    Step(1, {[] { clsVOWREN::CreateTable(); }, [] { clsVOWREN::Patch_6_Apply(); }, [] { clsVOWREN::Patch_7_Apply(); }});
     OpenGlobalReads();
-    Step({[] { clsVENDOR::Patch_Add_FILE_PATH_TX(); }, [] { clsNOTEBOOK::CreateTable(); }});
-    Step({[] { clsFLIGHT::CreateTable(); }, [] { clsHOTEL::CreateTable(); }, [] { clsCONTACT::Patch_6_Apply(); },
+    Step(3, {[] { clsVENDOR::Patch_Add_FILE_PATH_TX(); }, [] { clsNOTEBOOK::CreateTable(); }});
+    Step(4, {[] { clsFLIGHT::CreateTable(); }, [] { clsHOTEL::CreateTable(); }, [] { clsCONTACT::Patch_6_Apply(); },
           [] { clsDINING_TABLE::Patch_6_Apply(); }});
-    EachAlone({[] { clsHOTEL::Patch_7_Apply(); }, [] { clsTASK::Patch_7_Apply(); }, [] { clsCONTACT::Patch_7_Apply(); },
+    EachAlone(5, {[] { clsHOTEL::Patch_7_Apply(); }, [] { clsTASK::Patch_7_Apply(); }, [] { clsCONTACT::Patch_7_Apply(); },
           [] { TaskGroupAndEstimates(); }, [] { clsDICT::CreateTable_SONGLIST_DICT(); },
           [] { clsSONG::CreateTable(); }, [] { clsTENTCARD::CreateTable(); }, [] { clsGIFT::Patch_7_Apply(); },
           [] { clsDICT::Patch_MEAL_DICT_Add_PRICE_NB(); }, [] { clsDICT::CreateTable_VENDOR_CATEGORY_DICT(); },
           [] { clsVENDOR::Patch_Add_VENDOR_CATEGORY_ID(); }});
-    Step({[] { clsGIFT::Patch_5_Apply(); }});
-    Step({[] { clsBUDGET::Patch_4_Apply(); }, [] { clsBUDGET::Patch_7_Apply(); }});
-    Step({[] { clsDICT::CreateTable_PAID_BY_DICT(); }, [] { clsBUDGET::Patch_3_Apply(); }});
-    Step({[] { clsTIMELINE::CreateTable(); }, [] { clsWORDING::CreateTable(); },
+    Step(6, {[] { clsGIFT::Patch_5_Apply(); }});
+    Step(7, {[] { clsBUDGET::Patch_4_Apply(); }, [] { clsBUDGET::Patch_7_Apply(); }});
+    Step(8, {[] { clsDICT::CreateTable_PAID_BY_DICT(); }, [] { clsBUDGET::Patch_3_Apply(); }});
+    Step(9, {[] { clsTIMELINE::CreateTable(); }, [] { clsWORDING::CreateTable(); },
           [] { clsBUDGET_CATEGORY_DICT::CreateTable(); }, [] { clsBUDGET::Patch_2_Apply(); },
           [] { clsDICT::CreateTable_TITLE_DICT(); }, [] { clsINVITE_WIDGET::CreateTable(); },
           [] { clsCONTACT::Patch_2_Apply(); }, [] { clsINVITE::Patch_2_Apply(); }});
-    EachAlone({[] { Patch1(); }});
-    Step({[] { modSchema::CreateMissingIndexes(gDB()); }});
+    EachAlone(10, {[] { Patch1(); }});
+    Step(11, {[] { modSchema::CreateMissingIndexes(gDB()); }});
+    // Only a file that every step brought up to date is marked as current; another start tries again.
+    if (!Driver().Failed)
+        Step(12, {[] { gDB().StampIdentity(DbIdentity::kSchemaVersion); }});
 }
 
 } // namespace modPatchDriver
@@ -195,6 +244,14 @@ bool OpenDatabase(QString* message) {
 }
 
 void RunPatchesAndOpenGlobals() {
+    if (gDB().IsReadOnly()) {
+        // A file read as it is (a newer Vowren's, or one another program is changing): nothing is
+        // written, not even the couple's attendance.
+        OpenGlobalReads();
+        gBride().OpenRecord(QStringLiteral("1"));
+        gGroom().OpenRecord(QStringLiteral("2"));
+        return;
+    }
     if (gApp().SkipPatches())
         OpenGlobalReads();
     else
@@ -206,6 +263,48 @@ void RunPatchesAndOpenGlobals() {
 bool Start(QString* message) {
     if (!OpenDatabase(message))
         return false;
+    RunPatchesAndOpenGlobals();
+    return true;
+}
+
+bool StartForChange(QString* message, int waitMs) {
+    const QString path = gApp().DatabasePath();
+    QString holder;
+    if (!modDatabaseLock::Acquire(path, waitMs, &holder)) {
+        if (message)
+            *message = modDatabaseLock::InUseMessage(path, holder);
+        return false;
+    }
+    if (!Start(message))
+        return false;
+    if (gDB().IsReadOnly()) {
+        if (message)
+            *message = gDB().OpenNotice();
+        return false;
+    }
+    return true;
+}
+
+bool StartForReading(QString* message) {
+    const QString path = gApp().DatabasePath();
+    if (modDatabaseLock::Acquire(path, 0))
+        return Start(message);
+    clsDB& db = gDB();
+    db.CloseConnection();
+    db.DatabasePath = path;
+    if (!db.OpenReadOnly()) {
+        if (message)
+            *message = ConnectFailureMessage(path, db.OpenError());
+        return false;
+    }
+    if (db.SchemaVersion() < DbIdentity::kSchemaVersion) {
+        db.CloseConnection();
+        if (message)
+            *message = QStringLiteral("The database \"%1\" needs an update that Vowren makes when it starts, and "
+                                      "another program is using it now.\n\nClose that program and try again.")
+                           .arg(path);
+        return false;
+    }
     RunPatchesAndOpenGlobals();
     return true;
 }

@@ -19,6 +19,13 @@ void RunPatchesAndOpenGlobals();
 // Both, in order. The message is set when it fails.
 bool Start(QString* message);
 
+// The starts of the command line. A command that changes the database takes its lock first, waiting up
+// to `waitMs` for another program to let go, and is refused when it can't. A command that only reads
+// takes the lock when it is free (and starts as usual); otherwise it reads the file as it stands on a
+// connection that can't write, without the patch driver.
+bool StartForChange(QString* message, int waitMs = 3000);
+bool StartForReading(QString* message);
+
 // "Unable to connect to database: " + the path, the reason, and where to write for help.
 QString ConnectFailureMessage(const QString& path, const QString& reason);
 

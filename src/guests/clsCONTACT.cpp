@@ -5,6 +5,7 @@
 #include "core/clsApp.h"
 #include "core/modGeneral.h"
 #include "core/modSchema.h"
+#include "guests/clsFilterTable.h"
 #include "guests/clsINVITE.h"
 #include "guests/clsParseAddress.h"
 #include "guests/clsParseName.h"
@@ -13,8 +14,6 @@
 namespace {
 
 const QString kCrLf = QStringLiteral("\r\n");
-const QString kSent = QStringLiteral("INVITE.INVITE_SENT_FG = 'Y' ");
-const QString kAttending = QStringLiteral("CONTACT.ATTENDING_FG = 'Y' ");
 
 // The joins that bring in what a person's row shows: the person who brought a guest, role, meal,
 // table, invitation, flight and hotel. Every contact is kept, whatever it lacks.
@@ -250,111 +249,17 @@ QString clsCONTACT::ExcludeBrideGroomClause(bool excludeBrideGroom) {
 }
 
 QString clsCONTACT::WHERE_CLAUSE(int filter, bool excludeBrideGroom) {
-    const QString x = ExcludeBrideGroomClause(excludeBrideGroom);
-    const auto side = [](int n) -> QString {
-        return QStringLiteral("AND CONTACT.FRIEND_OF_CD = ") + QString::number(n);
-    };
-    const auto flag = [](const char* column, char value) -> QString {
-        return QStringLiteral("CONTACT.") + QLatin1String(column) + QStringLiteral(" = '") +
-               QLatin1Char(value) + QLatin1Char('\'');
-    };
-    switch (filter) {
-    case 1:
-    case 2:
-    case 3:
-        return QStringLiteral("CONTACT.FRIEND_OF_CD = ") + QString::number(filter);
-    case 4:
-        return flag("AB_LIST_CD", 'A');
-    case 5:
-        return flag("AB_LIST_CD", 'B');
-    case 6:
-        return QStringLiteral("INVITE.INVITE_SENT_FG = 'Y'");
-    case 7:
-        return QStringLiteral("(INVITE.INVITE_ID Is Null OR INVITE.INVITE_SENT_FG = 'N') ") +
-               ExcludeBrideGroomClause(true);
-    case 8:
-        return QStringLiteral("CONTACT.ADDRESS_TX Is Null");
-    case 9:
-    case 10:
-    case 11:
-        return kSent + side(filter - 8);
-    case 12:
-        return kSent + QStringLiteral("AND ") + flag("AB_LIST_CD", 'A');
-    case 13:
-        return kSent + QStringLiteral("AND ") + flag("AB_LIST_CD", 'B');
-    case 14:
-        return kAttending + x;
-    case 15:
-    case 16:
-    case 17:
-        return kAttending + side(filter - 14) + QLatin1Char(' ') + x;
-    case 18:
-        return kAttending + QStringLiteral("AND ") + flag("AB_LIST_CD", 'A') + QLatin1Char(' ') + x;
-    case 19:
-        return kAttending + QStringLiteral("AND ") + flag("AB_LIST_CD", 'B') + QLatin1Char(' ') + x;
-    case 20:
-        return kSent + QStringLiteral("AND INVITE.RSVP_RECEIVED_FG = 'Y' AND CONTACT.ATTENDING_FG = 'N'");
-    case 21:
-        return QStringLiteral("CONTACT.DINING_TABLE_ID Is Not Null ") + x;
-    case 22:
-        return kAttending + QStringLiteral("AND CONTACT.DINING_TABLE_ID Is Null ") + x;
-    case 23:
-        return QStringLiteral("CONTACT.ROLE_ID Is Not Null");
-    case 24:
-        return flag("OUT_OF_TOWNER_FG", 'N');
-    case 25:
-        return flag("OUT_OF_TOWNER_FG", 'Y');
-    case 26:
-        return kSent + QStringLiteral("AND ") + flag("OUT_OF_TOWNER_FG", 'N');
-    case 27:
-        return kSent + QStringLiteral("AND ") + flag("OUT_OF_TOWNER_FG", 'Y');
-    case 28:
-        return kAttending + QStringLiteral("AND ") + flag("OUT_OF_TOWNER_FG", 'N') + QLatin1Char(' ') + x;
-    case 29:
-        return kAttending + QStringLiteral("AND ") + flag("OUT_OF_TOWNER_FG", 'Y') + QLatin1Char(' ') + x;
-    case 30:
-        return QStringLiteral("CONTACT.EMAIL_TX Is Null");
-    case 31:
-        return QStringLiteral("CONTACT.PHONE_TX Is Null");
-    case 32:
-        return kAttending + QStringLiteral("AND CONTACT.FLIGHT_ID Is Null");
-    case 33:
-        return kAttending + QStringLiteral("AND CONTACT.FLIGHT_ID Is Not Null");
-    case 34:
-        return kAttending + QStringLiteral("AND CONTACT.HOTEL_ID Is Null");
-    case 35:
-        return kAttending + QStringLiteral("AND CONTACT.HOTEL_ID Is Not Null");
-    case 36:
-        return kSent + QStringLiteral("AND INVITE.RSVP_RECEIVED_FG = 'N'");
-    case 37:
-        return flag("GENDER_FG", 'M');
-    case 38:
-        return flag("GENDER_FG", 'F');
-    case 39:
-        return kSent + QStringLiteral("AND ") + flag("GENDER_FG", 'M');
-    case 40:
-        return kSent + QStringLiteral("AND ") + flag("GENDER_FG", 'F');
-    case 41:
-        return kAttending + QStringLiteral("AND ") + flag("GENDER_FG", 'M');
-    case 42:
-        return kAttending + QStringLiteral("AND ") + flag("GENDER_FG", 'F');
-    case 43:
-        return flag("CHILD_FG", 'N');
-    case 44:
-        return flag("CHILD_FG", 'Y');
-    case 45:
-        return kSent + QStringLiteral("AND ") + flag("CHILD_FG", 'N');
-    case 46:
-        return kSent + QStringLiteral("AND ") + flag("CHILD_FG", 'Y');
-    case 47:
-        return kAttending + QStringLiteral("AND ") + flag("CHILD_FG", 'N');
-    case 48:
-        return kAttending + QStringLiteral("AND ") + flag("CHILD_FG", 'Y');
-    case 999:
-        return kAttending + QStringLiteral("AND CONTACT.MEAL_ID Is Null ") + x;
-    default:
+    const clsFilterRow* row = clsFilterTable::Contact(filter);
+    if (row == nullptr)
         return {};
+    using Couple = clsFilterRow::Couple;
+    const QString condition = QLatin1String(row->Condition);
+    switch (row->BrideGroom) {
+    case Couple::Counted: return condition;
+    case Couple::AsAsked: return condition + ExcludeBrideGroomClause(excludeBrideGroom);
+    case Couple::LeftOut: return condition + ExcludeBrideGroomClause(true);
     }
+    return condition;
 }
 
 QString clsCONTACT::BuildContactWhere(int filter, const QString& customWhere, bool excludeBrideGroom) {
@@ -370,33 +275,16 @@ QString clsCONTACT::BuildContactOrder(int filter, const QString& sort) {
     if (!sort.trimmed().isEmpty())
         return QStringLiteral(" ORDER BY ") + sort;
     const QString byName = QStringLiteral("CONTACT.LAST_NM COLLATE NOCASE, CONTACT.FIRST_NM COLLATE NOCASE");
-    if (filter == 21)
+    if (filter == ContactFilter::Seated)
         return QStringLiteral(" ORDER BY DINING_TABLE.DINING_TABLE_NB, INVITE.INVITE_RSVP_ID, ") + byName;
-    if (filter == 33)
+    if (filter == ContactFilter::AttendingWithFlight)
         return QStringLiteral(" ORDER BY FLIGHT.ARRIVES_DT, INVITE.INVITE_RSVP_ID, ") + byName;
     return QStringLiteral(" ORDER BY ") + byName + QStringLiteral(", CONTACT.MIDDLE_NM COLLATE NOCASE");
 }
 
 QString clsCONTACT::ContactJoinType(int filter) {
-    switch (filter) {
-    case 6:
-    case 9:
-    case 10:
-    case 11:
-    case 12:
-    case 13:
-    case 20:
-    case 26:
-    case 27:
-    case 36:
-    case 39:
-    case 40:
-    case 45:
-    case 46:
-        return QStringLiteral("INNER JOIN");
-    default:
-        return QStringLiteral("LEFT JOIN");
-    }
+    const clsFilterRow* row = clsFilterTable::Contact(filter);
+    return row != nullptr && row->NeedsSentInvitation ? QStringLiteral("INNER JOIN") : QStringLiteral("LEFT JOIN");
 }
 
 // ---- Records --------------------------------------------------------------------------------------

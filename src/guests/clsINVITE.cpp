@@ -3,6 +3,7 @@
 #include "core/clsApp.h"
 #include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
+#include "guests/clsFilterTable.h"
 
 #include <initializer_list>
 
@@ -124,64 +125,11 @@ QString clsINVITE::OUTER_ENVELOPE_TX_AND_OUTER_ENVELOPE_ADDRESS_TX(bool MultiLin
 // ---- Filters --------------------------------------------------------------------------------------
 
 QString clsINVITE::WHERE_CLAUSE(int filter) {
-    const QString sent = QStringLiteral("INVITE.INVITE_SENT_FG = 'Y' ");
-    QString text;
-    switch (filter) {
-    case 0:
-        return kPrimary;
-    case 1:
-        text = QStringLiteral("INVITE.INVITE_SENT_FG = 'Y'");
-        break;
-    case 2:
-        text = QStringLiteral("INVITE.INVITE_SENT_FG = 'N'");
-        break;
-    case 3:
-        text = QStringLiteral("INVITE.RSVP_RECEIVED_FG = 'Y' AND INVITE.INVITE_SENT_FG = 'Y'");
-        break;
-    case 4:
-        text = QStringLiteral("INVITE.RSVP_RECEIVED_FG = 'N' AND INVITE.INVITE_SENT_FG = 'Y'");
-        break;
-    case 5:
-    case 6:
-    case 7:
-        text = QStringLiteral("CONTACT.FRIEND_OF_CD = ") + QString::number(filter - 4);
-        break;
-    case 8:
-        text = QStringLiteral("CONTACT.ADDRESS_TX Is Null");
-        break;
-    case 9:
-        text = QStringLiteral("CONTACT.OUT_OF_TOWNER_FG = 'N'");
-        break;
-    case 10:
-        text = QStringLiteral("CONTACT.OUT_OF_TOWNER_FG = 'Y'");
-        break;
-    case 11:
-    case 12:
-    case 13:
-        text = sent + QStringLiteral("AND CONTACT.FRIEND_OF_CD = ") + QString::number(filter - 10);
-        break;
-    case 14:
-        text = sent + QStringLiteral("AND CONTACT.OUT_OF_TOWNER_FG = 'N'");
-        break;
-    case 15:
-        text = sent + QStringLiteral("AND CONTACT.OUT_OF_TOWNER_FG = 'Y'");
-        break;
-    case 16:
-        text = QStringLiteral("CONTACT.AB_LIST_CD = 'A'");
-        break;
-    case 17:
-        text = QStringLiteral("CONTACT.AB_LIST_CD = 'B'");
-        break;
-    case 18:
-        text = sent + QStringLiteral("AND CONTACT.AB_LIST_CD = 'A'");
-        break;
-    case 19:
-        text = sent + QStringLiteral("AND CONTACT.AB_LIST_CD = 'B'");
-        break;
-    default:
+    const clsFilterRow* row = clsFilterTable::Invitation(filter);
+    if (row == nullptr)
         return {};
-    }
-    return kPrimary + QStringLiteral(" AND ") + text;
+    const QString condition = QLatin1String(row->Condition);
+    return condition.isEmpty() ? kPrimary : kPrimary + QStringLiteral(" AND ") + condition;
 }
 
 QString clsINVITE::BuildInviteWhere(int filter, const QString& customWhere) {

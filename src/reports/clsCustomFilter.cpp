@@ -1,6 +1,7 @@
 #include "reports/clsCustomFilter.h"
 
 #include "guests/clsCONTACT.h"
+#include "guests/clsFilterTable.h"
 #include "guests/clsINVITE.h"
 #include "reports/clsReportCatalogue.h"
 
@@ -10,42 +11,60 @@ namespace {
 
 using Group = clsCustomFilter::Group;
 
-Group Boxes(std::initializer_list<std::pair<const char*, int>> boxes)
+// A box with the catalogue's caption of its code, or with a caption of its own.
+struct BoxOf {
+    int Code;
+    const char* Caption = nullptr;
+};
+
+Group BoxesOf(QString (*captionOf)(int), std::initializer_list<BoxOf> boxes)
 {
     Group group;
-    for (const auto& [caption, key] : boxes)
-        group.Boxes.append({QString::fromUtf8(caption), key});
+    for (const BoxOf& box : boxes)
+        group.Boxes.append({box.Caption ? QString::fromLatin1(box.Caption) : captionOf(box.Code), box.Code});
     return group;
+}
+
+Group ContactBoxes(std::initializer_list<BoxOf> boxes)
+{
+    return BoxesOf(&clsFilterTable::ContactCaption, boxes);
+}
+
+Group InvitationBoxes(std::initializer_list<BoxOf> boxes)
+{
+    return BoxesOf(&clsFilterTable::InvitationCaption, boxes);
 }
 
 QList<Group> GroupsOf(int form)
 {
+    using C = ContactFilter::Code;
+    using I = InviteFilter::Code;
     switch (form) {
     case clsCustomFilter::Contacts:
-        return {Boxes({{"Friend of Bride", 1}, {"Friend of Groom", 2}, {"Friend of Both", 3}}),
-                Boxes({{"A list", 4}, {"B list", 5}}),
-                Boxes({{"Invited", 6}, {"Not Yet Invited", 7}}),
-                Boxes({{"Male", 37}, {"Female", 38}}),
-                Boxes({{"Adult", 43}, {"Child", 44}}),
-                Boxes({{"Local", 24}, {"Out of Towner", 25}}),
-                Boxes({{"No Address", 8}})};
+        return {ContactBoxes({{C::FriendOfBride}, {C::FriendOfGroom}, {C::FriendOfBoth}}),
+                ContactBoxes({{C::AList, "A list"}, {C::BList, "B list"}}),
+                ContactBoxes({{C::Invited}, {C::NotYetInvited}}),
+                ContactBoxes({{C::Male}, {C::Female}}),
+                ContactBoxes({{C::Adult}, {C::Child}}),
+                ContactBoxes({{C::Local}, {C::OutOfTowner}}),
+                ContactBoxes({{C::NoAddress}})};
     case clsCustomFilter::Invitations:
-        return {Boxes({{"Sent", 1}, {"Unsent", 2}}),
-                Boxes({{"Friend of Bride", 5}, {"Friend of Groom", 6}, {"Friend of Both", 7}}),
-                Boxes({{"A list", 16}, {"B list", 17}}),
-                Boxes({{"Local", 9}, {"Out of Towner", 10}})};
+        return {InvitationBoxes({{I::Sent}, {I::Unsent}}),
+                InvitationBoxes({{I::FriendOfBride}, {I::FriendOfGroom}, {I::FriendOfBoth}}),
+                InvitationBoxes({{I::AList, "A list"}, {I::BList, "B list"}}),
+                InvitationBoxes({{I::Local}, {I::OutOfTowner}})};
     case clsCustomFilter::RSVPs:
-        return {Boxes({{"Received", 3}, {"No Reply", 4}}),
-                Boxes({{"Friend of Bride", 11}, {"Friend of Groom", 12}, {"Friend of Both", 13}}),
-                Boxes({{"A list", 18}, {"B list", 19}}),
-                Boxes({{"Local", 14}, {"Out of Towner", 15}})};
+        return {InvitationBoxes({{I::Received}, {I::NoReply}}),
+                InvitationBoxes({{I::SentFriendOfBride}, {I::SentFriendOfGroom}, {I::SentFriendOfBoth}}),
+                InvitationBoxes({{I::SentAList, "A list"}, {I::SentBList, "B list"}}),
+                InvitationBoxes({{I::SentLocal}, {I::SentOutOfTowner}})};
     case clsCustomFilter::Attendees:
-        return {Boxes({{"Friend of Bride", 15}, {"Friend of Groom", 16}, {"Friend of Both", 17}}),
-                Boxes({{"A list", 18}, {"B list", 19}}),
-                Boxes({{"Male", 41}, {"Female", 42}}),
-                Boxes({{"Adult", 47}, {"Child", 48}}),
-                Boxes({{"Local", 28}, {"Out of Towner", 29}}),
-                Boxes({{"Seated", 21}, {"To be seated", 22}})};
+        return {ContactBoxes({{C::AttendingFriendOfBride}, {C::AttendingFriendOfGroom}, {C::AttendingFriendOfBoth}}),
+                ContactBoxes({{C::AttendingAList, "A list"}, {C::AttendingBList, "B list"}}),
+                ContactBoxes({{C::AttendingMale}, {C::AttendingFemale}}),
+                ContactBoxes({{C::AttendingAdult}, {C::AttendingChild}}),
+                ContactBoxes({{C::AttendingLocal}, {C::AttendingOutOfTowner}}),
+                ContactBoxes({{C::Seated}, {C::ToBeSeated}})};
     default:
         return {};
     }
@@ -98,9 +117,9 @@ QString clsCustomFilter::BuildWhere() const
             groups.append(QLatin1Char('(') + alternatives.join(QStringLiteral(" OR ")) + QLatin1Char(')'));
     }
     if (groups.isEmpty() && mFormNumber == RSVPs)
-        return clsINVITE::WHERE_CLAUSE(1);
+        return clsINVITE::WHERE_CLAUSE(InviteFilter::Sent);
     if (groups.isEmpty() && mFormNumber == Attendees)
-        return clsCONTACT::WHERE_CLAUSE(14, false);
+        return clsCONTACT::WHERE_CLAUSE(ContactFilter::Attending, false);
     return groups.join(QStringLiteral(" AND "));
 }
 

@@ -4,6 +4,7 @@
 #include "core/clsApp.h"
 #include "core/modGeneral.h"
 #include "guests/clsCONTACT.h"
+#include "guests/clsFilterTable.h"
 #include "planning/clsEVENT.h"
 #include "reports/clsRTFMasterTemp.h"
 #include "reports/clsReportClasses.h"
@@ -56,60 +57,60 @@ private:
     }
 };
 
-// Caption and key of the rows that several sections share.
-struct Fixed {
-    const char* Caption;
-    int Key;
-};
+// The guest sections list filter codes: each row's caption comes from the code's table, its count from
+// the totals with that code.
+void ContactCodeRows(RowList& list, std::initializer_list<int> codes, bool excludeBrideGroom) {
+    for (const int code : codes)
+        list.Sub(clsFilterTable::ContactCaption(code), code,
+                 Count(gApp().TotalContacts(code, QString(), excludeBrideGroom)));
+}
+
+void InvitationCodeRows(RowList& list, std::initializer_list<int> codes) {
+    for (const int code : codes)
+        list.Sub(clsFilterTable::InvitationCaption(code), code, Count(gApp().TotalInvitations(code)));
+}
 
 void ContactRows(RowList& list) {
+    using F = ContactFilter::Code;
     const bool exclude = true;
-    list.Head(QStringLiteral("All Contacts"), 0, Count(gApp().TotalContacts(0, QString(), exclude)));
-    static const Fixed rows[] = {{"Friend of Bride", 1}, {"Friend of Groom", 2}, {"Friend of Both", 3},
-                                 {"A-list", 4},          {"B-list", 5},          {"Invited", 6},
-                                 {"Not Yet Invited", 7}, {"Male", 37},           {"Female", 38},
-                                 {"Adult", 43},          {"Child", 44},          {"Local", 24},
-                                 {"Out of Towner", 25},  {"No Address", 8},      {"No E-mail Address", 30},
-                                 {"No Phone Number", 31}};
-    for (const Fixed& row : rows)
-        list.Sub(QString::fromLatin1(row.Caption), row.Key,
-                 Count(gApp().TotalContacts(row.Key, QString(), exclude)));
+    list.Head(clsFilterTable::ContactCaption(F::AllContacts), F::AllContacts,
+              Count(gApp().TotalContacts(F::AllContacts, QString(), exclude)));
+    ContactCodeRows(list,
+                    {F::FriendOfBride, F::FriendOfGroom, F::FriendOfBoth, F::AList, F::BList, F::Invited,
+                     F::NotYetInvited, F::Male, F::Female, F::Adult, F::Child, F::Local, F::OutOfTowner,
+                     F::NoAddress, F::NoEmail, F::NoPhone},
+                    exclude);
     list.CustomFilter();
 }
 
 void InvitationRows(RowList& list) {
-    list.Head(QStringLiteral("All Invitations"), 0, Count(gApp().TotalInvitations(0)));
-    static const Fixed rows[] = {
-        {"Sent", 1},    {"Unsent", 2},  {"Friend of Bride", 5}, {"Friend of Groom", 6}, {"Friend of Both", 7},
-        {"A-list", 16}, {"B-list", 17}, {"Local", 9},           {"Out of Towner", 10},  {"No Address", 8}};
-    for (const Fixed& row : rows)
-        list.Sub(QString::fromLatin1(row.Caption), row.Key, Count(gApp().TotalInvitations(row.Key)));
+    using F = InviteFilter::Code;
+    list.Head(clsFilterTable::InvitationCaption(F::AllInvitations), F::AllInvitations,
+              Count(gApp().TotalInvitations(F::AllInvitations)));
+    InvitationCodeRows(list, {F::Sent, F::Unsent, F::FriendOfBride, F::FriendOfGroom, F::FriendOfBoth, F::AList,
+                              F::BList, F::Local, F::OutOfTowner, F::NoAddress});
     list.CustomFilter();
 }
 
 void RsvpRows(RowList& list) {
-    list.Head(QStringLiteral("All RSVPs"), 1, Count(gApp().TotalInvitations(1)));
-    static const Fixed rows[] = {{"Received", 3},         {"No Reply", 4},        {"Friend of Bride", 11},
-                                 {"Friend of Groom", 12}, {"Friend of Both", 13}, {"A-list", 18},
-                                 {"B-list", 19},          {"Local", 14},          {"Out of Towner", 15}};
-    for (const Fixed& row : rows)
-        list.Sub(QString::fromLatin1(row.Caption), row.Key, Count(gApp().TotalInvitations(row.Key)));
+    using F = InviteFilter::Code;
+    list.Head(QStringLiteral("All RSVPs"), F::Sent, Count(gApp().TotalInvitations(F::Sent)));
+    InvitationCodeRows(list, {F::Received, F::NoReply, F::SentFriendOfBride, F::SentFriendOfGroom,
+                              F::SentFriendOfBoth, F::SentAList, F::SentBList, F::SentLocal, F::SentOutOfTowner});
     list.CustomFilter();
 }
 
 void AttendeeRows(RowList& list) {
-    const QString all = Count(gApp().TotalContacts(14, QString(), false));
-    list.Head(QStringLiteral("All Attendees"), 14, all);
-    static const Fixed rows[] = {{"Friend of Bride", 15}, {"Friend of Groom", 16}, {"Friend of Both", 17},
-                                 {"A-list", 18},          {"B-list", 19},          {"Male", 41},
-                                 {"Female", 42},          {"Adult", 47},           {"Child", 48},
-                                 {"Local", 28},           {"Out of Towner", 29},   {"Seated", 21},
-                                 {"To be seated", 22}};
-    for (const Fixed& row : rows)
-        list.Sub(QString::fromLatin1(row.Caption), row.Key,
-                 Count(gApp().TotalContacts(row.Key, QString(), false)));
+    using F = ContactFilter::Code;
+    const QString all = Count(gApp().TotalContacts(F::Attending, QString(), false));
+    list.Head(clsFilterTable::ContactCaption(F::Attending), F::Attending, all);
+    ContactCodeRows(list,
+                    {F::AttendingFriendOfBride, F::AttendingFriendOfGroom, F::AttendingFriendOfBoth,
+                     F::AttendingAList, F::AttendingBList, F::AttendingMale, F::AttendingFemale, F::AttendingAdult,
+                     F::AttendingChild, F::AttendingLocal, F::AttendingOutOfTowner, F::Seated, F::ToBeSeated},
+                    false);
     list.Head(QStringLiteral("Meals"), 98, Count(gApp().TotalSettings(1)), QStringLiteral("For Caterer"));
-    list.Head(QStringLiteral("Roles"), 99, Count(gApp().TotalContacts(23, QString(), true)),
+    list.Head(QStringLiteral("Roles"), 99, Count(gApp().TotalContacts(F::WithRole, QString(), true)),
               QStringLiteral("For DJ"));
     list.Head(QStringLiteral("Tabula Rasa"), 100, all, QStringLiteral("CSV Export file for Tabula Rasa"));
     list.CustomFilter();
@@ -193,7 +194,7 @@ void BuildRows(int sectionKey, RowList& list) {
         AttendeeRows(list);
         break;
     case C::Tables:
-        list.Plain(QStringLiteral("Seating Chart"), 1, Count(gApp().TotalContacts(21)),
+        list.Plain(QStringLiteral("Seating Chart"), 1, Count(gApp().TotalContacts(ContactFilter::Seated)),
                    QStringLiteral("All Seated Attendees per Table"));
         list.Plain(QStringLiteral("Table Overview"), 2,
                    Count(gApp().TotalTables(clsDINING_TABLE::TotalTables)));

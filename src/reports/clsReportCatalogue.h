@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/FilterCode.h"
 #include "reports/clsRTFMasterTemp.h"
 #include "reports/clsReportRoute.h"
 
@@ -36,8 +37,8 @@ public:
     // The filter key of the custom filter, and the filter codes the custom filter hands the record
     // classes with its own condition: 1000 for contacts and attendees, 20 for invitations and RSVPs.
     static constexpr int CustomFilterKey = 99999;
-    static constexpr int CustomWhereContacts = 1000;
-    static constexpr int CustomWhereInvitations = 20;
+    static constexpr int CustomWhereContacts = ContactFilter::Custom;
+    static constexpr int CustomWhereInvitations = InviteFilter::Custom;
     static constexpr int CustomFilterIcon = 21;
 
     class Section {

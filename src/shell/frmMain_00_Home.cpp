@@ -1,5 +1,6 @@
 #include "shell/frmMain_00_Home.h"
 
+#include "core/FilterCode.h"
 #include "core/clsApp.h"
 #include "core/modGeneral.h"
 #include "guests/clsCONTACT.h"
@@ -241,13 +242,15 @@ void frmMain_00_Home::SetCard(int index, const QString& main, const QString& sub
 
 void frmMain_00_Home::FillCounts() {
     const clsApp& app = gApp();
-    SetCard(1, QString::number(app.TotalContacts(0, QString(), true)) + QStringLiteral(" contacts"),
-            QString::number(app.TotalContacts(6)) + QStringLiteral(" invited"));
-    SetCard(2, QString::number(app.TotalInvitations(1)) + QStringLiteral(" sent"),
-            QString::number(app.TotalInvitations(2)) + QStringLiteral(" unsent"));
-    SetCard(3, QString::number(app.TotalInvitations(3)) + QStringLiteral(" received"),
-            QString::number(app.TotalInvitations(4)) + QStringLiteral(" no reply"));
-    const long coming = app.TotalContacts(14);
+    SetCard(1,
+            QString::number(app.TotalContacts(ContactFilter::AllContacts, QString(), true)) +
+                QStringLiteral(" contacts"),
+            QString::number(app.TotalContacts(ContactFilter::Invited)) + QStringLiteral(" invited"));
+    SetCard(2, QString::number(app.TotalInvitations(InviteFilter::Sent)) + QStringLiteral(" sent"),
+            QString::number(app.TotalInvitations(InviteFilter::Unsent)) + QStringLiteral(" unsent"));
+    SetCard(3, QString::number(app.TotalInvitations(InviteFilter::Received)) + QStringLiteral(" received"),
+            QString::number(app.TotalInvitations(InviteFilter::NoReply)) + QStringLiteral(" no reply"));
+    const long coming = app.TotalContacts(ContactFilter::Attending);
     SetCard(4, QString::number(coming) + QStringLiteral(" contacts ") + (coming == 1 ? QStringLiteral("is") : QStringLiteral("are")) +
                    QStringLiteral(" coming"),
             QString());

@@ -9,6 +9,7 @@
 #include "platform/clsShell.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/frmMain_00_Welcome.h"
+#include "shell/options/frmOptions.h"
 #include "shell/options/modBrideGroomIcons.h"
 #include "shell/modFormPlace.h"
 #include "shell/modHelp.h"
@@ -168,6 +169,15 @@ mdiMain::mdiMain(QWidget* parent) : QMainWindow(parent) {
     timer->setObjectName(QStringLiteral("timer"));
     timer->setInterval(1000);
     connect(timer, &QTimer::timeout, this, &mdiMain::OnTimer);
+    // A restored database is shown afresh, once the dialog that restored it has closed.
+    connect(&gOptionsEvents(), &OptionsEvents::DatabaseRestored, this, [this] {
+        QTimer::singleShot(0, this, [this] {
+            UpdateWeddingCaption();
+            UpdateCountdown();
+            mShownStoredPage = false;
+            ShowPage(gApp().ShowForm());
+        });
+    });
     Load();
     timer->start();
 }

@@ -128,6 +128,7 @@ void Clear() {
 #include "shell/grid/usrGrid.h"
 #include "shell/mdiMain.h"
 #include "shell/modScreenshots.h"
+#include "shell/options/frmBackup.h"
 #include "shell/options/frmOptions.h"
 
 #include <QDialog>
@@ -146,6 +147,7 @@ void modPages::RegisterKnownScreens() {
     modScreenshots::Register(QStringLiteral("frmFeatureTour"), []() -> QWidget* { return new frmFeatureTour; });
     modScreenshots::Register(QStringLiteral("frmForums"), []() -> QWidget* { return new frmForums; });
     modScreenshots::Register(QStringLiteral("frmScreenResolution"), []() -> QWidget* { return new frmScreenResolution; });
+    modScreenshots::Register(QStringLiteral("frmBackup"), []() -> QWidget* { return new frmBackup; });
     // The columns of the guest list; the page goes with the dialog.
     modScreenshots::Register(QStringLiteral("frmCustomizeColumns"), []() -> QWidget* {
         QWidget* page = CreatePage(1, nullptr);

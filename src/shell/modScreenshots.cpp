@@ -1,6 +1,8 @@
 #include "shell/modScreenshots.h"
 
 #include "core/ShowMessage.h"
+#include "core/clsDB.h"
+#include "core/modBackup.h"
 #include "core/modDemoWedding.h"
 #include "core/modGeneral.h"
 #include "core/modSubMain.h"
@@ -152,6 +154,7 @@ int Run(const QString& folder, QString* message) {
         return saved;
     }
     saved += Pages(folder);
+    modBackup::WriteRolling(gDB().Connection()); // so that the backup dialog lists a copy
     saved += Registered(folder);
     SetNowForTesting(QDateTime());
     const QStringList shown = messages->Prompts;

@@ -176,7 +176,10 @@ void usrListPage::BuildLayout() {
         if (row && !row->IsGroup && row->ItemData != 0)
             Activate(row->ItemData);
     });
-    connect(mGrid->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { UpdateActions(); });
+    connect(mGrid->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        UpdateCountedActions();
+        UpdateActions();
+    });
     AddShortcut(QKeySequence::Find, [this] { mSearch->SetFocusEx(); });
     AddShortcut(QKeySequence(Qt::Key_F5), [this] { Reload(); });
 }
@@ -310,6 +313,78 @@ QString usrListPage::CountedCaption(const QString& caption, int count) {
     return count > 1 ? caption + QStringLiteral("s (") + QString::number(count) + QLatin1Char(')') : caption;
 }
 
+void usrListPage::CountSelectionIn(int actionIndex) {
+    mCountedCaptions.insert(actionIndex, ActionLink(actionIndex)->Caption());
+}
+
+void usrListPage::UpdateCountedActions() {
+    const int count = static_cast<int>(SelectedKeys().size());
+    for (auto action = mCountedCaptions.cbegin(); action != mCountedCaptions.cend(); ++action) {
+        usrHyperlink* link = ActionLink(action.key());
+        link->setEnabled(count > 0);
+        link->setCaption(CountedCaption(action.value(), count));
+    }
+}
+
+void usrListPage::SetRowMenu(QMenu* menu) {
+    mRowMenu = menu;
+    if (mGrid->contextMenuPolicy() == Qt::CustomContextMenu)
+        return;
+    mGrid->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(mGrid, &QWidget::customContextMenuRequested, this, &usrListPage::ShowMenuAt);
+}
+
+void usrListPage::ShowMenuAt(const QPoint& gridPosition) {
+    const QModelIndex index = mGrid->indexAt(gridPosition);
+    if (index.data(GridRole::IsGroup).toBool()) {
+        BuildGroupMenu();
+        mGroupMenu->popup(mGrid->viewport()->mapToGlobal(gridPosition));
+    } else if (mRowMenu != nullptr) {
+        PopupMenu(mRowMenu, gridPosition);
+    }
+}
+
+void usrListPage::BuildGroupMenu() {
+    if (mGroupMenu != nullptr)
+        return;
+    mGroupMenu = new QMenu(this);
+    mGroupMenu->setObjectName(QStringLiteral("mnuHiddenGroup"));
+    mGroupMenu->addAction(QStringLiteral("&Collapse all groups"), this, [this] { GridSetAllGroups(mGrid, false, GroupKey()); })
+        ->setObjectName(QStringLiteral("mnuCollapseAll"));
+    mGroupMenu->addAction(QStringLiteral("&Expand all groups"), this, [this] { GridSetAllGroups(mGrid, true, GroupKey()); })
+        ->setObjectName(QStringLiteral("mnuExpandAll"));
+}
+
+void usrListPage::ShowNotesAsRowText(QMenu* menu) {
+    const bool shown = gApp().ShowNotes();
+    mGrid->SetRowTextVisible(shown);
+    QAction* notes = menu->addAction(shown ? QStringLiteral("Hide notes") : QStringLiteral("Show notes"), this,
+                                     &usrListPage::ToggleNotes);
+    notes->setObjectName(QStringLiteral("mnuNotes"));
+}
+
+void usrListPage::ToggleNotes() {
+    const bool shown = !gApp().ShowNotes();
+    gApp().SetShowNotes(shown);
+    mGrid->SetRowTextVisible(shown);
+    if (auto* notes = findChild<QAction*>(QStringLiteral("mnuNotes")))
+        notes->setText(shown ? QStringLiteral("Hide notes") : QStringLiteral("Show notes"));
+    Reload();
+}
+
+void usrListPage::ResetStoredStateOnce() {
+    clsRegistryStore& store = gRegistry();
+    const QString marker = QStringLiteral("RESET_COMPLETE");
+    if (store.GetSetting(SettingsKey(), marker, QStringLiteral("0")) != QLatin1String("0"))
+        return;
+    store.SaveSetting(SettingsKey(), QStringLiteral("FilterIndex"), QStringLiteral("0"));
+    store.SaveSetting(SettingsKey(), QStringLiteral("LastKey"), QStringLiteral("0"));
+    mFilter = mEntries.isEmpty() ? 0 : mEntries.first().Id;
+    mGrid->SetColumns(mGrid->Model()->Columns());
+    GridLayout(mGrid, false);
+    store.SaveSetting(SettingsKey(), marker, QStringLiteral("1"));
+}
+
 void usrListPage::AddActionItems(QMenu* menu, const QList<int>& actions) {
     for (int action : actions) {
         QAction* item = menu->addAction(ActionLink(action)->Caption(), this, [this, action] {
@@ -393,7 +468,8 @@ void usrListPage::Load() {
     }
     mLoaded = true;
     picLoading->hide();
-    mGrid->ApplyGroupState();
+    if (mGrid->Model()->HasGroups())
+        GridRestoreGroups(mGrid, GroupKey());
     ApplySearch(mSearch->Text());
     if (lastKey != 0 && RowOfKey(lastKey).isValid())
         GridSelectByKey(mGrid, lastKey);
@@ -411,8 +487,13 @@ void usrListPage::ApplySearch(const QString& text) {
     UpdateEmptyState();
 }
 
+void usrListPage::SetRecordNoun(const QString& noun, const QString& plural) {
+    mNoun = noun;
+    mPlural = plural.isEmpty() ? noun + QLatin1Char('s') : plural;
+}
+
 void usrListPage::UpdateCountLabels() {
-    lblCount->setText(QStringLiteral("%1 of %2 %3").arg(mShown).arg(mTotal).arg(mNoun));
+    lblCount->setText(QStringLiteral("%1 of %2 %3").arg(mShown).arg(mTotal).arg(mTotal == 1 ? mNoun : mPlural));
 }
 
 void usrListPage::UpdateEmptyState() {
@@ -438,6 +519,7 @@ void usrListPage::RefreshPanel() {
         if (auto* link = findChild<usrHyperlink*>(QStringLiteral("linkFilter_%1").arg(entry.Id)))
             link->setFontBold(entry.Id == mFilter);
     }
+    UpdateCountedActions();
     UpdateActions();
 }
 

@@ -2,6 +2,7 @@
 
 #include "shell/grid/usrGrid.h"
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QWidget>
@@ -71,8 +72,9 @@ signals:
 protected:
     // ---- What the page sets up in its constructor ----
     void SetFilterEntries(const QList<FilterEntry>& entries);
-    // The word behind the count: "contacts".
-    void SetRecordNoun(const QString& noun) { mNoun = noun; }
+    // The word behind the count: "1 of 1 gift", "2 of 5 gifts"; the plural is the noun and an "s" unless
+    // told ("entry", "entries").
+    void SetRecordNoun(const QString& noun, const QString& plural = QString());
     // What an empty list says, and what it says when a filter or search finds nothing.
     void SetEmptyText(const QString& emptyList, const QString& emptyFilter);
     void SetColumns(const QList<clsGridColumn>& columns);
@@ -84,6 +86,18 @@ protected:
     usrHyperlink* AddCustomizeColumnsAction(int index);
     // "Delete contact", or "Delete contacts (3)" for several.
     static QString CountedCaption(const QString& caption, int count);
+    // An action that works on the selection: enabled with one row or more, its caption counting them
+    // ("Delete gift", "Delete gifts (3)"). The page's UpdateActions runs after and may say more.
+    void CountSelectionIn(int actionIndex);
+    // The menu of a right click on a record row; a right click on a group row opens the group menu
+    // ("mnuHiddenGroup": "&Collapse all groups", "&Expand all groups").
+    void SetRowMenu(QMenu* menu);
+    // Shows each record's notes as a line under its row while the page's ShowNotes setting is on, and
+    // adds "mnuNotes" to the menu, which turns them on and off.
+    void ShowNotesAsRowText(QMenu* menu);
+    // The page's stored state (filter, last record, columns) is set back once, the first time the page
+    // is shown; the value RESET_COMPLETE marks that it was.
+    void ResetStoredStateOnce();
     // Repeats these actions in a context menu ("mnuAction_<index>"); PopupMenu gives them the captions
     // and enabling of their links.
     void AddActionItems(QMenu* menu, const QList<int>& actions);
@@ -124,6 +138,9 @@ protected:
     // Writes the grid's layout and the last key to the settings; pages call it when they are left.
     void SaveState();
 
+    // Opening and closing groups is stored below the page's key by the group's text.
+    QString GroupKey() const { return SettingsKey(); }
+
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
@@ -134,6 +151,10 @@ private:
     void Load();
     void ApplySearch(const QString& text);
     void UpdateCountLabels();
+    void UpdateCountedActions();
+    void ShowMenuAt(const QPoint& gridPosition);
+    void BuildGroupMenu();
+    void ToggleNotes();
     void UpdateEmptyState();
     QString SettingsKey() const;
 
@@ -150,7 +171,11 @@ private:
     QLayout* mActionLayout = nullptr;
     QList<FilterEntry> mEntries;
     QList<usrHyperlink*> mActions;
+    QHash<int, QString> mCountedCaptions;
+    QMenu* mRowMenu = nullptr;
+    QMenu* mGroupMenu = nullptr;
     QString mNoun;
+    QString mPlural;
     QString mEmptyList;
     QString mEmptyFilter;
     int mFilter = 0;

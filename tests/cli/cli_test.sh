@@ -84,6 +84,59 @@ for name in files:
 print(len(files), "files read")' "$home"
 fi
 
+# Backups: a copy is written and listed, and a restore puts it back into the live database.
+check "backup writes a copy" 0 "^$home/Database/Backups/Vowren_[0-9_-]+\.quilldata$" "$cli" backup
+copy=$(ls -t "$home"/Database/Backups/Vowren_*.quilldata | head -1)
+check "the copy is the owner's only" 0 '^600$' stat -c '%a' "$copy"
+check "backup --list names the copy" 0 "^\"$copy\",\"[0-9: -]+\",\"[0-9]+\",\"2\",\"0\"" "$cli" backup --list
+check "backup rejects other arguments" 2 'takes no arguments but --list' "$cli" backup --now
+if command -v python3 >/dev/null; then
+    py_sql() { python3 -c 'import sqlite3, sys
+c = sqlite3.connect(sys.argv[1])
+rows = c.execute(sys.argv[2]).fetchall()
+c.commit()
+print("\n".join("|".join(str(v) for v in r) for r in rows))' "$@"; }
+    py_sql "$home/Database/Vowren.quilldata" "UPDATE CONTACT SET FIRST_NM = 'Changed' WHERE CONTACT_ID = 1" >/dev/null
+    check "restore puts the copy back" 0 "^Restored $copy; the database as it was before is at $home/Database/Backups/Vowren_before-restore_" "$cli" restore "$copy"
+    check "the restored database is whole" 0 '^ok$' py_sql "$home/Database/Vowren.quilldata" "PRAGMA integrity_check"
+    check "the change is undone" 0 '^None$' py_sql "$home/Database/Vowren.quilldata" "SELECT FIRST_NM FROM CONTACT WHERE CONTACT_ID = 1"
+    printf 'Dear guests,\nthis is a letter, not a database.\n%.0s' $(seq 100) >"$home/letter.quilldata"
+    check "restore refuses a letter" 1 'damaged or is not a Vowren database' "$cli" restore "$home/letter.quilldata"
+    py_sql "$home/Database/Vowren.quilldata" "UPDATE CONTACT SET ATTENDING_FG = 'N' WHERE CONTACT_ID = 1" >/dev/null
+    check "sql reads without writing" 0 '^"N"' "$cli" sql "SELECT ATTENDING_FG FROM CONTACT WHERE CONTACT_ID = 1"
+    check "sql refuses a pragma" 1 'not run' "$cli" sql "PRAGMA user_version=99"
+
+    # A demo wedding killed at any moment leaves a whole file with all of the demo or none of it, and
+    # the next start takes over the dead program's lock.
+    for delay in 0.3 1.5 4; do
+        k="$home/killed-$delay"
+        mkdir -p "$k"
+        VOWREN_HOME="$k" "$cli" init >/dev/null
+        VOWREN_HOME="$k" "$cli" demo --guests 10000 >/dev/null 2>&1 &
+        demo=$!
+        sleep "$delay"
+        kill -9 "$demo" 2>/dev/null
+        wait "$demo" 2>/dev/null
+        check "killed after ${delay}s: the file is whole" 0 '^ok$' py_sql "$k/Database/Vowren.quilldata" "PRAGMA integrity_check"
+        check "killed after ${delay}s: every link holds" 0 '^$' py_sql "$k/Database/Vowren.quilldata" "PRAGMA foreign_key_check"
+        check "killed after ${delay}s: all or nothing" 0 '^(2|10002)$' py_sql "$k/Database/Vowren.quilldata" "SELECT COUNT(*) FROM CONTACT"
+        check "killed after ${delay}s: the next start goes on" 0 'Database ready' env VOWREN_HOME="$k" "$cli" init
+    done
+
+    # While one command changes the database, another that would change it is told the file is in use;
+    # one that only reads still runs.
+    busy="$home/busy"
+    mkdir -p "$busy"
+    VOWREN_HOME="$busy" "$cli" init >/dev/null
+    VOWREN_HOME="$busy" "$cli" demo --guests 30000 >/dev/null 2>&1 &
+    demo=$!
+    for _ in $(seq 50); do [ -e "$busy/Database/Vowren.quilldata.lock" ] && break; sleep 0.1; done
+    check "a second writer is told the file is in use" 1 'is in use by vowren-cli, process [0-9]+' env VOWREN_HOME="$busy" "$cli" init
+    check "a reader still runs" 0 '^"2"' env VOWREN_HOME="$busy" "$cli" sql "SELECT COUNT(*) FROM CONTACT WHERE CONTACT_ID <= 2"
+    kill -9 "$demo" 2>/dev/null
+    wait "$demo" 2>/dev/null
+fi
+
 check "relabel with a bad option" 2 'takes --formal, --personal or nothing' "$cli" relabel --fancy
 "$cli" demo --guests 12 --seed 3 >/dev/null
 check "relabel formal keeps the choice" 0 '^Relabelled [1-9][0-9]* invitations \(formal\)$' "$cli" relabel --formal

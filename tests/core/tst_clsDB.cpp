@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QtTest>
 #include <memory>
+#include <sqlite3.h>
 #include <unistd.h>
 
 // A throwaway record class over ROLE_DICT, to exercise the record pattern itself.
@@ -31,6 +32,17 @@ class tst_clsDB : public QObject {
             qFatal("cannot write %s", qPrintable(path));
         f.write(bytes);
         return path;
+    }
+
+    sqlite3* OtherConnection() const {
+        sqlite3* other = nullptr;
+        sqlite3_open(gDB().DatabasePath.toUtf8().constData(), &other);
+        return other;
+    }
+
+    static QByteArray Bytes(const QString& path) {
+        QFile f(path);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
     }
 
 private slots:
@@ -318,24 +330,97 @@ private slots:
         QCOMPARE(db->Scalar("PRAGMA foreign_keys"), QStringLiteral("1"));
     }
 
-    void readOnlyStatementsAreTold_data() {
-        QTest::addColumn<QString>("sql");
-        QTest::addColumn<bool>("readOnly");
-        QTest::newRow("select") << "SELECT * FROM CONTACT" << true;
-        QTest::newRow("with") << "WITH x AS (SELECT 1) SELECT * FROM x" << true;
-        QTest::newRow("delete") << "DELETE FROM CONTACT" << false;
-        QTest::newRow("update") << "UPDATE CONTACT SET FIRST_NM = 'x'" << false;
-        QTest::newRow("drop") << "DROP TABLE CONTACT" << false;
-        QTest::newRow("two statements") << "SELECT 1; DELETE FROM CONTACT" << false;
-        QTest::newRow("pragma that writes") << "PRAGMA journal_mode=WAL" << false;
-        QTest::newRow("attach") << "ATTACH DATABASE '/tmp/x.db' AS x" << false;
-        QTest::newRow("nonsense") << "SELEKT" << false;
+    void rebuildDropsOnlyTheColumnsItIsTold() {
+        db->Exec("ALTER TABLE HOTEL ADD COLUMN STARS_NB INTEGER");
+        db->Exec("INSERT INTO HOTEL (HOTEL_ID, HOTEL_NB, HOTEL_NM, ROOMS_NB, POS_X, POS_Y, STARS_NB) "
+                 "VALUES (1, 1, 'Inn', 5, 0, 0, 4)");
+        QVERIFY_THROWS_EXCEPTION(clsDbError, gDB().RebuildTable("HOTEL", modSchema::TableDDL("HOTEL")));
+        QCOMPARE(db->Scalar("SELECT STARS_NB FROM HOTEL"), QStringLiteral("4"));
+        QVERIFY(!gDB().InTransaction());
+        gDB().RebuildTable("HOTEL", modSchema::TableDDL("HOTEL"), {"STARS_NB"});
+        QVERIFY(!gDB().FieldExists("HOTEL", "STARS_NB"));
+        QCOMPARE(db->Scalar("SELECT HOTEL_NM FROM HOTEL"), QStringLiteral("Inn"));
     }
-    void readOnlyStatementsAreTold() {
-        QFETCH(QString, sql);
-        QFETCH(bool, readOnly);
-        QCOMPARE(gDB().IsReadOnlyStatement(sql), readOnly);
-        QCOMPARE(db->Scalar("SELECT COUNT(*) FROM CONTACT"), QStringLiteral("2"));
+
+    // Another program reading the file makes the commit fail: the change is undone, the connection is out
+    // of the transaction, and the next save reaches the file.
+    void aCommitThatFailsLeavesNoDeadTransaction() {
+        sqlite3* reader = OtherConnection();
+        sqlite3_exec(reader, "BEGIN; SELECT COUNT(*) FROM CONTACT;", nullptr, nullptr, nullptr);
+        gDB().SetBusyTimeout(50);
+        try {
+            clsTransaction tx(gDB());
+            db->Exec("UPDATE ROLE_DICT SET ROLE_TX = 'Lost' WHERE ROLE_ID = 1");
+            tx.Commit();
+            QFAIL("the commit went through while another program read the file");
+        } catch (const clsDbError& e) {
+            QVERIFY2(e.Message().contains("in use by another program"), qPrintable(e.Message()));
+        }
+        QVERIFY(!gDB().InTransaction());
+        sqlite3_exec(reader, "COMMIT", nullptr, nullptr, nullptr);
+        {
+            clsTransaction tx(gDB());
+            db->Exec("UPDATE ROLE_DICT SET ROLE_TX = 'Kept' WHERE ROLE_ID = 2");
+            tx.Commit();
+        }
+        sqlite3_close(reader);
+        gDB().CloseConnection();
+        QVERIFY(gDB().OpenConnection());
+        QCOMPARE(db->Scalar("SELECT group_concat(ROLE_TX) FROM (SELECT ROLE_TX FROM ROLE_DICT WHERE ROLE_ID <= 2 "
+                            "ORDER BY ROLE_ID)"),
+                 QStringLiteral("Bride,Kept"));
+    }
+
+    void aLockedFileIsInUseNotDamaged() {
+        sqlite3* holder = OtherConnection();
+        QCOMPARE(sqlite3_exec(holder, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+        clsDB other;
+        other.DatabasePath = gDB().DatabasePath;
+        other.SetBusyTimeout(50);
+        QVERIFY(!other.OpenConnection());
+        QVERIFY2(other.OpenError().contains("in use by another program"), qPrintable(other.OpenError()));
+        QVERIFY(!other.OpenError().contains("damaged"));
+        sqlite3_exec(holder, "ROLLBACK", nullptr, nullptr, nullptr);
+        sqlite3_close(holder);
+        QVERIFY(other.OpenConnection());
+    }
+
+    // Files that are not ours are refused untouched; a newer Vowren's file is read but never written.
+    void fileIdentity_data() {
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<bool>("opens");
+        QTest::addColumn<QString>("says");
+        QTest::newRow("another program's tables") << "CREATE TABLE photos (id INTEGER, path TEXT);" << false
+                                                  << "is not a Vowren database";
+        QTest::newRow("another program's id") << "PRAGMA application_id=1234; CREATE TABLE CONTACT (x);" << false
+                                              << "belongs to another program";
+        QTest::newRow("a newer Vowren") << QStringLiteral("PRAGMA user_version=%1;").arg(DbIdentity::kSchemaVersion + 1)
+                                        << true << "newer version of Vowren";
+    }
+    void fileIdentity() {
+        QFETCH(QString, script);
+        QFETCH(bool, opens);
+        QFETCH(QString, says);
+        const QString path = db->File("other.quilldata");
+        QFile::copy(gDB().DatabasePath, path);
+        if (!opens)
+            QFile(path).resize(0); // another program's file starts from nothing
+        sqlite3* raw = nullptr;
+        sqlite3_open(path.toUtf8().constData(), &raw);
+        QCOMPARE(sqlite3_exec(raw, script.toUtf8().constData(), nullptr, nullptr, nullptr), SQLITE_OK);
+        sqlite3_close(raw);
+        const QByteArray before = Bytes(path);
+        clsDB other;
+        other.DatabasePath = path;
+        QCOMPARE(other.OpenConnection(), opens);
+        const QString told = opens ? other.OpenNotice() : other.OpenError();
+        QVERIFY2(told.contains(says), qPrintable(told));
+        if (opens) {
+            QVERIFY(other.IsReadOnly());
+            QVERIFY_THROWS_EXCEPTION(clsDbError, other.Execute("UPDATE ROLE_DICT SET ROLE_TX = 'x'"));
+        }
+        other.CloseConnection();
+        QCOMPARE(Bytes(path), before);
     }
 
     void formatSQL() {

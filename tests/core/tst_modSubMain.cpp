@@ -2,11 +2,14 @@
 #include "core/clsApp.h"
 #include "core/clsDB.h"
 #include "core/clsVOWREN.h"
+#include "core/modDatabaseLock.h"
 #include "core/modSchema.h"
 #include "core/modSubMain.h"
+#include "guests/clsCONTACT.h"
 #include "planning/clsEVENT.h"
 
 #include <QFile>
+#include <QLockFile>
 #include <QtTest>
 #include <memory>
 
@@ -120,6 +123,7 @@ private slots:
     void init() { home = std::make_unique<TestHome>(); }
     void cleanup() {
         gDB().CloseConnection();
+        modDatabaseLock::Release();
         home.reset();
     }
 
@@ -267,7 +271,7 @@ private slots:
             "DROP TABLE NOTEBOOK; DROP TABLE TENTCARD;"
             "ALTER TABLE DINING_TABLE DROP COLUMN DINING_TABLE_TYPE_ID; ALTER TABLE VENDOR DROP COLUMN FILE_PATH_TX;"
             "DELETE FROM VOWREN WHERE VOWREN_ID >= 4;");
-        gDB().RebuildTable("CONTACT", FirstReleaseDDL("CONTACT", {"FLIGHT_ID", "HOTEL_ID"}));
+        gDB().RebuildTable("CONTACT", FirstReleaseDDL("CONTACT", {"FLIGHT_ID", "HOTEL_ID"}), {"FLIGHT_ID", "HOTEL_ID"});
         gDB().ExecuteScript("DROP TABLE FLIGHT; DROP TABLE HOTEL;");
         gDB().CloseConnection();
         Start();
@@ -296,10 +300,55 @@ private slots:
         }
         Start();
         QVERIFY(!home->Messages().Prompts.isEmpty());
-        QVERIFY(home->Messages().Prompts.first().startsWith("Database update error.\r\n\r\nPlease contact Quill Software."));
+        const QString told = home->Messages().Prompts.first();
+        QVERIFY(told.startsWith("Database update error.\r\n\r\nPlease contact Quill Software."));
+        // the failed step was undone as a whole, and the copy made before the update is named
+        QVERIFY2(told.contains("Step 7 of the update failed and was undone"), qPrintable(told));
+        const QString copy = told.section("A copy from before the update is at:\r\n", 1);
+        QVERIFY2(QFile::exists(copy), qPrintable(copy));
+        QVERIFY(!gDB().FieldExists("BUDGET", "DUE_DT"));
+        QCOMPARE(gDB().SchemaVersion(), 0); // not marked current: the next start tries again
         // the rest of the driver went on: later steps did their work
         QVERIFY(gDB().TableExists("TIMELINE"));
         QCOMPARE(gDB().Execute("SELECT COUNT(*) FROM BUDGET").Scalar(), QStringLiteral("3"));
+    }
+
+    void aSecondWriterIsRefusedWhileAReaderReadsTheFileAsItIs() {
+        Start();
+        gDB().CloseConnection();
+        QLockFile other(DataFile() + ".lock");
+        QVERIFY(other.tryLock(0));
+        QString message;
+        QVERIFY(!modSubMain::StartForChange(&message, 50));
+        QVERIFY2(message.contains("is in use by") && message.contains(DataFile()), qPrintable(message));
+        QVERIFY(!gDB().IsOpen());
+        QVERIFY2(modSubMain::StartForReading(&message), qPrintable(message));
+        QVERIFY(gDB().IsReadOnly());
+        other.unlock();
+        gDB().CloseConnection();
+        QVERIFY(modSubMain::StartForChange(&message, 50));
+        QVERIFY(modDatabaseLock::Held());
+    }
+
+    void aNewerVowrensFileIsReadAndNeverWritten() {
+        Start();
+        gDB().ExecuteScript(QStringLiteral("UPDATE CONTACT SET ATTENDING_FG = 'N' WHERE CONTACT_ID = 1; "
+                                           "PRAGMA user_version=%1;")
+                                .arg(DbIdentity::kSchemaVersion + 1));
+        gDB().CloseConnection();
+        QFile file(DataFile());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray before = file.readAll();
+        file.close();
+        Start();
+        QVERIFY(gDB().IsReadOnly());
+        QVERIFY(gDB().OpenNotice().contains("newer version of Vowren"));
+        QCOMPARE(gBride().ATTENDING_FG, QStringLiteral("N"));
+        QString message;
+        QVERIFY(!modSubMain::StartForChange(&message, 0));
+        gDB().CloseConnection();
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), before);
     }
 
     void badDatabasesEndInTheConnectMessage_data() {

@@ -18,6 +18,8 @@ namespace {
 
 const QString kPageKey = QStringLiteral("Software/QuillSoftware/Vowren/Release 1.0/frmTest");
 
+enum TestColumn : int { ICO, FULL_NM, EMAIL_TX, CITY, GROUP };
+
 QList<clsGridColumn> TestColumns() {
     return {clsGridColumn("ICO", "", 20).OfKind(GridColumnKind::Icon), clsGridColumn("FULL_NM", "Name", 150),
             clsGridColumn("EMAIL_TX", "E-mail", 150), clsGridColumn("CITY", "City", 100).StoreWidth(),
@@ -48,8 +50,8 @@ std::unique_ptr<usrGrid> MakeGrid() {
     grid->SetColumns(TestColumns());
     clsGridFill fill(*grid->Model());
     for (const Person& p : kPeople)
-        fill.Group(p.group).Row(p.id).Icon("ICO", 1).Set("FULL_NM", p.name).Set("EMAIL_TX", p.email)
-            .Set("CITY", p.city).Set("GROUP", p.group).Notes(p.notes);
+        fill.Group(p.group).Row(p.id).Icon(ICO, 1).Set(FULL_NM, p.name).Set(EMAIL_TX, p.email).Set(CITY, p.city)
+            .Set(GROUP, p.group).Notes(p.notes).Keep(p);
     return grid;
 }
 
@@ -116,14 +118,30 @@ private slots:
         QAbstractItemModelTester source(grid->Model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
         QAbstractItemModelTester view(grid->Proxy(), QAbstractItemModelTester::FailureReportingMode::QtTest);
         const QModelIndex added = grid->Model()->AddRecord(7, "Neighbours");
-        grid->Model()->SetCell(added, "FULL_NM", "Ida Jones");
-        grid->Model()->SetRowText(added, "Brings a dog");
+        grid->Model()->Rewrite(added, [](clsGridCells& cells) { cells.Set(FULL_NM, "Ida Jones").Notes("Brings a dog"); });
         QVERIFY(grid->Model()->MoveRow(grid->Model()->FindRecord(4), -1));
+        grid->SetSortable(true);
+        grid->sortByColumn(FULL_NM, Qt::DescendingOrder);
         GridSearch(grid.get(), "boston");
         GridSearch(grid.get(), "");
         grid->Model()->RemoveRow(grid->Model()->FindRecord(2));
         grid->Model()->Clear();
         QCOMPARE(grid->Model()->FlatRowCount(), 0);
+    }
+
+    void rowKeepsItsRecord() {
+        auto grid = MakeGrid();
+        clsGridModel* model = grid->Model();
+        const QModelIndex carl = model->FindRecord(3);
+        QCOMPARE(model->KeyAt(carl), 3);
+        QCOMPARE(QString(model->RecordAt<Person>(carl)->name), QString("Carl Diaz"));
+        const Person renamed{"Friends", 3, "Carl Diaz-Ruiz", "", "Austin", ""};
+        model->Rewrite(carl, [&](clsGridCells& cells) { cells.Set(FULL_NM, renamed.name).Keep(renamed); });
+        QCOMPARE(QString(model->RecordAt<Person>(carl)->name), QString("Carl Diaz-Ruiz"));
+        QCOMPARE(model->RecordAt<QString>(carl), nullptr); // kept as a Person, not as anything else
+        const QModelIndex group = model->FlatRow(1);
+        QCOMPARE(model->KeyAt(group), 0);
+        QCOMPARE(model->RecordAt<Person>(group), nullptr);
     }
 
     void search_data() {
@@ -265,16 +283,16 @@ private slots:
 
     void countAddresses_data() {
         QTest::addColumn<QList<qint64>>("selected");
-        QTest::addColumn<QString>("column");
+        QTest::addColumn<int>("column");
         QTest::addColumn<int>("count");
-        QTest::newRow("none selected") << QList<qint64>{} << "EMAIL_TX" << 0;
-        QTest::newRow("with and without") << QList<qint64>{1, 2, 3} << "EMAIL_TX" << 2;
-        QTest::newRow("unknown column") << QList<qint64>{1, 3} << "NOPE" << 0;
-        QTest::newRow("other column") << QList<qint64>{1, 3} << "CITY" << 0;
+        QTest::newRow("none selected") << QList<qint64>{} << int(EMAIL_TX) << 0;
+        QTest::newRow("with and without") << QList<qint64>{1, 2, 3} << int(EMAIL_TX) << 2;
+        QTest::newRow("unknown column") << QList<qint64>{1, 3} << 99 << 0;
+        QTest::newRow("other column") << QList<qint64>{1, 3} << int(CITY) << 0;
     }
     void countAddresses() {
         QFETCH(QList<qint64>, selected);
-        QFETCH(QString, column);
+        QFETCH(int, column);
         auto grid = MakeGrid();
         SelectKeys(*grid, selected);
         grid->selectionModel()->select(grid->model()->index(0, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
@@ -299,7 +317,7 @@ private slots:
     void recordWithKeyZeroIsNoSelection() {
         usrGrid grid;
         grid.SetColumns(TestColumns());
-        clsGridFill(*grid.Model()).Row(0).Set("FULL_NM", "Totals");
+        clsGridFill(*grid.Model()).Row(0).Set(FULL_NM, "Totals");
         GridSelectRow(&grid, 1);
         QVERIFY(grid.SelectedRow().isValid());
         QVERIFY(!GridHasSelection(&grid));
@@ -378,28 +396,38 @@ private slots:
         QCOMPARE(grid->header()->visualIndex(grid->ColumnIndex("GROUP")), 4); // internal column stays put
     }
 
+    // The texts are German ("1.234,50 €", "05-Jan-2027" stays the program's own date text); each column
+    // sorts by the value behind its text, where sorting the texts would give another order.
     void sortByKind_data() {
-        QTest::addColumn<QString>("column");
+        QTest::addColumn<int>("column");
         QTest::addColumn<QList<qint64>>("ascending");
-        QTest::newRow("numbers by value") << "NB" << QList<qint64>{2, 1, 3};
-        QTest::newRow("dates by day") << "DT" << QList<qint64>{3, 2, 1};
-        QTest::newRow("times by clock") << "TM" << QList<qint64>{1, 3, 2};
-        QTest::newRow("text without case") << "TX" << QList<qint64>{2, 3, 1};
+        QTest::newRow("numbers by value") << 0 << QList<qint64>{2, 1, 3};
+        QTest::newRow("money by amount") << 1 << QList<qint64>{3, 2, 1};
+        QTest::newRow("dates across years") << 2 << QList<qint64>{3, 2, 1};
+        QTest::newRow("times by clock") << 3 << QList<qint64>{1, 3, 2};
+        QTest::newRow("text without case") << 4 << QList<qint64>{2, 3, 1};
     }
     void sortByKind() {
-        QFETCH(QString, column);
+        QFETCH(int, column);
+        const QLocale before;
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
         usrGrid grid;
         grid.SetColumns({clsGridColumn("NB", "#", 40).OfKind(GridColumnKind::Number),
+                         clsGridColumn("AMOUNT", "Amount", 90).OfKind(GridColumnKind::Money),
                          clsGridColumn("DT", "Date", 90).OfKind(GridColumnKind::Date),
                          clsGridColumn("TM", "Time", 60).OfKind(GridColumnKind::Time), clsGridColumn("TX", "Text", 90)});
         {
             clsGridFill fill(*grid.Model());
-            fill.Group("Only").Row(1).Set("NB", "10").Set("DT", "03-May-2027").Set("TM", "9:30 AM").Set("TX", "zeta");
-            fill.Row(2).Set("NB", "9").Set("DT", "11-Apr-2027").Set("TM", "1:05 PM").Set("TX", "Alpha");
-            fill.Row(3).Set("NB", "1,200").Set("DT", "").Set("TM", "12:00 PM").Set("TX", "beta");
+            fill.Group("Only").Row(1).Number(0, 10).Money(1, 1234.5).Date(2, QDate(2027, 1, 5)).Time(3, QTime(9, 30))
+                .Set(4, "zeta");
+            fill.Row(2).Number(0, "9").Money(1, 999).Date(2, QDate(2026, 12, 20)).Time(3, QTime(13, 5)).Set(4, "Alpha");
+            fill.Row(3).Number(0, 1200).Money(1, 12.5).Date(2, QDate()).Time(3, QTime(12, 0)).Set(4, "beta");
         }
+        QLocale::setDefault(before);
+        QCOMPARE(grid.Model()->RowAt(grid.Model()->FindRecord(1))->Cell(1), QString("1.234,50\u00a0€"));
+        QCOMPARE(grid.Model()->RowAt(grid.Model()->FindRecord(1))->Cell(2), QString("05-Jan-2027"));
         grid.SetSortable(true);
-        grid.sortByColumn(grid.ColumnIndex(column), Qt::AscendingOrder);
+        grid.sortByColumn(column, Qt::AscendingOrder);
         QList<qint64> keys;
         for (const QString& key : Shown(grid).mid(1)) keys << key.toLongLong();
         QTEST(keys, "ascending");

@@ -1,6 +1,7 @@
 #include "guests/ui/frmMain_01_Contacts.h"
 
 #include "core/ShowMessage.h"
+#include "core/FilterCode.h"
 #include "core/clsApp.h"
 #include "core/clsDICT.h"
 #include "guests/clsCONTACT.h"
@@ -22,82 +23,77 @@ namespace {
 const QString kDelete = QStringLiteral("Delete contact");
 const QString kEmail = QStringLiteral("E-mail contact");
 
+using Column = frmMain_01_Contacts::Column;
+
 QList<clsGridColumn> ContactColumns() {
-    using K = GridColumnKind;
-    const auto column = [](const char* key, const char* caption, int width, K kind = K::Text) {
-        clsGridColumn c;
-        c.Key = QString::fromLatin1(key);
-        c.Caption = QString::fromLatin1(caption);
-        c.Width = width;
-        c.Kind = kind;
-        return c;
-    };
     QList<clsGridColumn> columns = {
-        column("ICO", "", 28, K::Icon),
-        column("INVITE_ICO", "", 28, K::Icon),
-        column("TITLE_TX", "Title", 52),
-        column("FULL_NM", "Name", 210),
-        column("ADDRESS_TX", "Address", 260),
-        column("NICK_NM", "Nickname", 90),
-        column("EMAIL_TX", "E-mail", 190),
-        column("PHONE_TX", "Phone(s)", 140),
-        column("AB", "A-B", 40),
-        column("FRIEND_OF_TX", "Friend of", 80),
-        column("ROLE_TX", "Role", 140),
-        column("GENDER_FG", "Gender", 90),
-        column("OUT_OF_TOWNER_FG", "Out of Towner", 100),
-        column("GUEST_OF", "Guest of", 160),
-        column("NOTES_TX", "Notes", 240),
+        clsGridColumn("ICO", "", 28).OfKind(GridColumnKind::Icon),
+        clsGridColumn("INVITE_ICO", "", 28).OfKind(GridColumnKind::Icon),
+        clsGridColumn("TITLE_TX", "Title", 52),
+        clsGridColumn("FULL_NM", "Name", 210),
+        clsGridColumn("ADDRESS_TX", "Address", 260),
+        clsGridColumn("NICK_NM", "Nickname", 90),
+        clsGridColumn("EMAIL_TX", "E-mail", 190),
+        clsGridColumn("PHONE_TX", "Phone(s)", 140),
+        clsGridColumn("AB", "A-B", 40),
+        clsGridColumn("FRIEND_OF_TX", "Friend of", 80),
+        clsGridColumn("ROLE_TX", "Role", 140),
+        clsGridColumn("GENDER_FG", "Gender", 90),
+        clsGridColumn("OUT_OF_TOWNER_FG", "Out of Towner", 100),
+        clsGridColumn("GUEST_OF", "Guest of", 160),
+        clsGridColumn("NOTES_TX", "Notes", 240).HiddenAtFirst(), // until the user chooses "Show Notes"
     };
-    columns.last().Visible = false; // until the user chooses "Show Notes"
+    Q_ASSERT(columns.size() == Column::ColumnCount);
     return columns;
 }
 
-// The cells of a contact's row, by column key.
-GridCells ContactCells(const clsCONTACT& c) {
-    return {{QStringLiteral("TITLE_TX"), c.TITLE_TX},
-            {QStringLiteral("FULL_NM"), c.ListName()},
-            {QStringLiteral("ADDRESS_TX"), c.DisplayAddress(false)},
-            {QStringLiteral("NICK_NM"), c.NICK_NM},
-            {QStringLiteral("EMAIL_TX"), c.EMAIL_TX},
-            {QStringLiteral("PHONE_TX"), c.PHONE_NUMBERS(false)},
-            {QStringLiteral("AB"), c.AB_LIST_CD},
-            {QStringLiteral("FRIEND_OF_TX"), c.FRIEND_OF_TX()},
-            {QStringLiteral("ROLE_TX"), c.ROLE_TX},
-            {QStringLiteral("GENDER_FG"), c.GENDER_FG_WITH_CHILD_Text()},
-            {QStringLiteral("OUT_OF_TOWNER_FG"), c.OUT_OF_TOWNER_FG_Text()},
-            {QStringLiteral("GUEST_OF"), c.GUEST_OF_ID.isEmpty() ? QString() : c.GUEST_OF_FULL_NM()},
-            {QStringLiteral("NOTES_TX"), c.NOTES_TX}};
+// A contact's row, on fill and on refresh alike; the row keeps the contact.
+clsGridCells& WriteRow(clsGridCells& cells, const clsCONTACT& c) {
+    return cells.Icon(Column::ICO, GuestIcons::PersonIndex(c))
+        .Icon(Column::INVITE_ICO, GuestIcons::InviteIndex(c))
+        .Set(Column::TITLE_TX, c.TITLE_TX)
+        .Set(Column::FULL_NM, c.ListName())
+        .Set(Column::ADDRESS_TX, c.DisplayAddress(false))
+        .Set(Column::NICK_NM, c.NICK_NM)
+        .Set(Column::EMAIL_TX, c.EMAIL_TX)
+        .Set(Column::PHONE_TX, c.PHONE_NUMBERS(false))
+        .Set(Column::AB, c.AB_LIST_CD)
+        .Set(Column::FRIEND_OF_TX, c.FRIEND_OF_TX())
+        .Set(Column::ROLE_TX, c.ROLE_TX)
+        .Set(Column::GENDER_FG, c.GENDER_FG_WITH_CHILD_Text())
+        .Set(Column::OUT_OF_TOWNER_FG, c.OUT_OF_TOWNER_FG_Text())
+        .Set(Column::GUEST_OF, c.GUEST_OF_ID.isEmpty() ? QString() : c.GUEST_OF_FULL_NM())
+        .Set(Column::NOTES_TX, c.NOTES_TX);
 }
 
 } // namespace
 
 frmMain_01_Contacts::frmMain_01_Contacts(QWidget* parent)
     : usrListPage(QStringLiteral("frmMain_01_Contacts"), parent) {
-    SetRecordNoun(QStringLiteral("contacts"));
+    SetRecordNoun(QStringLiteral("contact"));
     SetEmptyText(QStringLiteral("No contacts yet — add one or import a list."),
                  QStringLiteral("No contacts match."));
-    SetFilterEntries({{0, QStringLiteral("All Contacts")},
-                      {1, QStringLiteral("Bride")},
-                      {2, QStringLiteral("Groom")},
-                      {3, QStringLiteral("Both of us")},
-                      {4, QStringLiteral("A list")},
-                      {5, QStringLiteral("B list")},
-                      {6, QStringLiteral("Invited")},
-                      {7, QStringLiteral("Not Yet Invited")},
-                      {8, QStringLiteral("No Address")},
-                      {24, QStringLiteral("Local")},
-                      {25, QStringLiteral("Out of Towner")},
-                      {37, QStringLiteral("Male")},
-                      {38, QStringLiteral("Female")},
-                      {43, QStringLiteral("Adult")},
-                      {44, QStringLiteral("Child")}});
+    using F = ContactFilter::Code;
+    SetFilterEntries({{F::AllContacts, QStringLiteral("All Contacts")},
+                      {F::FriendOfBride, QStringLiteral("Bride")},
+                      {F::FriendOfGroom, QStringLiteral("Groom")},
+                      {F::FriendOfBoth, QStringLiteral("Both of us")},
+                      {F::AList, QStringLiteral("A list")},
+                      {F::BList, QStringLiteral("B list")},
+                      {F::Invited, QStringLiteral("Invited")},
+                      {F::NotYetInvited, QStringLiteral("Not Yet Invited")},
+                      {F::NoAddress, QStringLiteral("No Address")},
+                      {F::Local, QStringLiteral("Local")},
+                      {F::OutOfTowner, QStringLiteral("Out of Towner")},
+                      {F::Male, QStringLiteral("Male")},
+                      {F::Female, QStringLiteral("Female")},
+                      {F::Adult, QStringLiteral("Adult")},
+                      {F::Child, QStringLiteral("Child")}});
     Grid()->Model()->SetImages(GuestIcons::All());
     SetColumns(ContactColumns());
-    Grid()->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(Grid(), &QWidget::customContextMenuRequested, this, &frmMain_01_Contacts::ShowContextMenu);
     BuildActions();
     BuildMenu();
+    SetRowMenu(mMenu);
     AddShortcut(QKeySequence::New, [this] { OpenEditor(QString(), false); });
     AddShortcut(QKeySequence::Copy, [this] {
         const QList<qint64> keys = SelectedKeys();
@@ -123,6 +119,8 @@ void frmMain_01_Contacts::BuildActions() {
               [this] { ShowReports(this, clsReportCatalogue::Contacts, CurrentFilter()); });
     AddReportsFolderAction(OpenReportsFolder);
     AddCustomizeColumnsAction(CustomizeColumns);
+    CountSelectionIn(DeleteContact);
+    CountSelectionIn(EmailContact);
 }
 
 // ---- The grid ----------------------------------------------------------------------------------------
@@ -132,22 +130,16 @@ long frmMain_01_Contacts::CountOf(int filterId) const {
 }
 
 int frmMain_01_Contacts::FillRows(clsGridFill& fill, int filterId) {
-    const QList<clsCONTACT> contacts = RecordIO::Read(
+    QList<clsCONTACT> contacts = RecordIO::Read(
         [&] { return clsCONTACT::OpenRecords(filterId, {}, {}, ExcludeBrideGroom(filterId)); });
-    for (const clsCONTACT& contact : contacts) {
-        fill.Row(contact.CONTACT_ID.toLongLong())
-            .Icon(QStringLiteral("ICO"), GuestIcons::PersonIndex(contact))
-            .Icon(QStringLiteral("INVITE_ICO"), GuestIcons::InviteIndex(contact))
-            .Set(ContactCells(contact));
+    for (clsCONTACT& contact : contacts) {
+        WriteRow(fill.Row(contact.CONTACT_ID.toLongLong()), contact).Keep(std::move(contact));
     }
     return static_cast<int>(contacts.size());
 }
 
 void frmMain_01_Contacts::SetRowCells(const QModelIndex& row, const clsCONTACT& contact) {
-    clsGridModel* model = Grid()->Model();
-    model->SetCell(row, QStringLiteral("ICO"), QString::number(GuestIcons::PersonIndex(contact)));
-    model->SetCell(row, QStringLiteral("INVITE_ICO"), QString::number(GuestIcons::InviteIndex(contact)));
-    model->SetCells(row, ContactCells(contact));
+    Grid()->Model()->Rewrite(row, [&contact](clsGridCells& cells) { WriteRow(cells, contact).Keep(contact); });
 }
 
 void frmMain_01_Contacts::Activate(qint64 key) { OpenEditor(QString::number(key), false); }
@@ -155,10 +147,9 @@ void frmMain_01_Contacts::Activate(qint64 key) { OpenEditor(QString::number(key)
 void frmMain_01_Contacts::UpdateActions() {
     const int count = static_cast<int>(SelectedKeys().size());
     ActionLink(EditContact)->setEnabled(count == 1);
-    ActionLink(DeleteContact)->setEnabled(count > 0);
-    ActionLink(DeleteContact)->setCaption(CountedCaption(kDelete, count));
-    ActionLink(EmailContact)->setEnabled(GridCountAddresses(Grid(), QStringLiteral("EMAIL_TX")) > 0);
-    ActionLink(EmailContact)->setCaption(CountedCaption(kEmail, count));
+    ActionLink(EmailContact)->setEnabled(GridCountAddresses(Grid(), EMAIL_TX) > 0);
+    if (QAction* copy = mMenu ? mMenu->findChild<QAction*>(QStringLiteral("mnuCopy")) : nullptr)
+        copy->setEnabled(count == 1);
 }
 
 // ---- The editor's events -------------------------------------------------------------------------------
@@ -306,16 +297,9 @@ void frmMain_01_Contacts::AddTitleMenu() {
     });
 }
 
-void frmMain_01_Contacts::ShowContextMenu(const QPoint& position) {
-    if (QAction* copy = mMenu->findChild<QAction*>(QStringLiteral("mnuCopy")))
-        copy->setEnabled(SelectedKeys().size() == 1);
-    PopupMenu(mMenu, position);
-}
-
 void frmMain_01_Contacts::ToggleNotes() {
-    const int notes = Grid()->ColumnIndex(QStringLiteral("NOTES_TX"));
-    const bool show = !Grid()->ColumnShown(notes);
-    Grid()->ShowColumn(notes, show);
+    const bool show = !Grid()->ColumnShown(NOTES_TX);
+    Grid()->ShowColumn(NOTES_TX, show);
     if (QAction* item = mMenu->findChild<QAction*>(QStringLiteral("mnuNotes")))
         item->setText(show ? QStringLiteral("Hide notes") : QStringLiteral("Show Notes"));
 }
@@ -337,10 +321,10 @@ void frmMain_01_Contacts::EmailSelected() {
     const QList<qint64> keys = SelectedKeys();
     if (keys.isEmpty())
         return;
-    const int email = Grid()->ColumnIndex(QStringLiteral("EMAIL_TX"));
     QStringList addresses;
     for (qint64 key : keys)
-        addresses.append(Grid()->Model()->RowAt(RowOfKey(key))->Cell(email));
+        if (const clsCONTACT* contact = Grid()->Model()->RecordAt<clsCONTACT>(RowOfKey(key)))
+            addresses.append(contact->EMAIL_TX);
     frmContactEmail dialog(static_cast<int>(keys.size()), frmContactEmail::AddressList(addresses), this);
     dialog.exec();
 }

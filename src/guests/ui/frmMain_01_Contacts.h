@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/FilterCode.h"
 #include "shell/usrListPage.h"
 
 #include <functional>
@@ -26,6 +27,26 @@ public:
         PrintReports,
         OpenReportsFolder,
         CustomizeColumns,
+    };
+
+    // The grid's columns, in their first order.
+    enum Column : int {
+        ICO = 0,
+        INVITE_ICO,
+        TITLE_TX,
+        FULL_NM,
+        ADDRESS_TX,
+        NICK_NM,
+        EMAIL_TX,
+        PHONE_TX,
+        AB,
+        FRIEND_OF_TX,
+        ROLE_TX,
+        GENDER_FG,
+        OUT_OF_TOWNER_FG,
+        GUEST_OF,
+        NOTES_TX,
+        ColumnCount
     };
 
     // Deletes the selected contacts after asking; the bride and the groom are left alone. The number
@@ -56,12 +77,11 @@ private:
     void AddFieldMenu(const QString& name, const QString& title, const QStringList& captions,
                       const std::function<void(clsCONTACT&, int)>& apply);
     void AddTitleMenu();
-    void ShowContextMenu(const QPoint& position);
     void OpenEditor(const QString& contactId, bool copy);
     void EmailSelected();
     void SetRowCells(const QModelIndex& row, const clsCONTACT& contact);
     void ToggleNotes();
-    bool ExcludeBrideGroom(int filterId) const { return filterId != 0; }
+    bool ExcludeBrideGroom(int filterId) const { return filterId != ContactFilter::AllContacts; }
 
     QMenu* mMenu = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "guests/ui/frmMain_02_Invitations.h"
 
 #include "core/ShowMessage.h"
+#include "core/FilterCode.h"
 #include "core/clsApp.h"
 #include "guests/clsINVITE.h"
 #include "guests/ui/GuestIcons.h"
@@ -18,9 +19,11 @@ namespace {
 const QString kDelete = QStringLiteral("Delete invitation");
 const QString kSort = QStringLiteral("Sort RSVP IDs");
 
+using Column = frmMain_02_Invitations::Column;
+
 QList<clsGridColumn> InvitationColumns() {
     using K = GridColumnKind;
-    return {
+    QList<clsGridColumn> columns = {
         clsGridColumn(QStringLiteral("ICO"), QString(), 28).OfKind(K::Icon),
         clsGridColumn(QStringLiteral("RSVP_ID"), QStringLiteral("RSVP ID"), 70)
             .OfKind(K::Number)
@@ -34,6 +37,8 @@ QList<clsGridColumn> InvitationColumns() {
         clsGridColumn(QStringLiteral("A_B"), QStringLiteral("A-B"), 44).StoreWidth(),
         clsGridColumn(QStringLiteral("INVITE_SENT"), QStringLiteral("Sent  "), 56).StoreWidth(),
     };
+    Q_ASSERT(columns.size() == Column::ColumnCount);
+    return columns;
 }
 
 // Where the envelope stands: not yet sent, sent and waiting, or answered.
@@ -43,37 +48,38 @@ int StateIcon(const clsINVITE& invite) {
     return invite.RSVP_RECEIVED_FG == QLatin1String("Y") ? GuestIcons::InviteReplied : GuestIcons::InviteSent;
 }
 
-GridCells InvitationCells(const clsINVITE& invite) {
-    return {{QStringLiteral("RSVP_ID"), invite.INVITE_RSVP_ID},
-            {QStringLiteral("INVITATION"), invite.DISPLAY_AS_TX},
-            {QStringLiteral("OUTER_ENVELOPE"), invite.OUTER_ENVELOPE_TX_AND_OUTER_ENVELOPE_ADDRESS_TX(false)},
-            {QStringLiteral("INNER_ENVELOPE"), invite.INNER_ENVELOPE_TX},
-            {QStringLiteral("CONTACTS_NB"), QString::number(invite.NUMBER_INVITED_NB())},
-            {QStringLiteral("A_B"), invite.AB_LIST_CD},
-            {QStringLiteral("INVITE_SENT"), invite.INVITE_SENT_FG_Text()}};
+// An invitation's row, on fill and on refresh alike.
+clsGridCells& WriteRow(clsGridCells& cells, const clsINVITE& invite) {
+    return cells.Icon(Column::ICO, StateIcon(invite))
+        .Number(Column::RSVP_ID, invite.INVITE_RSVP_ID)
+        .Set(Column::INVITATION, invite.DISPLAY_AS_TX)
+        .Set(Column::OUTER_ENVELOPE, invite.OUTER_ENVELOPE_TX_AND_OUTER_ENVELOPE_ADDRESS_TX(false))
+        .Set(Column::INNER_ENVELOPE, invite.INNER_ENVELOPE_TX)
+        .Number(Column::CONTACTS_NB, invite.NUMBER_INVITED_NB())
+        .Set(Column::A_B, invite.AB_LIST_CD)
+        .Set(Column::INVITE_SENT, invite.INVITE_SENT_FG_Text());
 }
 
 } // namespace
 
 frmMain_02_Invitations::frmMain_02_Invitations(QWidget* parent)
     : usrListPage(QStringLiteral("frmMain_02_Invitations"), parent) {
-    SetRecordNoun(QStringLiteral("invitations"));
+    SetRecordNoun(QStringLiteral("invitation"));
     SetEmptyText(QStringLiteral("No invitations yet — add one and put your contacts on its envelope."),
                  QStringLiteral("No invitations match."));
-    SetFilterEntries({{0, QStringLiteral("All Invitations")},
-                      {1, QStringLiteral("Sent")},
-                      {2, QStringLiteral("Unsent")},
-                      {5, QStringLiteral("Bride")},
-                      {6, QStringLiteral("Groom")},
-                      {7, QStringLiteral("Both")},
-                      {8, QStringLiteral("No Address")}});
+    using F = InviteFilter::Code;
+    SetFilterEntries({{F::AllInvitations, QStringLiteral("All Invitations")},
+                      {F::Sent, QStringLiteral("Sent")},
+                      {F::Unsent, QStringLiteral("Unsent")},
+                      {F::FriendOfBride, QStringLiteral("Bride")},
+                      {F::FriendOfGroom, QStringLiteral("Groom")},
+                      {F::FriendOfBoth, QStringLiteral("Both")},
+                      {F::NoAddress, QStringLiteral("No Address")}});
     Grid()->Model()->SetImages(GuestIcons::All());
     SetColumns(InvitationColumns());
-    Grid()->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(Grid(), &QWidget::customContextMenuRequested, this,
-            [this](const QPoint& position) { PopupMenu(mMenu, position); });
     BuildActions();
     BuildMenu();
+    SetRowMenu(mMenu);
     AddShortcut(QKeySequence::New, [this] { OpenEditor(QString()); });
     AddShortcut(QKeySequence::Delete, [this] { DeleteSelected(); });
 }
@@ -93,6 +99,7 @@ void frmMain_02_Invitations::BuildActions() {
               [this] { ShowReports(this, clsReportCatalogue::Invitations, CurrentFilter()); });
     AddReportsFolderAction(OpenReportsFolder);
     AddCustomizeColumnsAction(CustomizeColumns);
+    CountSelectionIn(DeleteInvitation);
 }
 
 void frmMain_02_Invitations::BuildMenu() {
@@ -115,19 +122,14 @@ long frmMain_02_Invitations::CountOf(int filterId) const {
 }
 
 int frmMain_02_Invitations::FillRows(clsGridFill& fill, int filterId) {
-    const QList<clsINVITE> invites =
-        RecordIO::Read([filterId] { return clsINVITE::OpenRecords(filterId, true); });
-    for (const clsINVITE& invite : invites) {
-        fill.Row(invite.INVITE_ID.toLongLong()).Icon(QStringLiteral("ICO"), StateIcon(invite))
-            .Set(InvitationCells(invite));
-    }
+    QList<clsINVITE> invites = RecordIO::Read([filterId] { return clsINVITE::OpenRecords(filterId, true); });
+    for (clsINVITE& invite : invites)
+        WriteRow(fill.Row(invite.INVITE_ID.toLongLong()), invite).Keep(std::move(invite));
     return static_cast<int>(invites.size());
 }
 
 void frmMain_02_Invitations::SetRowCells(const QModelIndex& row, const clsINVITE& invite) {
-    clsGridModel* model = Grid()->Model();
-    model->SetCell(row, QStringLiteral("ICO"), QString::number(StateIcon(invite)));
-    model->SetCells(row, InvitationCells(invite));
+    Grid()->Model()->Rewrite(row, [&invite](clsGridCells& cells) { WriteRow(cells, invite).Keep(invite); });
 }
 
 void frmMain_02_Invitations::RefreshRow(const QString& inviteId) {
@@ -144,8 +146,6 @@ void frmMain_02_Invitations::Activate(qint64 key) {
 void frmMain_02_Invitations::UpdateActions() {
     const int count = static_cast<int>(SelectedKeys().size());
     ActionLink(EditInvitation)->setEnabled(count == 1);
-    ActionLink(DeleteInvitation)->setEnabled(count > 0);
-    ActionLink(DeleteInvitation)->setCaption(CountedCaption(kDelete, count));
     ActionLink(MarkAsSent)->setEnabled(count > 0);
     const bool locked = gApp().LockRSVPIDs();
     ActionLink(SortRSVPIDs)->setCaption(locked ? kSort + QStringLiteral(" (Locked)") : kSort);

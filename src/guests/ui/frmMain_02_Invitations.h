@@ -26,6 +26,19 @@ public:
         CustomizeColumns,
     };
 
+    // The grid's columns, in their first order.
+    enum Column : int {
+        ICO = 0,
+        RSVP_ID,
+        INVITATION,
+        OUTER_ENVELOPE,
+        INNER_ENVELOPE,
+        CONTACTS_NB,
+        A_B,
+        INVITE_SENT,
+        ColumnCount
+    };
+
     // Sets (sent true) or clears the sent flag of the selected invitations, all or nothing. An
     // invitation without an address is never changed here; marking one as sent is refused with a
     // message. The number of invitations saved.

@@ -1,5 +1,6 @@
 #include "guests/ui/frmMain_03_RSVPs.h"
 
+#include "core/FilterCode.h"
 #include "core/clsApp.h"
 #include "core/clsDICT.h"
 #include "guests/clsINVITE.h"
@@ -15,19 +16,23 @@
 
 namespace {
 
+using Column = frmMain_03_RSVPs::Column;
+
 // The panel's filters of invitations; every other entry counts guests.
 bool IsInviteFilter(int filterId) {
-    return filterId == 1 || filterId == 3 || filterId == 4;
+    return filterId == InviteFilter::Sent || filterId == InviteFilter::Received || filterId == InviteFilter::NoReply;
 }
 
 // The whole of a guest figure: the invited for the replies, the attending for their make-up.
 bool IsReplyFigure(int filterId) {
-    return filterId == 6 || filterId == 14 || filterId == 20 || filterId == 36;
+    using F = ContactFilter::Code;
+    return filterId == F::Invited || filterId == F::Attending || filterId == F::Declined ||
+           filterId == F::AwaitingReply;
 }
 
 QList<clsGridColumn> RSVPColumns() {
     using K = GridColumnKind;
-    return {
+    QList<clsGridColumn> columns = {
         clsGridColumn(QStringLiteral("ICO"), QString(), 28).OfKind(K::Icon),
         clsGridColumn(QStringLiteral("RSVP_ID"), QStringLiteral("RSVP ID"), 70)
             .OfKind(K::Number)
@@ -39,6 +44,8 @@ QList<clsGridColumn> RSVPColumns() {
             .AlignRight()
             .StoreWidth(),
     };
+    Q_ASSERT(columns.size() == Column::ColumnCount);
+    return columns;
 }
 
 bool Received(const clsINVITE& invite) {
@@ -59,19 +66,23 @@ QColor StruckColor() {
     return {gray.RedPart(), gray.GreenPart(), gray.BluePart()};
 }
 
-GridCells RSVPCells(const clsINVITE& invite) {
-    return {{QStringLiteral("RSVP_ID"), invite.INVITE_RSVP_ID},
-            {QStringLiteral("INVITATION"), invite.DISPLAY_AS_TX},
-            {QStringLiteral("AB"), invite.AB_LIST_CD},
-            {QStringLiteral("RECEIVED_FG"), invite.RSVP_RECEIVED_FG_Text()},
-            {QStringLiteral("NUMBER_ATTENDING"), frmMain_03_RSVPs::AttendingText(invite)}};
+// A reply's row, on fill and on refresh alike.
+clsGridCells& WriteRow(clsGridCells& cells, const clsINVITE& invite) {
+    const bool struck = NobodyComes(invite);
+    return cells.Icon(Column::ICO, StateIcon(invite))
+        .Number(Column::RSVP_ID, invite.INVITE_RSVP_ID)
+        .Set(Column::INVITATION, invite.DISPLAY_AS_TX)
+        .Set(Column::AB, invite.AB_LIST_CD)
+        .Set(Column::RECEIVED_FG, invite.RSVP_RECEIVED_FG_Text())
+        .Set(Column::NUMBER_ATTENDING, frmMain_03_RSVPs::AttendingText(invite))
+        .Look(struck ? StruckColor() : QColor(), struck);
 }
 
 } // namespace
 
 frmMain_03_RSVPs::frmMain_03_RSVPs(QWidget* parent)
     : usrListPage(QStringLiteral("frmMain_03_RSVPs"), parent) {
-    SetRecordNoun(QStringLiteral("RSVPs"));
+    SetRecordNoun(QStringLiteral("RSVP"));
     SetEmptyText(
         QStringLiteral("No invitations have been sent yet. Mark invitations as sent on the Invitations "
                        "page, and their replies are recorded here."),
@@ -79,29 +90,28 @@ frmMain_03_RSVPs::frmMain_03_RSVPs(QWidget* parent)
     const auto figure = [](int id, const char* caption, const char* heading = nullptr) {
         return FilterEntry{id, QString::fromUtf8(caption), QString::fromUtf8(heading), false};
     };
-    SetFilterEntries({{1, QStringLiteral("All RSVPs")},
-                      {3, QStringLiteral("Received")},
-                      {4, QStringLiteral("No Reply")},
-                      figure(6, "Invited", "Guests"),
-                      figure(14, "Attending"),
-                      figure(20, "Declined"),
-                      figure(36, "Awaiting reply"),
-                      figure(15, "Bride's side", "Attending"),
-                      figure(16, "Groom's side"),
-                      figure(17, "Both sides"),
-                      figure(18, "A list"),
-                      figure(19, "B list"),
-                      figure(28, "Local"),
-                      figure(29, "Out of Towner")});
+    using F = ContactFilter::Code;
+    SetFilterEntries({{InviteFilter::Sent, QStringLiteral("All RSVPs")},
+                      {InviteFilter::Received, QStringLiteral("Received")},
+                      {InviteFilter::NoReply, QStringLiteral("No Reply")},
+                      figure(F::Invited, "Invited", "Guests"),
+                      figure(F::Attending, "Attending"),
+                      figure(F::Declined, "Declined"),
+                      figure(F::AwaitingReply, "Awaiting reply"),
+                      figure(F::AttendingFriendOfBride, "Bride's side", "Attending"),
+                      figure(F::AttendingFriendOfGroom, "Groom's side"),
+                      figure(F::AttendingFriendOfBoth, "Both sides"),
+                      figure(F::AttendingAList, "A list"),
+                      figure(F::AttendingBList, "B list"),
+                      figure(F::AttendingLocal, "Local"),
+                      figure(F::AttendingOutOfTowner, "Out of Towner")});
     Grid()->Model()->SetImages(GuestIcons::All());
     SetColumns(RSVPColumns());
     BuildActions();
     auto* menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("mnuAction"));
     AddActionItems(menu, {OpenRSVP});
-    Grid()->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(Grid(), &QWidget::customContextMenuRequested, this,
-            [this, menu](const QPoint& position) { PopupMenu(menu, position); });
+    SetRowMenu(menu);
 }
 
 void frmMain_03_RSVPs::BuildActions() {
@@ -134,28 +144,19 @@ long frmMain_03_RSVPs::CountOf(int filterId) const {
 
 int frmMain_03_RSVPs::ShareBaseOf(int filterId) const {
     if (IsInviteFilter(filterId))
-        return 1;
-    return IsReplyFigure(filterId) ? 6 : 14;
+        return InviteFilter::Sent;
+    return IsReplyFigure(filterId) ? ContactFilter::Invited : ContactFilter::Attending;
 }
 
 int frmMain_03_RSVPs::FillRows(clsGridFill& fill, int filterId) {
-    const QList<clsINVITE> invites =
-        RecordIO::Read([filterId] { return clsINVITE::OpenRecords(filterId, false); });
-    for (const clsINVITE& invite : invites) {
-        fill.Row(invite.INVITE_ID.toLongLong()).Icon(QStringLiteral("ICO"), StateIcon(invite))
-            .Set(RSVPCells(invite));
-        if (NobodyComes(invite))
-            fill.Look(StruckColor(), true);
-    }
+    QList<clsINVITE> invites = RecordIO::Read([filterId] { return clsINVITE::OpenRecords(filterId, false); });
+    for (clsINVITE& invite : invites)
+        WriteRow(fill.Row(invite.INVITE_ID.toLongLong()), invite).Keep(std::move(invite));
     return static_cast<int>(invites.size());
 }
 
 void frmMain_03_RSVPs::SetRowCells(const QModelIndex& row, const clsINVITE& invite) {
-    clsGridModel* model = Grid()->Model();
-    model->SetCell(row, QStringLiteral("ICO"), QString::number(StateIcon(invite)));
-    model->SetCells(row, RSVPCells(invite));
-    const bool struck = NobodyComes(invite);
-    model->SetRowLook(row, struck ? StruckColor() : QColor(), struck);
+    Grid()->Model()->Rewrite(row, [&invite](clsGridCells& cells) { WriteRow(cells, invite).Keep(invite); });
 }
 
 void frmMain_03_RSVPs::Activate(qint64 key) {

@@ -21,6 +21,9 @@ public:
         CustomizeColumns,
     };
 
+    // The grid's columns, in their first order.
+    enum Column : int { ICO = 0, RSVP_ID, INVITATION, AB, RECEIVED_FG, NUMBER_ATTENDING, ColumnCount };
+
     // "No reply" until the reply is in, then "2 / 3": the people coming of the people invited.
     static QString AttendingText(const clsINVITE& invite);
 

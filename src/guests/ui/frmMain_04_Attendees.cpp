@@ -1,6 +1,7 @@
 #include "guests/ui/frmMain_04_Attendees.h"
 
 #include "core/ShowMessage.h"
+#include "core/FilterCode.h"
 #include "core/clsApp.h"
 #include "core/clsDICT.h"
 #include "core/modGeneral.h"
@@ -22,12 +23,14 @@ namespace {
 
 const QString kBrideGroomNote = QStringLiteral("Attendee counts include the bride and groom.");
 
+using Column = frmMain_04_Attendees::Column;
+
 QList<clsGridColumn> AttendeeColumns() {
     using K = GridColumnKind;
     clsGridColumn table =
         clsGridColumn(QStringLiteral("TABLE_NB"), QStringLiteral("Table #"), 58).OfKind(K::Number);
     table.Alignment = Qt::AlignCenter; // apart from the table's name beside it
-    return {
+    QList<clsGridColumn> columns = {
         clsGridColumn(QStringLiteral("ICO"), QString(), 28).OfKind(K::Icon),
         clsGridColumn(QStringLiteral("RSVP_ID"), QStringLiteral("RSVP ID"), 64)
             .OfKind(K::Number)
@@ -42,6 +45,8 @@ QList<clsGridColumn> AttendeeColumns() {
         clsGridColumn(QStringLiteral("HOTEL_NM"), QStringLiteral("Hotel"), 96).StoreWidth(),
         clsGridColumn(QStringLiteral("FLIGHT_NM"), QStringLiteral("Flight"), 96).StoreWidth(),
     };
+    Q_ASSERT(columns.size() == Column::ColumnCount);
+    return columns;
 }
 
 // Last name first; a guest known by no name shows without the comma of an empty last name ("John's
@@ -55,47 +60,55 @@ QString ListName(const clsCONTACT& c) {
     return name.startsWith(QLatin1String(", ")) ? name.mid(2) : name;
 }
 
-GridCells AttendeeCells(const clsCONTACT& c) {
-    return {{QStringLiteral("RSVP_ID"), c.INVITE_RSVP_ID},
-            {QStringLiteral("ATTENDEE_NM"), ListName(c)},
-            {QStringLiteral("FRIEND_OF"), c.FRIEND_OF_TX()},
-            {QStringLiteral("GENDER_FG"), c.GENDER_FG_WITH_CHILD_Text()},
-            {QStringLiteral("OUT_OF_TOWNER_FG"), c.OUT_OF_TOWNER_FG_Text()},
-            {QStringLiteral("MEAL"), c.MEAL_TX},
-            {QStringLiteral("TABLE_NB"), c.DINING_TABLE_NB},
-            {QStringLiteral("TABLE_NM"), c.DINING_TABLE_NM},
-            {QStringLiteral("HOTEL_NM"), c.HOTEL_NM},
-            {QStringLiteral("FLIGHT_NM"), c.FLIGHT_NM}};
+// An attendee's row, on fill and on refresh alike.
+clsGridCells& WriteRow(clsGridCells& cells, const clsCONTACT& c) {
+    return cells.Icon(Column::ICO, GuestIcons::PersonIndex(c))
+        .Number(Column::RSVP_ID, c.INVITE_RSVP_ID)
+        .Set(Column::ATTENDEE_NM, ListName(c))
+        .Set(Column::FRIEND_OF, c.FRIEND_OF_TX())
+        .Set(Column::GENDER_FG, c.GENDER_FG_WITH_CHILD_Text())
+        .Set(Column::OUT_OF_TOWNER_FG, c.OUT_OF_TOWNER_FG_Text())
+        .Set(Column::MEAL, c.MEAL_TX)
+        .Number(Column::TABLE_NB, c.DINING_TABLE_NB)
+        .Set(Column::TABLE_NM, c.DINING_TABLE_NM)
+        .Set(Column::HOTEL_NM, c.HOTEL_NM)
+        .Set(Column::FLIGHT_NM, c.FLIGHT_NM);
 }
 
-// What custom text a meal entry leaves: any filter id of the contact list that means no filter.
-constexpr int kCustomFilter = clsReportCatalogue::CustomWhereContacts;
+// A meal entry lists by a condition of its own.
+constexpr int kCustomFilter = ContactFilter::Custom;
 
 } // namespace
 
 frmMain_04_Attendees::frmMain_04_Attendees(QWidget* parent)
     : usrListPage(QStringLiteral("frmMain_04_Attendees"), parent) {
-    SetRecordNoun(QStringLiteral("attendees"));
+    SetRecordNoun(QStringLiteral("attendee"));
     SetEmptyText(
         QStringLiteral("Nobody is attending yet. Record the replies on the RSVPs page, and the guests "
                        "who are coming appear here."),
         QStringLiteral("No attendees match."));
-    QList<FilterEntry> entries{{14, QStringLiteral("All Attendees")}, {15, QStringLiteral("Bride")},
-                               {16, QStringLiteral("Groom")},         {17, QStringLiteral("Both")},
-                               {18, QStringLiteral("A list")},        {19, QStringLiteral("B list")},
-                               {41, QStringLiteral("Male")},          {42, QStringLiteral("Female")},
-                               {47, QStringLiteral("Adult")},         {48, QStringLiteral("Child")},
-                               {28, QStringLiteral("Local")},         {29, QStringLiteral("Out of Towner")},
-                               {21, QStringLiteral("Seated")},        {22, QStringLiteral("To be seated")}};
+    using F = ContactFilter::Code;
+    QList<FilterEntry> entries{{F::Attending, QStringLiteral("All Attendees")},
+                               {F::AttendingFriendOfBride, QStringLiteral("Bride")},
+                               {F::AttendingFriendOfGroom, QStringLiteral("Groom")},
+                               {F::AttendingFriendOfBoth, QStringLiteral("Both")},
+                               {F::AttendingAList, QStringLiteral("A list")},
+                               {F::AttendingBList, QStringLiteral("B list")},
+                               {F::AttendingMale, QStringLiteral("Male")},
+                               {F::AttendingFemale, QStringLiteral("Female")},
+                               {F::AttendingAdult, QStringLiteral("Adult")},
+                               {F::AttendingChild, QStringLiteral("Child")},
+                               {F::AttendingLocal, QStringLiteral("Local")},
+                               {F::AttendingOutOfTowner, QStringLiteral("Out of Towner")},
+                               {F::Seated, QStringLiteral("Seated")},
+                               {F::ToBeSeated, QStringLiteral("To be seated")}};
     SetFilterEntries(entries + MealEntries());
     AddPanelWidget(BuildInfo());
     Grid()->Model()->SetImages(GuestIcons::All());
     SetColumns(AttendeeColumns());
     BuildActions();
     BuildMenu();
-    Grid()->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(Grid(), &QWidget::customContextMenuRequested, this,
-            [this](const QPoint& position) { PopupMenu(mMenu, position); });
+    SetRowMenu(mMenu);
 }
 
 // One entry per meal of the meal list, made afresh at each visit, and one for those without a meal.
@@ -205,22 +218,17 @@ long frmMain_04_Attendees::CountOf(int filterId) const {
 
 int frmMain_04_Attendees::FillRows(clsGridFill& fill, int filterId) {
     const QString meal = MealCondition(filterId);
-    const QList<clsCONTACT> attendees = RecordIO::Read([&] {
+    QList<clsCONTACT> attendees = RecordIO::Read([&] {
         return meal.isEmpty() ? clsCONTACT::OpenRecords(filterId, {}, {}, false)
                               : clsCONTACT::OpenRecords(kCustomFilter, meal, {}, false);
     });
-    for (const clsCONTACT& contact : attendees) {
-        fill.Row(contact.CONTACT_ID.toLongLong())
-            .Icon(QStringLiteral("ICO"), GuestIcons::PersonIndex(contact))
-            .Set(AttendeeCells(contact));
-    }
+    for (clsCONTACT& contact : attendees)
+        WriteRow(fill.Row(contact.CONTACT_ID.toLongLong()), contact).Keep(std::move(contact));
     return static_cast<int>(attendees.size());
 }
 
 void frmMain_04_Attendees::SetRowCells(const QModelIndex& row, const clsCONTACT& contact) {
-    clsGridModel* model = Grid()->Model();
-    model->SetCell(row, QStringLiteral("ICO"), QString::number(GuestIcons::PersonIndex(contact)));
-    model->SetCells(row, AttendeeCells(contact));
+    Grid()->Model()->Rewrite(row, [&contact](clsGridCells& cells) { WriteRow(cells, contact).Keep(contact); });
 }
 
 void frmMain_04_Attendees::Activate(qint64 key) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/FilterCode.h"
 #include "shell/usrListPage.h"
 
 #include <QMap>
@@ -28,9 +29,24 @@ public:
         OpenReportsFolder,
         CustomizeColumns,
     };
+    // The grid's columns, in their first order.
+    enum Column : int {
+        ICO = 0,
+        RSVP_ID,
+        ATTENDEE_NM,
+        FRIEND_OF,
+        GENDER_FG,
+        OUT_OF_TOWNER_FG,
+        MEAL,
+        TABLE_NB,
+        TABLE_NM,
+        HOTEL_NM,
+        FLIGHT_NM,
+        ColumnCount
+    };
     // The panel's entry of the attendees without a meal; the meals' own entries start at FirstMeal.
-    static constexpr int NoMeal = 999;
-    static constexpr int FirstMeal = 49;
+    static constexpr int NoMeal = ContactFilter::AttendingWithoutMeal;
+    static constexpr int FirstMeal = ContactFilter::AttendingChild + 1; // after the last code of its own
 
     // The condition of a meal entry; empty for any other entry.
     QString MealCondition(int filterId) const;

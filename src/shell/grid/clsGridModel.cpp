@@ -1,6 +1,11 @@
 #include "shell/grid/clsGridModel.h"
 
+#include "core/modGeneral.h"
+
+#include <QDate>
 #include <QFont>
+#include <QTime>
+#include <limits>
 
 clsGridModel::clsGridModel(QObject* parent) : QAbstractItemModel(parent) {}
 
@@ -58,6 +63,11 @@ clsGridRow* clsGridModel::RowAt(const QModelIndex& index) const {
 QModelIndex clsGridModel::IndexOf(const clsGridRow* row, int column) const {
     if (row == nullptr || row == &mRoot) return {};
     return createIndex(row->Row, column, const_cast<clsGridRow*>(row));
+}
+
+qint64 clsGridModel::KeyAt(const QModelIndex& index) const {
+    const clsGridRow* row = RowAt(index);
+    return row != nullptr && !row->IsGroup ? row->ItemData : 0;
 }
 
 QModelIndex clsGridModel::FindRecord(qint64 itemData) const {
@@ -121,19 +131,13 @@ void clsGridModel::RemoveRow(const QModelIndex& index) {
     endRemoveRows();
 }
 
-void clsGridModel::SetCell(const QModelIndex& index, const QString& key, const QString& text) {
+void clsGridModel::Rewrite(const QModelIndex& index, const std::function<void(clsGridCells&)>& write) {
     clsGridRow* row = RowAt(index);
-    const int column = ColumnIndex(key);
-    if (row == nullptr || row->IsGroup || column < 0) return;
-    if (row->Cells.size() <= column) row->Cells.resize(mColumns.size());
-    row->Cells[column] = text;
-    const QModelIndex cell = IndexOf(row, column);
-    emit dataChanged(cell, cell);
-}
-
-void clsGridModel::SetCells(const QModelIndex& index, const GridCells& cells) {
-    for (const auto& [key, text] : cells)
-        SetCell(index, key, text);
+    if (row == nullptr || row->IsGroup) return;
+    clsGridCells cells(*this, row);
+    write(cells);
+    // The row's height may change with its notes, so every cell is told.
+    emit dataChanged(IndexOf(row, 0), IndexOf(row, columnCount() - 1));
 }
 
 void clsGridModel::SetRowText(const QModelIndex& index, const QString& text) {
@@ -213,6 +217,7 @@ QVariant clsGridModel::data(const QModelIndex& index, int role) const {
     case GridRole::IsGroup: return row->IsGroup;
     case GridRole::RowText: return row->RowText;
     case GridRole::Expanded: return row->Expanded;
+    case GridRole::SortValue: return row->IsGroup ? QVariant() : row->SortValue(index.column());
     default: break;
     }
     return row->IsGroup ? GroupData(*row, index.column(), role) : RecordData(*row, index.column(), role);
@@ -270,9 +275,60 @@ Qt::ItemFlags clsGridModel::flags(const QModelIndex& index) const {
     return row->IsGroup ? flags : flags | Qt::ItemNeverHasChildren;
 }
 
+// ---- clsGridCells -------------------------------------------------------------------------------------
+
+clsGridCells& clsGridCells::Set(int column, const QString& text) {
+    if (mRow != nullptr && column >= 0 && column < mRow->Cells.size()) mRow->Cells[column] = text;
+    return *this;
+}
+
+clsGridCells& clsGridCells::Set(int column, const QString& text, const QVariant& sortValue) {
+    if (mRow == nullptr || column < 0 || column >= mRow->Cells.size()) return *this;
+    mRow->Cells[column] = text;
+    if (mRow->Sorts.size() < mRow->Cells.size()) mRow->Sorts.resize(mRow->Cells.size());
+    mRow->Sorts[column] = sortValue;
+    return *this;
+}
+
+clsGridCells& clsGridCells::Number(int column, qint64 value) { return Set(column, QString::number(value), value); }
+
+clsGridCells& clsGridCells::Number(int column, const QString& digits) {
+    bool ok = false;
+    const qint64 value = digits.toLongLong(&ok);
+    return Set(column, digits, ok ? QVariant(value) : QVariant(std::numeric_limits<qint64>::min()));
+}
+
+clsGridCells& clsGridCells::Money(int column, double amount) { return Set(column, CurrencyText(amount), amount); }
+
+clsGridCells& clsGridCells::Date(int column, const QDate& date) {
+    return Set(column, FormatDate(date), date);
+}
+
+clsGridCells& clsGridCells::Time(int column, const QTime& time) {
+    return Set(column, time.isValid() ? FormatTime(time) : QString(), time);
+}
+
+clsGridCells& clsGridCells::Icon(int column, int imageIndex) {
+    return Set(column, imageIndex < 0 ? QString() : QString::number(imageIndex), imageIndex);
+}
+
+clsGridCells& clsGridCells::Look(const QColor& foreground, bool strikeOut) {
+    if (mRow == nullptr) return *this;
+    mRow->Foreground = foreground;
+    mRow->StrikeOut = strikeOut;
+    return *this;
+}
+
+clsGridCells& clsGridCells::Notes(const QString& text) {
+    if (mRow == nullptr) return *this;
+    mModel.CountRowText(mRow->RowText, text);
+    mRow->RowText = text;
+    return *this;
+}
+
 // ---- clsGridFill --------------------------------------------------------------------------------------
 
-clsGridFill::clsGridFill(clsGridModel& model) : mModel(model) {
+clsGridFill::clsGridFill(clsGridModel& model) : clsGridCells(model) {
     mModel.beginResetModel();
     mModel.mRoot.Children.clear();
     mModel.mGroupByText.clear();
@@ -294,39 +350,8 @@ clsGridFill& clsGridFill::NoGroup() {
     return *this;
 }
 
-clsGridFill& clsGridFill::Row(qint64 itemData) {
+clsGridCells& clsGridFill::Row(qint64 itemData) {
     mRow = mModel.NewRecord(mGroup != nullptr ? mGroup : &mModel.mRoot, itemData);
     mRow->Cells.resize(mModel.mColumns.size());
-    return *this;
-}
-
-clsGridFill& clsGridFill::Set(const QString& key, const QString& text) { return Set(mModel.ColumnIndex(key), text); }
-
-clsGridFill& clsGridFill::Set(int column, const QString& text) {
-    if (mRow != nullptr && column >= 0 && column < mRow->Cells.size()) mRow->Cells[column] = text;
-    return *this;
-}
-
-clsGridFill& clsGridFill::Set(const GridCells& cells) {
-    for (const auto& [key, text] : cells)
-        Set(key, text);
-    return *this;
-}
-
-clsGridFill& clsGridFill::Icon(const QString& key, int imageIndex) {
-    return Set(key, imageIndex < 0 ? QString() : QString::number(imageIndex));
-}
-
-clsGridFill& clsGridFill::Look(const QColor& foreground, bool strikeOut) {
-    if (mRow == nullptr) return *this;
-    mRow->Foreground = foreground;
-    mRow->StrikeOut = strikeOut;
-    return *this;
-}
-
-clsGridFill& clsGridFill::Notes(const QString& text) {
-    if (mRow == nullptr) return *this;
-    mModel.CountRowText(mRow->RowText, text);
-    mRow->RowText = text;
     return *this;
 }

@@ -6,13 +6,16 @@
 #include <QIcon>
 #include <QList>
 #include <QString>
+#include <QVariant>
 #include <QVector>
+#include <any>
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
 
-// The texts of a row by column key, as a page makes them for one record.
-using GridCells = QList<std::pair<QString, QString>>;
+class QDate;
+class QTime;
 
 // The data roles of the grid beside Qt's own.
 namespace GridRole {
@@ -22,13 +25,17 @@ enum : int {
     RowText,                     // the text shown under the row (notes)
     ColumnKey,                   // header data: the column's key
     Expanded,                    // bool, group rows
+    SortValue,                   // what a record's cell sorts by: a number, a date, a time or its text
 };
 }
 
-// What a column holds decides how it sorts and whether the search looks at it.
-enum class GridColumnKind { Text, Icon, Number, Date, Time };
+// What a column holds: icon columns are left out of the search, and numbers and money stand right.
+// A cell sorts by the value it was given beside its text (clsGridCells), never by reading the text.
+enum class GridColumnKind { Text, Icon, Number, Money, Date, Time };
 
-// A column of a grid. Pages list theirs in a few lines:
+// A column of a grid. A page names its columns by an enum and lists them in its order; the key is the
+// name under which the settings keep the column's place and width:
+//     enum Column : int { ICO, FULL_NM, GROUP, ColumnCount };
 //     grid->SetColumns({clsGridColumn("ICO", "", 20).OfKind(GridColumnKind::Icon),
 //                       clsGridColumn("FULL_NM", "Name", 200).StoreWidth(),
 //                       clsGridColumn("GROUP", "", 0).NeverShown()});
@@ -38,7 +45,8 @@ struct clsGridColumn {
 
     clsGridColumn& OfKind(GridColumnKind kind) {
         Kind = kind;
-        if (kind == GridColumnKind::Number) Alignment = Qt::AlignRight | Qt::AlignVCenter;
+        if (kind == GridColumnKind::Number || kind == GridColumnKind::Money)
+            Alignment = Qt::AlignRight | Qt::AlignVCenter;
         return *this;
     }
     clsGridColumn& AlignRight() { Alignment = Qt::AlignRight | Qt::AlignVCenter; return *this; }
@@ -66,10 +74,11 @@ struct clsGridColumn {
 struct clsGridRow {
     bool IsGroup = false;
     bool Expanded = true;
-    bool Hidden = false;
     qint64 ItemData = 0;
     QVector<QString> Cells; // by column; an icon column holds the icon's index as text
+    QVector<QVariant> Sorts; // by column, what a cell sorts by; empty while no cell was given a value
     QString RowText;
+    std::any Record; // the record the row shows, when the page keeps it with the row
     // How a record row is drawn apart from the others: its text colour (invalid: the palette's) and a
     // line through its text.
     QColor Foreground;
@@ -79,6 +88,48 @@ struct clsGridRow {
     std::vector<std::unique_ptr<clsGridRow>> Children;
 
     QString Cell(int column) const { return column >= 0 && column < Cells.size() ? Cells[column] : QString(); }
+    // The cell's sort value, or its text when it was given none.
+    QVariant SortValue(int column) const {
+        const QVariant value = Sorts.value(column);
+        return value.isValid() ? value : QVariant(Cell(column));
+    }
+};
+
+class clsGridModel;
+
+// Writes the cells of one record row: each cell by its column, with the value it sorts by. A page writes a
+// record's row with one function of its own, both when it fills the grid and when it refreshes a row:
+//     void WriteRow(clsGridCells& cells, const clsGIFT& g) {
+//         cells.Set(FROM, g.FROM_TX).Date(RECEIVED_DT, g.Received()).Money(AMOUNT, g.Amount()).Keep(g);
+//     }
+class clsGridCells {
+public:
+    clsGridCells& Set(int column, const QString& text);
+    clsGridCells& Set(int column, const QString& text, const QVariant& sortValue);
+    // A whole number, written in digits.
+    clsGridCells& Number(int column, qint64 value);
+    // A number as the record holds it in text ("12"); it sorts by its value, an empty text first.
+    clsGridCells& Number(int column, const QString& digits);
+    // An amount, written in the currency format of the system.
+    clsGridCells& Money(int column, double amount);
+    // A date as "dd-mmm-yyyy" and a time in the program's time format; an empty one sorts first.
+    clsGridCells& Date(int column, const QDate& date);
+    clsGridCells& Time(int column, const QTime& time);
+    clsGridCells& Icon(int column, int imageIndex);
+    clsGridCells& Notes(const QString& text);
+    clsGridCells& Look(const QColor& foreground, bool strikeOut);
+    // Keeps the record with the row, for the page to take back with clsGridModel::RecordAt.
+    template <typename T> clsGridCells& Keep(T record) {
+        if (mRow != nullptr) mRow->Record = std::move(record);
+        return *this;
+    }
+
+protected:
+    explicit clsGridCells(clsGridModel& model, clsGridRow* row = nullptr) : mModel(model), mRow(row) {}
+    friend class clsGridModel;
+
+    clsGridModel& mModel;
+    clsGridRow* mRow;
 };
 
 // All rows of a grid, with group rows on the top level and the records below them (or records on the top
@@ -95,6 +146,7 @@ public:
     void SetColumns(const QList<clsGridColumn>& columns);
     const QList<clsGridColumn>& Columns() const { return mColumns; }
     const clsGridColumn& Column(int index) const { return mColumns.at(index); }
+    // The column stored under this key; -1 for none.
     int ColumnIndex(const QString& key) const { return mColumnByKey.value(key, -1); }
     // The pictures of icon columns, by index (the shell's image list).
     void SetImages(const QList<QIcon>& images) { mImages = images; }
@@ -106,6 +158,13 @@ public:
     bool HasRowText() const { return mRowTextCount > 0; }
     clsGridRow* RowAt(const QModelIndex& index) const;
     QModelIndex IndexOf(const clsGridRow* row, int column = 0) const;
+    // The key of a record row; 0 for a group row or no row.
+    qint64 KeyAt(const QModelIndex& index) const;
+    // The record kept with a record row (clsGridCells::Keep); nullptr when it keeps none of that type.
+    template <typename T> const T* RecordAt(const QModelIndex& index) const {
+        const clsGridRow* row = RowAt(index);
+        return row != nullptr ? std::any_cast<T>(&row->Record) : nullptr;
+    }
     // The first record row with this key; invalid when there is none.
     QModelIndex FindRecord(qint64 itemData) const;
     const std::vector<std::unique_ptr<clsGridRow>>& TopRows() const { return mRoot.Children; }
@@ -123,16 +182,14 @@ public:
     // Adds one record row, in the group with this text (made when missing) or on the top level.
     QModelIndex AddRecord(qint64 itemData, const QString& groupText = QString());
     void RemoveRow(const QModelIndex& index);
-    void SetCell(const QModelIndex& index, const QString& key, const QString& text);
-    void SetCells(const QModelIndex& index, const GridCells& cells);
+    // Writes a record row's cells anew; the view is told once.
+    void Rewrite(const QModelIndex& index, const std::function<void(clsGridCells&)>& write);
     void SetRowText(const QModelIndex& index, const QString& text);
     // The colour of a record row's text (invalid: the palette's) and whether a line goes through it.
     void SetRowLook(const QModelIndex& index, const QColor& foreground, bool strikeOut);
     // Moves a row one place up (-1) or down (+1) among its siblings; false at the edge.
     bool MoveRow(const QModelIndex& index, int step);
     void SetExpanded(clsGridRow& group, bool expanded) { group.Expanded = expanded; }
-    // Hidden flags are set in bulk without signals; the proxy is told once afterwards.
-    void SetHidden(clsGridRow& row, bool hidden) { row.Hidden = hidden; }
 
     // ---- QAbstractItemModel ----
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
@@ -145,6 +202,7 @@ public:
 
 private:
     friend class clsGridFill;
+    friend class clsGridCells;
     clsGridRow* NewGroup(const QString& text);
     clsGridRow* NewRecord(clsGridRow* parent, qint64 itemData);
     const clsGridRow* ParentRow(const QModelIndex& parent) const;
@@ -167,9 +225,8 @@ private:
 //
 //     clsGridFill fill(grid->Model());
 //     for (const auto& c : contacts)
-//         fill.Group(c.ROLE_TX).Row(c.CONTACT_ID.toLongLong())
-//             .Set("FULL_NM", c.LastFirstMiddleSuffix()).Icon("ICO", 1).Notes(c.NOTES_TX);
-class clsGridFill {
+//         fill.Group(c.ROLE_TX).Row(c.CONTACT_ID.toLongLong()).Set(FULL_NM, c.ListName()).Icon(ICO, 1);
+class clsGridFill : public clsGridCells {
 public:
     explicit clsGridFill(clsGridModel& model);
     ~clsGridFill();
@@ -180,17 +237,9 @@ public:
     clsGridFill& Group(const QString& text);
     // Back to rows on the top level.
     clsGridFill& NoGroup();
-    // A new record row; Set, Icon and Notes then write into it.
-    clsGridFill& Row(qint64 itemData);
-    clsGridFill& Set(const QString& key, const QString& text);
-    clsGridFill& Set(int column, const QString& text);
-    clsGridFill& Set(const GridCells& cells);
-    clsGridFill& Icon(const QString& key, int imageIndex);
-    clsGridFill& Notes(const QString& text);
-    clsGridFill& Look(const QColor& foreground, bool strikeOut);
+    // A new record row; the cells then go into it.
+    clsGridCells& Row(qint64 itemData);
 
 private:
-    clsGridModel& mModel;
     clsGridRow* mGroup = nullptr;
-    clsGridRow* mRow = nullptr;
 };

@@ -4,29 +4,20 @@
 
 #include <QDate>
 #include <QTime>
+#include <algorithm>
+#include <limits>
 
 namespace {
 
-double NumberOf(const QString& text) {
-    QString digits;
-    digits.reserve(text.size());
-    for (const QChar c : text)
-        if (c.isDigit() || c == QLatin1Char('.') || c == QLatin1Char('-')) digits.append(c);
-    return digits.toDouble();
+// An empty or unset date or time sorts first.
+qint64 DayOf(const QVariant& value) {
+    const QDate date = value.toDate();
+    return date.isValid() ? date.toJulianDay() : std::numeric_limits<qint64>::min();
 }
 
-// Dates and times as the program shows them; an empty or unreadable cell sorts first.
-qint64 DateOf(const QString& text) {
-    const QDate date = QDate::fromString(text.left(11), QStringLiteral("dd-MMM-yyyy"));
-    return date.isValid() ? date.toJulianDay() : -1;
-}
-
-int TimeOf(const QString& text) {
-    for (const char* format : {"h:mm AP", "h:mm ap", "H:mm"}) {
-        const QTime time = QTime::fromString(text.trimmed(), QLatin1String(format));
-        if (time.isValid()) return time.msecsSinceStartOfDay();
-    }
-    return -1;
+int ClockOf(const QVariant& value) {
+    const QTime time = value.toTime();
+    return time.isValid() ? time.msecsSinceStartOfDay() : -1;
 }
 
 } // namespace
@@ -34,13 +25,39 @@ int TimeOf(const QString& text) {
 clsGridProxy::clsGridProxy(clsGridModel* model, QObject* parent) : QSortFilterProxyModel(parent), mModel(model) {
     setSourceModel(model);
     setDynamicSortFilter(false);
+    // A group stays while one of its records is found.
+    setRecursiveFilteringEnabled(true);
 }
 
-void clsGridProxy::RefreshHidden() { invalidateFilter(); }
+void clsGridProxy::SetSearch(const QString& text, int columnCount) {
+    mSearch = text;
+    mSearchColumns.clear();
+    const int last = columnCount < 0 ? mModel->columnCount() : std::min(columnCount, mModel->columnCount());
+    for (int column = 0; column < last; ++column)
+        if (mModel->Column(column).Kind != GridColumnKind::Icon) mSearchColumns.append(column);
+    invalidateFilter();
+}
+
+bool clsGridProxy::Matches(const clsGridRow& row) const {
+    return std::any_of(mSearchColumns.begin(), mSearchColumns.end(),
+                       [&](int column) { return row.Cell(column).contains(mSearch, Qt::CaseInsensitive); });
+}
 
 bool clsGridProxy::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const {
     const clsGridRow* row = mModel->RowAt(mModel->index(sourceRow, 0, sourceParent));
-    return row != nullptr && !row->Hidden;
+    if (row == nullptr) return false;
+    if (mSearch.isEmpty()) return true;
+    // A group row is kept through its records.
+    return !row->IsGroup && Matches(*row);
+}
+
+int clsGridProxy::ShownRecords() const {
+    int count = 0;
+    for (int row = 0; row < rowCount(); ++row) {
+        const QModelIndex top = index(row, 0);
+        count += top.data(GridRole::IsGroup).toBool() ? rowCount(top) : 1;
+    }
+    return count;
 }
 
 bool clsGridProxy::lessThan(const QModelIndex& left, const QModelIndex& right) const {
@@ -52,14 +69,15 @@ bool clsGridProxy::lessThan(const QModelIndex& left, const QModelIndex& right) c
         return sortOrder() == Qt::AscendingOrder ? before : !before;
     }
     const int column = left.column();
-    const QString x = a->Cell(column);
-    const QString y = b->Cell(column);
+    const QVariant x = a->SortValue(column);
+    const QVariant y = b->SortValue(column);
     switch (mModel->Column(column).Kind) {
     case GridColumnKind::Icon:
-    case GridColumnKind::Number: return NumberOf(x) < NumberOf(y);
-    case GridColumnKind::Date: return DateOf(x) < DateOf(y);
-    case GridColumnKind::Time: return TimeOf(x) < TimeOf(y);
+    case GridColumnKind::Number:
+    case GridColumnKind::Money: return x.toDouble() < y.toDouble();
+    case GridColumnKind::Date: return DayOf(x) < DayOf(y);
+    case GridColumnKind::Time: return ClockOf(x) < ClockOf(y);
     case GridColumnKind::Text: break;
     }
-    return x.compare(y, Qt::CaseInsensitive) < 0;
+    return x.toString().compare(y.toString(), Qt::CaseInsensitive) < 0;
 }

@@ -35,9 +35,7 @@ bool GridMoveRowUp(usrGrid* grid) { return MoveSelectedRow(grid, -1); }
 
 bool GridMoveRowDown(usrGrid* grid) { return MoveSelectedRow(grid, +1); }
 
-int GridCountAddresses(const usrGrid* grid, const QString& columnKey) {
-    const int column = grid->ColumnIndex(columnKey);
-    if (column < 0) return 0;
+int GridCountAddresses(const usrGrid* grid, int column) {
     int count = 0;
     for (const QModelIndex& index : grid->SelectedRows()) {
         const clsGridRow* row = grid->Model()->RowAt(index);
@@ -237,33 +235,12 @@ void GridToggleGroup(usrGrid* grid, const QModelIndex& row, const QString& key) 
 // ---- Search --------------------------------------------------------------------------------------------
 
 void GridSearch(usrGrid* grid, const QString& text, int columnCount, int& count) {
-    clsGridModel* model = grid->Model();
-    count = 0;
-    QList<int> columns;
-    for (int column = 0; column < std::min(columnCount, model->columnCount()); ++column)
-        if (model->Column(column).Kind != GridColumnKind::Icon) columns.append(column);
-    for (const auto& top : model->TopRows()) {
-        bool groupMatches = false;
-        const auto judge = [&](clsGridRow& row) {
-            const bool match = text.isEmpty() || std::any_of(columns.begin(), columns.end(), [&](int column) {
-                return row.Cell(column).contains(text, Qt::CaseInsensitive);
-            });
-            model->SetHidden(row, !match);
-            count += int(match);
-            groupMatches |= match;
-        };
-        if (!top->IsGroup) {
-            judge(*top);
-            continue;
-        }
-        for (const auto& child : top->Children) judge(*child);
-        model->SetHidden(*top, !text.isEmpty() && !groupMatches);
-    }
-    grid->Proxy()->RefreshHidden();
+    grid->Proxy()->SetSearch(text, columnCount);
+    count = grid->Proxy()->ShownRecords();
 }
 
 int GridSearch(usrGrid* grid, const QString& text) {
     int count = 0;
-    GridSearch(grid, text, grid->Model()->columnCount(), count);
+    GridSearch(grid, text, -1, count);
     return count;
 }

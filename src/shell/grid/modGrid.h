@@ -18,7 +18,7 @@ bool GridHasSelection(const usrGrid* grid);
 bool GridMoveRowUp(usrGrid* grid);
 bool GridMoveRowDown(usrGrid* grid);
 // The selected record rows whose cell in the column holds an "@".
-int GridCountAddresses(const usrGrid* grid, const QString& columnKey);
+int GridCountAddresses(const usrGrid* grid, int column);
 
 // The file pictures, in the order of their index.
 enum FileIconKind : int {
@@ -54,9 +54,9 @@ void GridSelectByKey(usrGrid* grid, qint64 key);
 void GridRestoreGroups(usrGrid* grid, const QString& key);
 void GridSetAllGroups(usrGrid* grid, bool expanded, const QString& key);
 void GridToggleGroup(usrGrid* grid, const QModelIndex& row, const QString& key);
-// Keeps the rows with a cell among the first columnCount columns that holds the text, in any case of
-// letters, and the groups over them; icon columns are not looked at. An empty text shows every row.
-// The number of matching records goes to count.
+// Keeps the rows with a cell among the first columnCount columns (-1: all) that holds the text, in any
+// case of letters, and the groups over them; icon columns are not looked at. An empty text shows every
+// row. The number of matching records goes to count.
 void GridSearch(usrGrid* grid, const QString& text, int columnCount, int& count);
 int GridSearch(usrGrid* grid, const QString& text);
 // Selects every record row, never a group row.

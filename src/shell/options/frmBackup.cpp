@@ -6,12 +6,16 @@
 #include "platform/clsShell.h"
 #include "shell/controls/usrHint.h"
 #include "shell/controls/usrHyperlink.h"
-#include "shell/options/modDatabaseBackup.h"
+#include "core/modBackup.h"
+#include "core/modSubMain.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QLocale>
+#include <QTreeWidget>
 #include <QLabel>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -66,6 +70,24 @@ frmBackup::frmBackup(QWidget* parent) : QDialog(parent) {
     mOpenBackup->hide();
     connect(mOpenBackup, &usrHyperlink::Click, this, [this] { gShell().OpenDocument(mLastFolder); });
 
+    mBackups = new QTreeWidget(this);
+    mBackups->setObjectName(QStringLiteral("lvwBackups"));
+    mBackups->setHeaderLabels({QStringLiteral("Written"), QStringLiteral("Size"), QStringLiteral("Contacts"),
+                               QStringLiteral("Invitations")});
+    mBackups->setRootIsDecorated(false);
+    mBackups->setUniformRowHeights(true);
+    mBackups->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    mBackups->setMinimumHeight(mBackups->fontMetrics().height() * 8);
+    mRestore = new QPushButton(QStringLiteral("Restore..."), this);
+    mRestore->setObjectName(QStringLiteral("cmdRestore"));
+    mRestore->setToolTip(QStringLiteral("Put the chosen copy in place of the database (the present state is "
+                                        "saved first)"));
+    connect(mRestore, &QPushButton::clicked, this, &frmBackup::cmdRestore_Click);
+    connect(mBackups, &QTreeWidget::itemSelectionChanged, this,
+            [this] { mRestore->setEnabled(mBackups->currentItem() != nullptr); });
+    connect(mBackups, &QTreeWidget::itemDoubleClicked, this, &frmBackup::cmdRestore_Click);
+    FillBackups();
+
     auto* buttons = new QDialogButtonBox(this);
     QPushButton* close = buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole);
     close->setObjectName(QStringLiteral("cmdClose"));
@@ -94,7 +116,12 @@ frmBackup::frmBackup(QWidget* parent) : QDialog(parent) {
     layout->addWidget(mResult);
     layout->addWidget(mOpenBackup, 0, Qt::AlignLeft);
     layout->addSpacing(8);
-    layout->addWidget(TextLabel(QStringLiteral("To restore"), this, true));
+    layout->addWidget(TextLabel(QStringLiteral("Copies Vowren keeps by itself (one a day, the newest first)"), this,
+                                true));
+    layout->addWidget(mBackups);
+    layout->addWidget(mRestore, 0, Qt::AlignLeft);
+    layout->addSpacing(8);
+    layout->addWidget(TextLabel(QStringLiteral("To restore by hand"), this, true));
     layout->addWidget(
         new usrHint(QStringLiteral("Note: Vowren must be closed before you perform this step."), this));
     layout->addWidget(
@@ -115,7 +142,7 @@ frmBackup::frmBackup(QWidget* parent) : QDialog(parent) {
 }
 
 QString frmBackup::BackupTo(const QString& folder) {
-    const modDatabaseBackup::Result result = modDatabaseBackup::WriteBackup(gDB().Connection(), folder);
+    const modBackup::Result result = modBackup::WriteBackup(gDB().Connection(), folder);
     if (!result.Ok) {
         ShowMessage(result.Error + QStringLiteral("\n\nChoose another folder and try again."),
                     Msg::OKOnly | Msg::Exclamation);
@@ -133,4 +160,51 @@ void frmBackup::cmdBackupNow_Click() {
         this, QStringLiteral("Choose a folder for the backup"), mLastFolder);
     if (!folder.isEmpty())
         BackupTo(folder);
+}
+
+void frmBackup::FillBackups() {
+    mBackups->clear();
+    const QLocale locale;
+    for (const modBackup::Entry& entry : modBackup::List()) {
+        auto* item = new QTreeWidgetItem(mBackups);
+        item->setText(0, locale.toString(entry.Written, QLocale::ShortFormat));
+        item->setText(1, locale.formattedDataSize(entry.Size));
+        item->setText(2, entry.Contacts < 0 ? QStringLiteral("unreadable") : locale.toString(entry.Contacts));
+        item->setText(3, entry.Invitations < 0 ? QString() : locale.toString(entry.Invitations));
+        item->setData(0, Qt::UserRole, entry.Path);
+        item->setToolTip(0, QDir::toNativeSeparators(entry.Path));
+        for (int column = 1; column < 4; ++column)
+            item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+    }
+    if (mBackups->topLevelItemCount() == 0) {
+        auto* none = new QTreeWidgetItem(mBackups, {QStringLiteral("No copies yet: Vowren writes one a day.")});
+        none->setFlags(Qt::NoItemFlags);
+    }
+    mRestore->setEnabled(false);
+}
+
+bool frmBackup::RestoreFrom(const QString& file) {
+    const QString question = QStringLiteral("Put the copy \"%1\" in place of the database?\n\nThe database as it "
+                                            "is now is saved as one more copy first, so this can be undone.")
+                                 .arg(QFileInfo(file).fileName());
+    if (ShowMessage(question, Msg::YesNo | Msg::Question) != Msg::Yes)
+        return false;
+    const modBackup::Result result = modBackup::Restore(gDB(), file);
+    if (!result.Ok) {
+        ShowMessage(result.Error, Msg::OKOnly | Msg::Exclamation);
+        return false;
+    }
+    modSubMain::RunPatchesAndOpenGlobals();
+    mRestored = true;
+    FillBackups();
+    ShowMessage(QStringLiteral("The copy was restored. The database as it was before is saved as \"%1\".")
+                    .arg(QDir::toNativeSeparators(result.Path)),
+                Msg::OKOnly | Msg::Information);
+    return true;
+}
+
+void frmBackup::cmdRestore_Click() {
+    const QTreeWidgetItem* item = mBackups->currentItem();
+    if (item && !item->data(0, Qt::UserRole).toString().isEmpty())
+        RestoreFrom(item->data(0, Qt::UserRole).toString());
 }

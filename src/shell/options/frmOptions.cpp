@@ -132,6 +132,8 @@ void ShowOptions(QWidget* parent, int kind) {
 void ShowBackup(QWidget* parent) {
     frmBackup dialog(parent);
     dialog.exec();
+    if (dialog.Restored())
+        emit gOptionsEvents().DatabaseRestored();
 }
 
 QStringList frmOptions::CountryNames() {

@@ -34,6 +34,8 @@ signals:
     void IconsUpdated();
     // The country of the map links changed.
     void CountryUpdated();
+    // A backup was put in place of the database: every page reads its data again.
+    void DatabaseRestored();
 };
 OptionsEvents& gOptionsEvents();
 
