@@ -126,10 +126,10 @@ BENCHMARK(BM_ContactOpenRecords_BareSqlite)->Unit(benchmark::kMillisecond);
 void BM_RelabelAllInvites(benchmark::State& state) {
     for (auto _ : state) {
         clsTransaction tx(gDB());
-        QList<clsINVITE> invites = clsINVITE::OpenRecordsOrThrow(0, false);
+        QList<clsINVITE> invites = clsINVITE::OpenRecords(0, false);
         for (clsINVITE& invite : invites) {
-            invite.RefreshLabelingOrThrow(true, false);
-            invite.SaveOrThrow(false);
+            invite.RefreshLabeling(true, false);
+            invite.Save(false);
         }
         state.counters["invites"] = static_cast<double>(invites.size());
     }

@@ -23,6 +23,7 @@ CliCommand ParseAddressCommand();
 CliCommand DemoCommand();
 CliCommand ReportCommand();
 CliCommand DeleteCommand();
+CliCommand RelabelCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

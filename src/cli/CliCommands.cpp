@@ -25,7 +25,8 @@ int RunInfo(const QStringList& args, QTextStream& out, QTextStream& err) {
 const std::vector<CliCommand>& CliCommands() {
     static const std::vector<CliCommand> commands = {
         {QStringLiteral("info"), QStringLiteral("info"),
-         QStringLiteral("Print the version, the data root, the settings file and the resolved paths."), RunInfo},
+         QStringLiteral("Print the version, the data root, the settings file and the resolved paths."),
+         RunInfo},
         InitCommand(),
         SqlCommand(),
         ParseNameCommand(),
@@ -35,6 +36,7 @@ const std::vector<CliCommand>& CliCommands() {
         BackupCommand(),
         RestoreCommand(),
         DeleteCommand(),
+        RelabelCommand(),
     };
     return commands;
 }

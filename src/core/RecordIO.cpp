@@ -18,6 +18,16 @@ QString NextID(const QString& table, const QString& keyColumn) {
 
 void Report(const clsDbError& error) { ShowMessage(error.Message(), Msg::OKOnly); }
 
+bool Attempt(const std::function<void()>& work) {
+    try {
+        work();
+        return true;
+    } catch (const clsDbError& e) {
+        Report(e);
+        return false;
+    }
+}
+
 bool Run(const QString& sql, const QVariantList& values) {
     try {
         gDB().Execute(sql, values);

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QString>
 #include <QVariantList>
+#include <functional>
 #include <vector>
 
 // The one pattern every record class follows: one QString member per column, read as text, written
@@ -39,6 +40,20 @@ long Count(const QString& sql, const QVariantList& values = {});
 bool Delete(const QString& table, const QString& keyColumn, const QString& keyValue);
 // The message of a failure, shown the one way messages are shown.
 void Report(const clsDbError& error);
+
+// The edge between the records and whoever asked them (a screen, a command): the records throw
+// clsDbError, and here the failure is shown the one way messages are shown instead of going further.
+// True when the work ran through.
+bool Attempt(const std::function<void()>& work);
+// The same for work that gives a value: the value, or an empty one after the message.
+template <class Work> auto Read(Work&& work) -> decltype(work()) {
+    try {
+        return work();
+    } catch (const clsDbError& e) {
+        Report(e);
+        return {};
+    }
+}
 
 // Where each field of the table stands among the columns (-1 when the statement did not give it; the first
 // of two equal names wins).

@@ -65,8 +65,7 @@ bool clsVOWREN::Patch_6_Apply() {
 bool clsVOWREN::Patch_7_Apply() {
     if (NextFreeID() != QLatin1String("7"))
         return false;
-    // A Boolean kept as text reads "True" or "False".
-    const QString formal = gApp().EtiquetteIsFormal() ? QStringLiteral("True") : QStringLiteral("False");
+    const QString formal = BooleanText(gApp().EtiquetteIsFormal());
     InsertRows({{7, formal}, {8, formal}, {9, QString::number(gApp().GoogleMapIndex())}});
     return true;
 }

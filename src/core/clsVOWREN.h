@@ -27,6 +27,10 @@ public:
     static QString ReadStored(int id);
     // The map country kept with the data (row 9); 0, the United States, when it can't be read.
     static int MapCountryIndex();
+    // A Boolean kept as text reads "True" or "False".
+    static QString BooleanText(bool value) {
+        return value ? QStringLiteral("True") : QStringLiteral("False");
+    }
 
     // ---- Schema ----
     static bool CreateTable();

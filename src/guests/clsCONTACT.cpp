@@ -330,33 +330,18 @@ bool clsCONTACT::OpenRecord(const QString& contactId, const QString& roleId, con
     take(guestOfId, "WHERE CONTACT.GUEST_OF_ID = ?");
     if (condition.isEmpty())
         return false;
-    try {
-        const QList<clsCONTACT> found =
-            Query(SelectSQL() + condition + QStringLiteral(" ORDER BY CONTACT.CONTACT_ID LIMIT 1"), {value});
-        if (found.isEmpty())
-            return false;
-        *this = found.first();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
+    const QList<clsCONTACT> found =
+        Query(SelectSQL() + condition + QStringLiteral(" ORDER BY CONTACT.CONTACT_ID LIMIT 1"), {value});
+    if (found.isEmpty())
         return false;
-    }
-}
-
-QList<clsCONTACT> clsCONTACT::OpenRecordsOrThrow(int filter, const QString& customWhere, const QString& sort,
-                                                 bool excludeBrideGroom) {
-    return Query(SelectSQL() + BuildContactWhere(filter, customWhere, excludeBrideGroom) +
-                 BuildContactOrder(filter, sort));
+    *this = found.first();
+    return true;
 }
 
 QList<clsCONTACT> clsCONTACT::OpenRecords(int filter, const QString& customWhere, const QString& sort,
                                           bool excludeBrideGroom) {
-    try {
-        return OpenRecordsOrThrow(filter, customWhere, sort, excludeBrideGroom);
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return {};
-    }
+    return Query(SelectSQL() + BuildContactWhere(filter, customWhere, excludeBrideGroom) +
+                 BuildContactOrder(filter, sort));
 }
 
 // The join word of INVITE follows the filter code alone. The other tables are joined too, so that a
@@ -369,7 +354,8 @@ long clsCONTACT::GetTotal(int filter, const QString& customWhere, bool excludeBr
     return RecordIO::Count(sql);
 }
 
-void clsCONTACT::SaveOrThrow(bool Add, bool RefreshInvite) {
+void clsCONTACT::Save(bool Add, bool RefreshInvite) {
+    const clsCONTACT before = *this;
     if (OUT_OF_TOWNER_FG.isEmpty())
         OUT_OF_TOWNER_FG = QStringLiteral("N");
     if (GENDER_FG.isEmpty())
@@ -381,27 +367,20 @@ void clsCONTACT::SaveOrThrow(bool Add, bool RefreshInvite) {
         MEAL_ID.clear();
         DINING_TABLE_ID.clear();
     }
-    clsTransaction tx(gDB());
-    RecordIO::SaveOrThrow(*this, Table(), Add);
-    if (!INVITE_ID.isEmpty() && !Add && RefreshInvite) {
-        clsINVITE invite;
-        if (invite.OpenRecordOrThrow(INVITE_ID, false)) {
-            invite.RefreshLabelingOrThrow(true, false);
-            invite.SaveOrThrow(false);
-        }
-    }
-    tx.Commit();
-}
-
-bool clsCONTACT::Save(bool Add, bool RefreshInvite) {
-    const clsCONTACT before = *this;
     try {
-        SaveOrThrow(Add, RefreshInvite);
-        return true;
-    } catch (const clsDbError& e) {
+        clsTransaction tx(gDB());
+        RecordIO::SaveOrThrow(*this, Table(), Add);
+        if (!INVITE_ID.isEmpty() && !Add && RefreshInvite) {
+            clsINVITE invite;
+            if (invite.OpenRecord(INVITE_ID, false)) {
+                invite.RefreshLabeling(true, false);
+                invite.Save(false);
+            }
+        }
+        tx.Commit();
+    } catch (...) {
         *this = before;
-        RecordIO::Report(e);
-        return false;
+        throw;
     }
 }
 
@@ -469,16 +448,16 @@ Leaving WhoLeaves(const QStringList& contactIds, clsDeleteResult& result) {
 void RelabelAfterLeaving(const QString& inviteId) {
     clsINVITE invite;
     invite.INVITE_ID = inviteId;
-    invite.SetGuestsOrThrow();
+    invite.SetGuests();
     if (invite.GUESTS.isEmpty())
         return;
     const clsCONTACT& first = invite.GUESTS.first();
     if (first.PRIMARY_CONTACT_FG != QLatin1String("Y"))
         gDB().Execute(QStringLiteral("UPDATE CONTACT SET PRIMARY_CONTACT_FG = 'Y' WHERE CONTACT_ID = ?"),
                       {first.CONTACT_ID});
-    if (invite.OpenRecordOrThrow(inviteId, false)) {
-        invite.RefreshLabelingOrThrow(false, true);
-        invite.SaveOrThrow(false);
+    if (invite.OpenRecord(inviteId, false)) {
+        invite.RefreshLabeling(false, true);
+        invite.Save(false);
     }
 }
 
@@ -521,73 +500,90 @@ bool clsCONTACT::DeleteMany(const QStringList& contactIds, clsDeleteResult* resu
     }
 }
 
-bool clsCONTACT::SaveRole(const QString& contactId, const QString& roleId) {
-    try {
-        clsTransaction tx(gDB());
-        gDB().Execute(QStringLiteral("UPDATE CONTACT SET ROLE_ID = NULL WHERE ROLE_ID = ?"), {roleId});
-        if (!contactId.isEmpty())
-            gDB().Execute(QStringLiteral("UPDATE CONTACT SET ROLE_ID = ? WHERE CONTACT_ID = ?"),
-                          {roleId, contactId});
-        tx.Commit();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
+void clsCONTACT::SaveRole(const QString& contactId, const QString& roleId) {
+    clsTransaction tx(gDB());
+    gDB().Execute(QStringLiteral("UPDATE CONTACT SET ROLE_ID = NULL WHERE ROLE_ID = ?"), {roleId});
+    if (!contactId.isEmpty())
+        gDB().Execute(QStringLiteral("UPDATE CONTACT SET ROLE_ID = ? WHERE CONTACT_ID = ?"),
+                      {roleId, contactId});
+    tx.Commit();
+}
+
+void clsCONTACT::SaveCouple(const clsCONTACT& bride, const clsCONTACT& groom) {
+    struct Part {
+        const clsCONTACT& Named;
+        const char* Id;
+        const char* Title;
+        const char* Primary;
+    };
+    clsTransaction tx(gDB());
+    for (const Part& part : {Part{bride, "1", "Miss", "N"}, Part{groom, "2", "Mr.", "Y"}}) {
+        clsCONTACT person;
+        const bool isNew = !person.OpenRecord(QLatin1String(part.Id));
+        if (isNew) {
+            person.ROLE_ID = QLatin1String(part.Id);
+            person.FRIEND_OF_CD = QLatin1String(part.Id);
+        }
+        person.TITLE_TX = QLatin1String(part.Title);
+        person.FIRST_NM = part.Named.FIRST_NM;
+        person.MIDDLE_NM = part.Named.MIDDLE_NM;
+        person.LAST_NM = part.Named.LAST_NM;
+        person.SUFFIX_TX = part.Named.SUFFIX_TX;
+        person.AB_LIST_CD = QStringLiteral("A");
+        person.PRIMARY_CONTACT_FG = QLatin1String(part.Primary);
+        person.ATTENDING_FG = QStringLiteral("Y");
+        person.Save(isNew, false);
     }
+    tx.Commit();
 }
 
 // ---- Narrow updates -------------------------------------------------------------------------------
 
-bool clsCONTACT::RunWithId(const QString& sql, const QString& id) {
-    if (id.isEmpty())
-        return true;
-    return RecordIO::Run(sql, {id});
+void clsCONTACT::RunWithId(const QString& sql, const QString& id) {
+    if (!id.isEmpty())
+        gDB().Execute(sql, {id});
 }
 
-bool clsCONTACT::DeleteGuestOfGuestsWithNoInvitation() {
-    return RecordIO::Run(
-        QStringLiteral("DELETE FROM CONTACT WHERE GUEST_OF_ID Is Not Null AND INVITE_ID Is Null"));
+void clsCONTACT::DeleteGuestOfGuestsWithNoInvitation() {
+    gDB().Execute(QStringLiteral("DELETE FROM CONTACT WHERE GUEST_OF_ID Is Not Null AND INVITE_ID Is Null"));
 }
 
-bool clsCONTACT::UpdateAttendeeFieldsToNull(const QString& inviteId) {
-    return RunWithId(
-        QStringLiteral("UPDATE CONTACT SET ATTENDING_FG = 'N', MEAL_ID = NULL, DINING_TABLE_ID = NULL "
-                       "WHERE INVITE_ID = ?"),
-        inviteId);
+void clsCONTACT::UpdateAttendeeFieldsToNull(const QString& inviteId) {
+    RunWithId(QStringLiteral("UPDATE CONTACT SET ATTENDING_FG = 'N', MEAL_ID = NULL, DINING_TABLE_ID = NULL "
+                             "WHERE INVITE_ID = ?"),
+              inviteId);
 }
 
-bool clsCONTACT::UpdateInvitesToNull(const QString& inviteId) {
-    return RunWithId(
+void clsCONTACT::UpdateInvitesToNull(const QString& inviteId) {
+    RunWithId(
         QStringLiteral("UPDATE CONTACT SET INVITE_ID = NULL, PRIMARY_CONTACT_FG = 'N', "
                        "ATTENDING_FG = 'N', MEAL_ID = NULL, DINING_TABLE_ID = NULL WHERE INVITE_ID = ?"),
         inviteId);
 }
 
-bool clsCONTACT::Update_DINING_TABLE_ID_TO_NULL(const QString& diningTableId) {
-    return RunWithId(QStringLiteral("UPDATE CONTACT SET DINING_TABLE_ID = NULL WHERE DINING_TABLE_ID = ?"),
-                     diningTableId);
+void clsCONTACT::Update_DINING_TABLE_ID_TO_NULL(const QString& diningTableId) {
+    RunWithId(QStringLiteral("UPDATE CONTACT SET DINING_TABLE_ID = NULL WHERE DINING_TABLE_ID = ?"),
+              diningTableId);
 }
 
-bool clsCONTACT::Update_FLIGHT_ID_TO_NULL(const QString& flightId) {
-    return RunWithId(QStringLiteral("UPDATE CONTACT SET FLIGHT_ID = NULL WHERE FLIGHT_ID = ?"), flightId);
+void clsCONTACT::Update_FLIGHT_ID_TO_NULL(const QString& flightId) {
+    RunWithId(QStringLiteral("UPDATE CONTACT SET FLIGHT_ID = NULL WHERE FLIGHT_ID = ?"), flightId);
 }
 
-bool clsCONTACT::Update_HOTEL_ID_TO_NULL(const QString& hotelId) {
-    return RunWithId(QStringLiteral("UPDATE CONTACT SET HOTEL_ID = NULL WHERE HOTEL_ID = ?"), hotelId);
+void clsCONTACT::Update_HOTEL_ID_TO_NULL(const QString& hotelId) {
+    RunWithId(QStringLiteral("UPDATE CONTACT SET HOTEL_ID = NULL WHERE HOTEL_ID = ?"), hotelId);
 }
 
-bool clsCONTACT::UpdateFlight(const QString& contactId, const QString& flightId) {
-    if (contactId.isEmpty())
-        return true;
-    return RecordIO::Run(QStringLiteral("UPDATE CONTACT SET FLIGHT_ID = ? WHERE CONTACT_ID = ?"),
-                         {RecordIO::ToDbValue(QStringLiteral("FLIGHT_ID"), flightId), contactId});
+void clsCONTACT::UpdateFlight(const QString& contactId, const QString& flightId) {
+    if (!contactId.isEmpty())
+        gDB().Execute(QStringLiteral("UPDATE CONTACT SET FLIGHT_ID = ? WHERE CONTACT_ID = ?"),
+                      {RecordIO::ToDbValue(QStringLiteral("FLIGHT_ID"), flightId), contactId});
 }
 
-bool clsCONTACT::UpdateHotel(const QString& contactId, const QString& hotelId) {
-    if (contactId.isEmpty())
-        return true;
-    return RecordIO::Run(QStringLiteral("UPDATE CONTACT SET HOTEL_ID = ? WHERE CONTACT_ID = ?"),
-                         {RecordIO::ToDbValue(QStringLiteral("HOTEL_ID"), hotelId), contactId});
+void clsCONTACT::UpdateHotel(const QString& contactId, const QString& hotelId) {
+    if (!contactId.isEmpty())
+        gDB().Execute(QStringLiteral("UPDATE CONTACT SET HOTEL_ID = ? WHERE CONTACT_ID = ?"),
+                      {RecordIO::ToDbValue(QStringLiteral("HOTEL_ID"), hotelId), contactId});
 }
 
 // ---- Map ------------------------------------------------------------------------------------------
@@ -620,7 +616,7 @@ bool clsCONTACT::Patch_1_Apply() {
     QList<clsCONTACT> all = Query(SelectSQL() + QStringLiteral("ORDER BY CONTACT.CONTACT_ID"));
     for (clsCONTACT& c : all) {
         JoinAddressParts(c);
-        c.SaveOrThrow(false, false);
+        c.Save(false, false);
     }
     tx.Commit();
     return true;

@@ -128,21 +128,21 @@ public:
     void ParseFullName(const QString& name);
 
     // ---- Records ----
+    // Every operation below throws clsDbError when the database refuses; whoever asked shows it
+    // (RecordIO::Attempt). Work on several rows is all or nothing.
+
     // The first given of id, role, e-mail, guest-of decides (a later one wins); with none given nothing
     // is read. True when a row was read; no row leaves the object as it was.
     bool OpenRecord(const QString& contactId, const QString& roleId = {}, const QString& email = {},
                     const QString& guestOfId = {});
     static QList<clsCONTACT> OpenRecords(int filter, const QString& customWhere = {},
                                          const QString& sort = {}, bool excludeBrideGroom = false);
-    static QList<clsCONTACT> OpenRecordsOrThrow(int filter, const QString& customWhere = {},
-                                                const QString& sort = {}, bool excludeBrideGroom = false);
     static long GetTotal(int filter, const QString& customWhere = {}, bool excludeBrideGroom = false);
 
     // Writes every column. An update of a person who does not attend drops their meal and seat. With
-    // RefreshInvite, an update re-labels the person's invitation in the same transaction. False, with
-    // the message shown and the object as it was, when anything fails.
-    bool Save(bool Add, bool RefreshInvite);
-    void SaveOrThrow(bool Add, bool RefreshInvite);
+    // RefreshInvite, an update re-labels the person's invitation in the same transaction. A failed save
+    // leaves the object as it was.
+    void Save(bool Add, bool RefreshInvite);
     // Removes the person and the guest they bring, makes the next person of their invitation the
     // primary one, re-labels the invitation and removes it if nobody is left: all or nothing. The one
     // person of DeleteMany; the bride and the groom stay.
@@ -158,17 +158,20 @@ public:
     static bool IsCouple(const QString& contactId, const QString& roleId);
     // A role is held by one person: it is taken from whoever has it, then given to the contact (or to
     // nobody when the contact id is empty).
-    static bool SaveRole(const QString& contactId, const QString& roleId);
+    static void SaveRole(const QString& contactId, const QString& roleId);
+    // The couple, rows 1 and 2, as the first start learns them: their names, the titles "Miss" and "Mr.",
+    // the A list, both attending, and the groom heading their own envelope should they ever be given one.
+    static void SaveCouple(const clsCONTACT& bride, const clsCONTACT& groom);
 
     // ---- Narrow updates; each one statement, nothing done for an empty id ----
-    static bool DeleteGuestOfGuestsWithNoInvitation();
-    static bool UpdateAttendeeFieldsToNull(const QString& inviteId);
-    static bool UpdateInvitesToNull(const QString& inviteId);
-    static bool Update_DINING_TABLE_ID_TO_NULL(const QString& diningTableId);
-    static bool Update_FLIGHT_ID_TO_NULL(const QString& flightId);
-    static bool Update_HOTEL_ID_TO_NULL(const QString& hotelId);
-    static bool UpdateFlight(const QString& contactId, const QString& flightId);
-    static bool UpdateHotel(const QString& contactId, const QString& hotelId);
+    static void DeleteGuestOfGuestsWithNoInvitation();
+    static void UpdateAttendeeFieldsToNull(const QString& inviteId);
+    static void UpdateInvitesToNull(const QString& inviteId);
+    static void Update_DINING_TABLE_ID_TO_NULL(const QString& diningTableId);
+    static void Update_FLIGHT_ID_TO_NULL(const QString& flightId);
+    static void Update_HOTEL_ID_TO_NULL(const QString& hotelId);
+    static void UpdateFlight(const QString& contactId, const QString& flightId);
+    static void UpdateHotel(const QString& contactId, const QString& hotelId);
 
     // ---- Map ----
     // The address on the map site of the country chosen in the settings kept with the data.
@@ -194,7 +197,7 @@ private:
     static const RecordTable<clsCONTACT>& ReadTable();
     static QString SelectSQL();
     static QList<clsCONTACT> Query(const QString& sql, const QVariantList& values = {});
-    static bool RunWithId(const QString& sql, const QString& id);
+    static void RunWithId(const QString& sql, const QString& id);
     static void FillNewColumn(const QString& column);
 };
 // Only texts (and lists of them) inside: a record may move in memory as a block, so long lists of records

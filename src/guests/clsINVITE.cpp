@@ -148,63 +148,34 @@ QString clsINVITE::SelectSQL() {
                           "FROM INVITE INNER JOIN CONTACT ON INVITE.INVITE_ID = CONTACT.INVITE_ID ");
 }
 
-bool clsINVITE::OpenBy(const QString& condition, const QString& value, bool LoadGuests, bool* Found) {
-    if (Found)
-        *Found = false;
+bool clsINVITE::OpenBy(const QString& condition, const QString& value, bool LoadGuests) {
     if (value.isEmpty())
-        return true;
+        return false;
     const clsRecordset rs =
         gDB().Execute(SelectSQL() + QStringLiteral("WHERE ") + kPrimary + QStringLiteral(" AND ") +
                           condition + QStringLiteral(" ORDER BY INVITE.INVITE_ID LIMIT 1"),
                       {value});
     if (rs.IsEmpty())
-        return true;
+        return false;
     RecordIO::Fill(*this, rs, 0, ReadTable());
-    if (Found)
-        *Found = true;
     if (LoadGuests)
-        SetGuestsOrThrow();
+        SetGuests();
     return true;
 }
 
-bool clsINVITE::OpenRecordOrThrow(const QString& inviteId, bool LoadGuests) {
-    bool found = false;
-    OpenBy(QStringLiteral("INVITE.INVITE_ID = ?"), inviteId, LoadGuests, &found);
-    return found;
+bool clsINVITE::OpenRecord(const QString& inviteId, bool LoadGuests) {
+    return OpenBy(QStringLiteral("INVITE.INVITE_ID = ?"), inviteId, LoadGuests);
 }
 
-bool clsINVITE::OpenRecord(const QString& inviteId, bool LoadGuests, bool* Found) {
-    try {
-        return OpenBy(QStringLiteral("INVITE.INVITE_ID = ?"), inviteId, LoadGuests, Found);
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
+bool clsINVITE::OpenRecordByRSVP_ID(const QString& rsvpId, bool LoadGuests) {
+    return OpenBy(QStringLiteral("INVITE.INVITE_RSVP_ID = ?"), rsvpId, LoadGuests);
 }
 
-bool clsINVITE::OpenRecordByRSVP_ID(const QString& rsvpId, bool LoadGuests, bool* Found) {
-    try {
-        return OpenBy(QStringLiteral("INVITE.INVITE_RSVP_ID = ?"), rsvpId, LoadGuests, Found);
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
-}
-
-QList<clsINVITE> clsINVITE::OpenRecordsOrThrow(int filter, bool SortByName, const QString& customWhere) {
+QList<clsINVITE> clsINVITE::OpenRecords(int filter, bool SortByName, const QString& customWhere) {
     const QString order =
         SortByName ? QStringLiteral(" ORDER BY INVITE.DISPLAY_AS_TX COLLATE NOCASE, INVITE.INVITE_ID")
                    : QStringLiteral(" ORDER BY INVITE.INVITE_RSVP_ID, INVITE.INVITE_ID");
     return RecordIO::ReadAll(ReadTable(), SelectSQL() + BuildInviteWhere(filter, customWhere) + order);
-}
-
-QList<clsINVITE> clsINVITE::OpenRecords(int filter, bool SortByName, const QString& customWhere) {
-    try {
-        return OpenRecordsOrThrow(filter, SortByName, customWhere);
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return {};
-    }
 }
 
 long clsINVITE::GetTotal(int filter, const QString& customWhere) {
@@ -213,40 +184,102 @@ long clsINVITE::GetTotal(int filter, const QString& customWhere) {
                            BuildInviteWhere(filter, customWhere));
 }
 
-void clsINVITE::SaveOrThrow(bool Add) {
-    clsTransaction tx(gDB());
-    if (Add) {
-        INVITE_ID = RecordIO::NextID(QStringLiteral("INVITE"), QStringLiteral("INVITE_ID"));
-        if (INVITE_RSVP_ID.isEmpty())
-            INVITE_RSVP_ID = NEXT_INVITE_RSVP_ID();
-        if (INVITE_SENT_FG.isEmpty())
-            INVITE_SENT_FG = QStringLiteral("N");
-        if (RSVP_RECEIVED_FG.isEmpty())
-            RSVP_RECEIVED_FG = QStringLiteral("N");
-        if (AUTO_UPDATE_FG.isEmpty())
-            AUTO_UPDATE_FG = QStringLiteral("Y");
-        RecordIO::SaveOrThrow(*this, Table(), true, false);
-    } else {
-        // An invitation that is not sent has no attendees, no meals and no seats.
-        if (INVITE_SENT_FG == QLatin1String("N") && !INVITE_ID.isEmpty())
-            gDB().Execute(QStringLiteral("UPDATE CONTACT SET ATTENDING_FG = 'N', MEAL_ID = NULL, "
-                                         "DINING_TABLE_ID = NULL WHERE INVITE_ID = ?"),
-                          {INVITE_ID});
-        RecordIO::SaveOrThrow(*this, Table(), false);
-    }
-    tx.Commit();
-}
-
-bool clsINVITE::Save(bool Add) {
+void clsINVITE::Save(bool Add) {
     const clsINVITE before = *this;
     try {
-        SaveOrThrow(Add);
-        return true;
-    } catch (const clsDbError& e) {
+        clsTransaction tx(gDB());
+        if (Add) {
+            INVITE_ID = RecordIO::NextID(QStringLiteral("INVITE"), QStringLiteral("INVITE_ID"));
+            if (INVITE_RSVP_ID.isEmpty())
+                INVITE_RSVP_ID = NEXT_INVITE_RSVP_ID();
+            if (INVITE_SENT_FG.isEmpty())
+                INVITE_SENT_FG = QStringLiteral("N");
+            if (RSVP_RECEIVED_FG.isEmpty())
+                RSVP_RECEIVED_FG = QStringLiteral("N");
+            if (AUTO_UPDATE_FG.isEmpty())
+                AUTO_UPDATE_FG = QStringLiteral("Y");
+            RecordIO::SaveOrThrow(*this, Table(), true, false);
+        } else {
+            // An invitation that is not sent has no attendees, no meals and no seats.
+            if (INVITE_SENT_FG == QLatin1String("N") && !INVITE_ID.isEmpty())
+                clsCONTACT::UpdateAttendeeFieldsToNull(INVITE_ID);
+            RecordIO::SaveOrThrow(*this, Table(), false);
+        }
+        tx.Commit();
+    } catch (...) {
         *this = before;
-        RecordIO::Report(e);
-        return false;
+        throw;
     }
+}
+
+void clsINVITE::SaveWithPeople(bool Add, const QList<clsCONTACT>& people) {
+    clsINVITE saved = *this;
+    clsTransaction tx(gDB());
+    saved.Save(Add);
+    clsCONTACT::UpdateInvitesToNull(saved.INVITE_ID);
+    saved.GUESTS.clear();
+    for (qsizetype i = 0; i < people.size(); ++i) {
+        clsCONTACT person = people.at(i);
+        if (person.CONTACT_ID.isEmpty())
+            person.Save(true, false); // a brought guest met for the first time
+        // Read again: the release above took the person's attendance.
+        if (!person.OpenRecord(person.CONTACT_ID))
+            throw clsDbError(QStringLiteral("%1 is no longer among the contacts.").arg(person.FirstLast()),
+                             0);
+        person.INVITE_ID = saved.INVITE_ID;
+        person.SORT_ORDER_NB = QString::number(i + 1);
+        person.PRIMARY_CONTACT_FG = i == 0 ? QStringLiteral("Y") : QStringLiteral("N");
+        person.Save(false, false);
+        saved.GUESTS.append(person);
+    }
+    clsCONTACT::DeleteGuestOfGuestsWithNoInvitation();
+    tx.Commit();
+    *this = saved;
+}
+
+void clsINVITE::SaveReply() {
+    clsINVITE saved = *this;
+    clsTransaction tx(gDB());
+    saved.Save(false);
+    for (clsCONTACT& person : saved.GUESTS)
+        person.Save(false, false); // a reply changes no envelope
+    tx.Commit();
+    *this = saved;
+}
+
+bool clsINVITE::RelabelAll(const Progress& progress) {
+    clsTransaction tx(gDB());
+    QList<clsINVITE> invitations = OpenRecords(0, true);
+    const qsizetype total = invitations.size();
+    if (progress && !progress(0, total))
+        return false;
+    for (qsizetype i = 0; i < total; ++i) {
+        invitations[i].RefreshInnerEnvelope();
+        invitations[i].Save(false);
+        if (progress && !progress(i + 1, total))
+            return false;
+    }
+    tx.Commit();
+    return true;
+}
+
+bool clsINVITE::ChangeEtiquette(bool formal, const Progress& progress) {
+    bool done = false;
+    try {
+        clsTransaction tx(gDB());
+        clsVOWREN etiquette;
+        etiquette.VOWREN_ID = QStringLiteral("7");
+        etiquette.VOWREN_TX = clsVOWREN::BooleanText(formal);
+        RecordIO::SaveOrThrow(etiquette, clsVOWREN::Table(), false);
+        done = RelabelAll(progress);
+        if (done)
+            tx.Commit();
+    } catch (...) {
+        gVowren().OpenRecords();
+        throw;
+    }
+    gVowren().OpenRecords(); // the settings in memory follow the rows, kept or put back
+    return done;
 }
 
 bool clsINVITE::Delete(const QString& inviteId) {
@@ -319,13 +352,12 @@ bool clsINVITE::DeleteInvitesWithNoGuests() {
 
 // ---- People -----------------------------------------------------------------------------------------
 
-void clsINVITE::SetGuestsOrThrow() {
+void clsINVITE::SetGuests() {
     GUESTS.clear();
     GUEST_CONTACT_ID.clear();
     GUEST_OF_CONTACT_ID.clear();
-    GUESTS =
-        clsCONTACT::OpenRecordsOrThrow(0, QStringLiteral("CONTACT.INVITE_ID = ") + QuoteSQL(INVITE_ID),
-                                       QStringLiteral("CONTACT.SORT_ORDER_NB, CONTACT.CONTACT_ID"), true);
+    GUESTS = clsCONTACT::OpenRecords(0, QStringLiteral("CONTACT.INVITE_ID = ") + QuoteSQL(INVITE_ID),
+                                     QStringLiteral("CONTACT.SORT_ORDER_NB, CONTACT.CONTACT_ID"), true);
     for (const clsCONTACT& c : GUESTS) {
         if (IsBrought(c)) {
             GUEST_CONTACT_ID = c.CONTACT_ID;
@@ -335,44 +367,22 @@ void clsINVITE::SetGuestsOrThrow() {
     }
 }
 
-bool clsINVITE::SetGuests() {
-    try {
-        SetGuestsOrThrow();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
-}
-
 void clsINVITE::mxSetOUTER_ENVELOPE_ADDRESS_TX() {
     if (!GUESTS.isEmpty())
         OUTER_ENVELOPE_ADDRESS_TX = GUESTS.first().ADDRESS_TX;
 }
 
-void clsINVITE::RefreshPrimaryContactOrThrow(const QString& inviteId) {
+void clsINVITE::RefreshPrimaryContact(const QString& inviteId) {
     if (inviteId.isEmpty())
         return;
     clsINVITE invite;
     invite.INVITE_ID = inviteId;
-    invite.SetGuestsOrThrow();
+    invite.SetGuests();
     if (invite.GUESTS.isEmpty())
         return;
     clsCONTACT& first = invite.GUESTS.first();
     first.PRIMARY_CONTACT_FG = QStringLiteral("Y");
-    first.SaveOrThrow(false, false);
-}
-
-bool clsINVITE::RefreshPrimaryContact(const QString& inviteId) {
-    try {
-        clsTransaction tx(gDB());
-        RefreshPrimaryContactOrThrow(inviteId);
-        tx.Commit();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
+    first.Save(false, false);
 }
 
 // ---- Labels -----------------------------------------------------------------------------------------
@@ -533,9 +543,9 @@ QString clsINVITE::BuildInnerEnvelope(bool formal) const {
     return text + GuestTail();
 }
 
-void clsINVITE::RefreshLabelingOrThrow(bool ReloadGuests, bool Force) {
+void clsINVITE::RefreshLabeling(bool ReloadGuests, bool Force) {
     if (ReloadGuests)
-        SetGuestsOrThrow();
+        SetGuests();
     DISPLAY_AS_TX = BuildDisplayAs();
     mxSetOUTER_ENVELOPE_ADDRESS_TX();
     if (AUTO_UPDATE_FG_VALUE() == 1 || Force) {
@@ -544,26 +554,10 @@ void clsINVITE::RefreshLabelingOrThrow(bool ReloadGuests, bool Force) {
     }
 }
 
-bool clsINVITE::RefreshLabeling(bool ReloadGuests, bool Force) {
-    try {
-        RefreshLabelingOrThrow(ReloadGuests, Force);
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
-}
-
-bool clsINVITE::RefreshInnerEnvelope() {
-    try {
-        SetGuestsOrThrow();
-        if (AUTO_UPDATE_FG == QLatin1String("Y"))
-            INNER_ENVELOPE_TX = BuildInnerEnvelope(EtiquetteIsFormal());
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
+void clsINVITE::RefreshInnerEnvelope() {
+    SetGuests();
+    if (AUTO_UPDATE_FG == QLatin1String("Y"))
+        INNER_ENVELOPE_TX = BuildInnerEnvelope(EtiquetteIsFormal());
 }
 
 // ---- RSVP IDs ---------------------------------------------------------------------------------------
@@ -574,14 +568,12 @@ QString clsINVITE::NEXT_INVITE_RSVP_ID() {
     return next.isEmpty() ? QStringLiteral("1") : next;
 }
 
-bool clsINVITE::ClearIDs() {
+void clsINVITE::ClearIDs() {
     // The numbers of sent invitations are printed on cards and must stay.
-    return RecordIO::Run(
-        QStringLiteral("UPDATE INVITE SET INVITE_RSVP_ID = NULL WHERE INVITE_SENT_FG = 'N'"));
+    gDB().Execute(QStringLiteral("UPDATE INVITE SET INVITE_RSVP_ID = NULL WHERE INVITE_SENT_FG = 'N'"));
 }
 
-namespace {
-bool RsvpIdSentOrThrow(const QString& rsvpId) {
+bool clsINVITE::INVITE_RSVP_ID_Sent(const QString& rsvpId) {
     return gDB()
                .Execute(
                    QStringLiteral("SELECT Count(INVITE_ID) AS CNT FROM INVITE WHERE INVITE_RSVP_ID = ? AND "
@@ -590,40 +582,24 @@ bool RsvpIdSentOrThrow(const QString& rsvpId) {
                .Scalar()
                .toLong() == 1;
 }
-} // namespace
 
-bool clsINVITE::INVITE_RSVP_ID_Sent(const QString& rsvpId) {
-    try {
-        return RsvpIdSentOrThrow(rsvpId);
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
+void clsINVITE::SortRSVPIDs() {
+    clsTransaction tx(gDB());
+    ClearIDs();
+    QList<clsINVITE> invites = OpenRecords(0, true);
+    int counter = 0;
+    for (clsINVITE& invite : invites) {
+        if (invite.INVITE_SENT_FG != QLatin1String("N"))
+            continue;
+        do {
+            ++counter;
+        } while (counter <= 10000 && INVITE_RSVP_ID_Sent(QString::number(counter)));
+        if (counter > 10000)
+            continue;
+        invite.INVITE_RSVP_ID = QString::number(counter);
+        invite.Save(false);
     }
-}
-
-bool clsINVITE::SortRSVPIDs() {
-    try {
-        clsTransaction tx(gDB());
-        gDB().Execute(QStringLiteral("UPDATE INVITE SET INVITE_RSVP_ID = NULL WHERE INVITE_SENT_FG = 'N'"));
-        QList<clsINVITE> invites = OpenRecordsOrThrow(0, true);
-        int counter = 0;
-        for (clsINVITE& invite : invites) {
-            if (invite.INVITE_SENT_FG != QLatin1String("N"))
-                continue;
-            do {
-                ++counter;
-            } while (counter <= 10000 && RsvpIdSentOrThrow(QString::number(counter)));
-            if (counter > 10000)
-                continue;
-            invite.INVITE_RSVP_ID = QString::number(counter);
-            invite.SaveOrThrow(false);
-        }
-        tx.Commit();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
+    tx.Commit();
 }
 
 // ---- Schema -----------------------------------------------------------------------------------------

@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QString>
+#include <functional>
 
 // One envelope: a row of INVITE, to which its people point by CONTACT.INVITE_ID in SORT_ORDER_NB
 // order. The first of them is the primary contact, whose address is the envelope's. The class
@@ -48,19 +49,27 @@ public:
     QString OUTER_ENVELOPE_TX_AND_OUTER_ENVELOPE_ADDRESS_TX(bool MultiLine) const;
 
     // ---- Records ----
-    // True when it ran; Found tells whether the invitation (with a primary contact) was there. An
-    // empty id reads nothing.
-    bool OpenRecord(const QString& inviteId, bool LoadGuests = false, bool* Found = nullptr);
-    bool OpenRecordOrThrow(const QString& inviteId, bool LoadGuests);
-    bool OpenRecordByRSVP_ID(const QString& rsvpId, bool LoadGuests = false, bool* Found = nullptr);
+    // Every operation below throws clsDbError when the database refuses; whoever asked shows it
+    // (RecordIO::Attempt). Work on several rows is all or nothing.
+
+    // True when the invitation (with a primary contact) was found. An empty id reads nothing.
+    bool OpenRecord(const QString& inviteId, bool LoadGuests = false);
+    bool OpenRecordByRSVP_ID(const QString& rsvpId, bool LoadGuests = false);
     static QList<clsINVITE> OpenRecords(int filter, bool SortByName, const QString& customWhere = {});
-    static QList<clsINVITE> OpenRecordsOrThrow(int filter, bool SortByName, const QString& customWhere = {});
     static long GetTotal(int filter, const QString& customWhere = {});
 
     // Inserts (with a new key, and a new RSVP ID when none is given) or updates. Saving an unsent
-    // invitation first clears the attendance, meals and seats of its people.
-    bool Save(bool Add);
-    void SaveOrThrow(bool Add);
+    // invitation first clears the attendance, meals and seats of its people. A failed save leaves the
+    // object as it was.
+    void Save(bool Add);
+    // Saves the invitation with its people in the given order: everyone it had is released first, with
+    // all attendance; a brought guest not yet saved is added; the people are put on it in order, the
+    // first of them primary; and a brought guest who is no longer on it is gone. GUESTS then holds the
+    // people as saved.
+    void SaveWithPeople(bool Add, const QList<clsCONTACT>& people);
+    // Writes the reply: RSVP_RECEIVED_FG, and ATTENDING_FG and MEAL_ID of each person in GUESTS. A reply
+    // changes no envelope; a person who does not come keeps no meal and no seat.
+    void SaveReply();
     // Sets its people free, removes the invitation and the guests they brought; the invited people
     // stay as uninvited contacts. The one invitation of DeleteMany, sent or not.
     static bool Delete(const QString& inviteId);
@@ -75,19 +84,26 @@ public:
     static bool DeleteInvitesWithNoGuests();
     static void DeleteInvitesWithNoGuestsOrThrow();
 
+    // ---- Relabelling every invitation ----
+    // Told after each invitation how many are done of how many; answers false to stop.
+    using Progress = std::function<bool(qsizetype done, qsizetype total)>;
+    // Writes the inner envelope of every invitation anew for the etiquette in force. Stopped by the
+    // progress, it puts everything back and answers false.
+    static bool RelabelAll(const Progress& progress = {});
+    // Stores the etiquette and relabels every invitation by it, as one piece of work: stopped or
+    // failed, the stored etiquette and the texts stay as they were.
+    static bool ChangeEtiquette(bool formal, const Progress& progress = {});
+
     // ---- People and labels ----
-    bool SetGuests();
-    void SetGuestsOrThrow();
+    void SetGuests();
     void mxSetOUTER_ENVELOPE_ADDRESS_TX();
     // Rewrites DISPLAY_AS_TX always, the envelope texts when automatic update is on or Force is set.
     // Nothing is saved here.
-    bool RefreshLabeling(bool ReloadGuests, bool Force);
-    void RefreshLabelingOrThrow(bool ReloadGuests, bool Force);
+    void RefreshLabeling(bool ReloadGuests, bool Force);
     // Rewrites the inner envelope alone, when automatic update is 'Y' (after the etiquette changed).
-    bool RefreshInnerEnvelope();
+    void RefreshInnerEnvelope();
     // The first person of the invitation becomes its primary contact.
-    static bool RefreshPrimaryContact(const QString& inviteId);
-    static void RefreshPrimaryContactOrThrow(const QString& inviteId);
+    static void RefreshPrimaryContact(const QString& inviteId);
 
     // The builders, on GUESTS as they stand.
     QString BuildDisplayAs() const;
@@ -103,12 +119,12 @@ public:
 
     // ---- RSVP IDs ----
     static QString NEXT_INVITE_RSVP_ID();
-    static bool ClearIDs();
+    static void ClearIDs();
     // True when exactly one sent invitation holds the number.
     static bool INVITE_RSVP_ID_Sent(const QString& rsvpId);
     // Numbers every unsent invitation from 1 by name, skipping the numbers sent invitations hold;
     // all or nothing.
-    static bool SortRSVPIDs();
+    static void SortRSVPIDs();
 
     // ---- Filters ----
     static QString WHERE_CLAUSE(int filter);
@@ -120,7 +136,7 @@ public:
 private:
     static const RecordTable<clsINVITE>& ReadTable();
     static QString SelectSQL();
-    bool OpenBy(const QString& condition, const QString& value, bool LoadGuests, bool* Found);
+    bool OpenBy(const QString& condition, const QString& value, bool LoadGuests);
 };
 // Only texts (and lists of them) inside: a record may move in memory as a block, so long lists of records
 // grow without copying them one by one.

@@ -144,6 +144,11 @@ QList<clsBUDGET> clsBUDGET::OpenRecordsByCategory(int filter, const QString& cat
     return Open(sql, values);
 }
 
+void clsBUDGET::SetEveryDueDate(const QString& date) {
+    gDB().Execute(QStringLiteral("UPDATE BUDGET SET DUE_DT = ?"),
+                  {RecordIO::ToDbValue(QStringLiteral("DUE_DT"), date)});
+}
+
 bool clsBUDGET::Save(bool isNew) {
     const clsBUDGET before = *this;
     if (RecordIO::Save(*this, Table(), isNew))

@@ -45,6 +45,8 @@ public:
     // For the page: by category and name.
     QList<clsBUDGET> OpenRecordsByCategory(int filter, const QString& categoryId = QString()) const;
     bool Save(bool isNew);
+    // Every expense falls due on the given date ("dd-mmm-yyyy"; empty: none). Throws clsDbError.
+    static void SetEveryDueDate(const QString& date);
     long Total(int filter, const QString& categoryId = QString()) const;
 
     // Schema changes of older files; each looks for itself whether it is needed.

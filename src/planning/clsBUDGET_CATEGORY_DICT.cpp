@@ -65,6 +65,16 @@ QList<clsBUDGET_CATEGORY_DICT> clsBUDGET_CATEGORY_DICT::OpenRecords() const {
         QStringLiteral("SELECT * FROM BUDGET_CATEGORY_DICT ORDER BY BUDGET_CATEGORY_TX COLLATE NOCASE"));
 }
 
+void clsBUDGET_CATEGORY_DICT::SaveEstimates(const QMap<QString, double>& estimates) {
+    clsTransaction tx(gDB());
+    for (auto estimate = estimates.cbegin(); estimate != estimates.cend(); ++estimate)
+        gDB().Execute(
+            QStringLiteral(
+                "UPDATE BUDGET_CATEGORY_DICT SET ESTIMATE_AMOUNT_NB = ? WHERE BUDGET_CATEGORY_ID = ?"),
+            {QString::number(estimate.value(), 'f', 2), estimate.key()});
+    tx.Commit();
+}
+
 bool clsBUDGET_CATEGORY_DICT::Save(bool isNew, bool assignNewKey) {
     const clsBUDGET_CATEGORY_DICT before = *this;
     if (RecordIO::Save(*this, Table(), isNew, assignNewKey))

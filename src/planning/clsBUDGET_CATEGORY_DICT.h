@@ -3,6 +3,7 @@
 #include "core/RecordIO.h"
 
 #include <QList>
+#include <QMap>
 #include <QString>
 
 // A budget category with its estimate, and the sums of the budget: due (unpaid), paid and actual
@@ -27,6 +28,9 @@ public:
     QList<clsBUDGET_CATEGORY_DICT> OpenRecords() const;
     // An insert makes a new key only with assignNewKey; otherwise the key in the object is used.
     bool Save(bool isNew, bool assignNewKey = true);
+    // The estimate of each category, amount by key; a key that is gone is passed over. Throws
+    // clsDbError.
+    static void SaveEstimates(const QMap<QString, double>& estimates);
     long Total() const;
 
     // Sums of the amounts; 0 when there is nothing to sum. An empty category id means all categories.

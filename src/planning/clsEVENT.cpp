@@ -1,5 +1,7 @@
 #include "planning/clsEVENT.h"
 
+#include "planning/clsTIMELINE.h"
+
 #include "core/clsApp.h"
 #include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
@@ -90,6 +92,35 @@ QList<clsEVENT> clsEVENT::OpenRecords(const QString& onDate) const {
     const QString isoDay = day.isValid() ? day.date().toString(QStringLiteral("yyyy-MM-dd")) : onDate;
     return RecordIO::OpenRecords(
         Table(), QStringLiteral("SELECT * FROM EVENT WHERE date(EVENT_DT) = ? ORDER BY EVENT_DT"), {isoDay});
+}
+
+void clsEVENT::SaveWeddingDay(const QString& when) {
+    clsTransaction tx(gDB());
+    const QList<clsEVENT> found =
+        RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM EVENT WHERE EVENT_ID = 1"));
+    clsEVENT wedding = found.value(0);
+    wedding.EVENT_ID = QStringLiteral("1");
+    wedding.EVENT_TX = QStringLiteral("Wedding");
+    wedding.EVENT_DT = when;
+    RecordIO::SaveOrThrow(wedding, Table(), found.isEmpty(), false);
+    const long ceremonies =
+        gDB()
+            .Execute(QStringLiteral("SELECT COUNT(*) FROM TIMELINE WHERE EVENT_ID = 1 AND "
+                                    "TIMELINE_DESC = 'Wedding Ceremony'"))
+            .Scalar()
+            .toLong();
+    if (ceremonies == 0) {
+        clsTIMELINE ceremony;
+        ceremony.TIMELINE_START_DT = when;
+        ceremony.TIMELINE_END_DT = when;
+        ceremony.TIMELINE_DESC = QStringLiteral("Wedding Ceremony");
+        ceremony.CONTACT_NM = QStringLiteral("Everyone");
+        ceremony.EVENT_ID = QStringLiteral("1");
+        RecordIO::SaveOrThrow(ceremony, clsTIMELINE::Table(), true);
+    }
+    tx.Commit();
+    gApp().SetWeddingDate(wedding.EVENT_DT_DateTimeFormat());
+    gWeddingEvent().OpenRecord(QStringLiteral("1"));
 }
 
 bool clsEVENT::Save(bool isNew) {

@@ -44,6 +44,9 @@ public:
     QList<clsEVENT> OpenRecords(const QString& onDate = QString()) const;
     // Saving the wedding day hands its date to the settings and reopens gWeddingEvent().
     bool Save(bool isNew);
+    // The wedding day, event 1, at the given time ("dd-mmm-yyyy h:mm AM"), with the "Wedding Ceremony"
+    // on its timeline for everyone (once); all or nothing. Throws clsDbError.
+    static void SaveWeddingDay(const QString& when);
 
     // Joins the old address parts into the one address block of every row (done once, see the driver).
     static void Patch_1_Apply();

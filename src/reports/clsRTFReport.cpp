@@ -1,5 +1,6 @@
 #include "reports/clsRTFReport.h"
 
+#include "core/RecordIO.h"
 #include "core/modGeneral.h"
 
 #include "guests/clsCONTACT.h"
@@ -7,7 +8,12 @@
 
 #include <QLocale>
 
+// A report that the database refuses to read is not written: the message says why.
 QString clsRTFReport::Build() {
+    return RecordIO::Read([this] { return Write(); });
+}
+
+QString clsRTFReport::Write() {
     RTF.SetGlobalSettings();
     RTF.FILE_NAME = clsReportCatalogue::ReportFileName(clsReportCatalogue::FilePrefix(mClassName));
     RTF.TITLE = Title();

@@ -73,6 +73,7 @@ protected:
     static QString YesNo(const QString& flag);
 
 private:
+    QString Write();
     void FullWidthRow(const RtfMarkup& text, int border, int fill, bool bold);
 
     QString mClassName;

@@ -19,8 +19,7 @@ const RecordTable<clsDINING_TABLE>& clsDINING_TABLE::Table() {
 bool clsDINING_TABLE::Delete(const QString& key) {
     try {
         clsTransaction tx(gDB());
-        if (!clsCONTACT::Update_DINING_TABLE_ID_TO_NULL(key))
-            return false;
+        clsCONTACT::Update_DINING_TABLE_ID_TO_NULL(key);
         if (gDB().TableExists(QStringLiteral("TENTCARD")))
             gDB().Execute(QStringLiteral("DELETE FROM TENTCARD WHERE DINING_TABLE_ID = ?"), {key});
         gDB().Execute(QStringLiteral("DELETE FROM DINING_TABLE WHERE DINING_TABLE_ID = ?"), {key});

@@ -43,8 +43,7 @@ bool clsFLIGHT::CreateTable() {
 bool clsFLIGHT::Delete(const QString& key) {
     try {
         clsTransaction tx(gDB());
-        if (!clsCONTACT::Update_FLIGHT_ID_TO_NULL(key))
-            return false;
+        clsCONTACT::Update_FLIGHT_ID_TO_NULL(key);
         gDB().Execute(QStringLiteral("DELETE FROM FLIGHT WHERE FLIGHT_ID = ?"), {key});
         tx.Commit();
         return true;

@@ -201,13 +201,13 @@ void clsTENTCARD::RefreshTentcardsOrThrow() {
     gDB().Execute(QStringLiteral("DELETE FROM TENTCARD"));
     const bool formal = EtiquetteIsFormal();
     // Seated people by invitation and table; the bride and the groom sort as one invitation of their own.
-    const QList<clsCONTACT> seated = clsCONTACT::OpenRecordsOrThrow(
+    const QList<clsCONTACT> seated = clsCONTACT::OpenRecords(
         21, {},
         QStringLiteral("CASE WHEN CONTACT.ROLE_ID IN (1,2) THEN 100000 ELSE INVITE.INVITE_RSVP_ID END, "
                        "CONTACT.DINING_TABLE_ID, CONTACT.SORT_ORDER_NB, CONTACT.CONTACT_ID"),
         false);
     QString groomName;
-    const QList<clsCONTACT> groom = clsCONTACT::OpenRecordsOrThrow(0, QStringLiteral("CONTACT.ROLE_ID = 2"));
+    const QList<clsCONTACT> groom = clsCONTACT::OpenRecords(0, QStringLiteral("CONTACT.ROLE_ID = 2"));
     if (!groom.isEmpty())
         groomName = groom.first().FirstLast();
 

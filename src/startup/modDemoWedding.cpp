@@ -361,7 +361,7 @@ Couple FillCouple(Generator& g) {
         c.EMAIL_TX = Generator::Email(c, 3);
         c.ATTENDING_FG = QStringLiteral("Y");
         c.MEAL_ID = bride ? QStringLiteral("3") : QStringLiteral("1");
-        c.SaveOrThrow(false, false);
+        c.Save(false, false);
     }
     return couple;
 }
@@ -850,7 +850,7 @@ Totals FillGuests(Generator& g, int guests, const Couple& couple, const QStringL
             invite.INVITE_SENT_FG = h.Sent ? QStringLiteral("Y") : QStringLiteral("N");
             invite.RSVP_RECEIVED_FG = h.Received ? QStringLiteral("Y") : QStringLiteral("N");
             invite.AUTO_UPDATE_FG = QStringLiteral("Y");
-            invite.SaveOrThrow(true);
+            invite.Save(true);
             h.InviteId = invite.INVITE_ID;
             ++totals.Invitations;
         }
@@ -859,7 +859,7 @@ Totals FillGuests(Generator& g, int guests, const Couple& couple, const QStringL
             c.INVITE_ID = h.InviteId;
             if (h.Brought && i == h.People.size() - 1)
                 c.GUEST_OF_ID = h.People.first().CONTACT_ID;
-            c.SaveOrThrow(true, false);
+            c.Save(true, false);
         }
         if (!h.Invited)
             continue;
@@ -868,8 +868,8 @@ Totals FillGuests(Generator& g, int guests, const Couple& couple, const QStringL
             invite.GUEST_CONTACT_ID = h.People.last().CONTACT_ID;
             invite.GUEST_OF_CONTACT_ID = h.People.last().GUEST_OF_ID;
         }
-        invite.RefreshLabelingOrThrow(false, false);
-        invite.SaveOrThrow(false);
+        invite.RefreshLabeling(false, false);
+        invite.Save(false);
     }
 
     // 6. Gifts: from households at the wedding, and shower gifts from the bride's friends.

@@ -34,9 +34,7 @@ void FillDisplay(clsINVITE_WIDGET& row) {
         return;
     }
     clsINVITE invite;
-    bool found = false;
-    invite.OpenRecord(row.INVITE_ID, true, &found);
-    if (!found)
+    if (!invite.OpenRecord(row.INVITE_ID, true))
         return;
     row.NAME_TX = invite.OUTER_ENVELOPE_TX;
     row.OUTER_ENVELOPE_ADDRESS_TX = invite.OUTER_ENVELOPE_ADDRESS_TX;

@@ -173,6 +173,13 @@ names = [cell for row in rows for cell in row if "HYPERLINK" in cell]
 assert names == ["'"'"'=HYPERLINK(\"http://x\")"], names
 print("ok")' "$csvfile"
 fi
+check "relabel with a bad option" 2 'takes --formal, --personal or nothing' "$cli" relabel --fancy
+"$cli" demo --guests 12 --seed 3 >/dev/null
+check "relabel formal keeps the choice" 0 '^Relabelled [1-9][0-9]* invitations \(formal\)$' "$cli" relabel --formal
+check "formal inner envelopes" 0 '^"[1-9]' "$cli" sql "SELECT COUNT(*) FROM INVITE WHERE AUTO_UPDATE_FG = 'Y' AND INNER_ENVELOPE_TX LIKE 'M%'"
+check "relabel by the kept etiquette" 0 '\(formal\)$' "$cli" relabel
+check "relabel personal" 0 '\(personal\)$' "$cli" relabel --personal
+check "personal inner envelopes" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM INVITE WHERE AUTO_UPDATE_FG = 'Y' AND INNER_ENVELOPE_TX LIKE 'Mr.%'"
 
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init

@@ -164,7 +164,7 @@ private slots:
             const QString display = invite.DISPLAY_AS_TX;
             const QString outer = invite.OUTER_ENVELOPE_TX;
             const QString inner = invite.INNER_ENVELOPE_TX;
-            QVERIFY(invite.RefreshLabeling(true, false));
+            invite.RefreshLabeling(true, false);
             QCOMPARE(invite.DISPLAY_AS_TX, display);
             QCOMPARE(invite.OUTER_ENVELOPE_TX, outer);
             QCOMPARE(invite.INNER_ENVELOPE_TX, inner);

@@ -1,8 +1,7 @@
 #include "guests/ui/frmAttendee.h"
 
-#include "core/ShowMessage.h"
 #include "core/clsDICT.h"
-#include "guests/ui/modGuestEditors.h"
+#include "shell/controls/modLayout.h"
 #include "shell/controls/usrDropdown.h"
 
 #include <QCheckBox>
@@ -10,15 +9,15 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
-frmAttendee::frmAttendee(const QString& contactId, QWidget* parent) : QDialog(parent) {
+frmAttendee::frmAttendee(const QString& contactId, QWidget* parent) : frmEditorBase(parent) {
     setObjectName(QStringLiteral("frmAttendee"));
     setWindowTitle(QStringLiteral("Attendee"));
-    mContact.OpenRecord(contactId);
+    SetAdding(false);
+    RecordIO::Attempt([this, &contactId] { mContact.OpenRecord(contactId); });
 
-    QLabel* top = modGuestEditors::HeaderLabel(this);
+    QLabel* top = modLayout::HeaderLabel(this);
     top->setObjectName(QStringLiteral("lblTop"));
     top->setText(mContact.TitleFirstMiddleLastSuffix());
     top->setWordWrap(true);
@@ -35,18 +34,16 @@ frmAttendee::frmAttendee(const QString& contactId, QWidget* parent) : QDialog(pa
 
     auto* form = new QFormLayout;
     form->addRow(QString(), mAttending);
-    auto* mealLabel = new QLabel(QStringLiteral("&Meal"), this);
-    mealLabel->setBuddy(mMeal->ComboBox());
-    form->addRow(mealLabel, mMeal);
-
-    QDialogButtonBox* buttons = modGuestEditors::SaveCancelButtons(this, [this] { return SaveAttendee(); }, &mSave);
+    modLayout::CaptionedRow(form, QStringLiteral("&Meal"), mMeal, mMeal->ComboBox());
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(top);
     layout->addLayout(form);
     layout->addStretch(1);
-    layout->addWidget(buttons);
+    layout->addWidget(ButtonRow());
+    connect(this, &frmEditorBase::Updated, this, &frmAttendee::AttendeeUpdated);
     RefreshEnabling();
+    MarkClean();
     setMinimumWidth(360);
     mAttending->setFocus();
 }
@@ -55,27 +52,18 @@ void frmAttendee::RefreshEnabling() {
     mMeal->setEnabled(mAttending->isChecked());
 }
 
-bool frmAttendee::IsDirty() const {
+// A meal counts only for a person who comes.
+QStringList frmAttendee::Snapshot() const {
     const bool attending = mAttending->isChecked();
-    return attending != (mContact.ATTENDING_FG == QLatin1String("Y")) ||
-           (attending && mMeal->Code() != mContact.MEAL_ID);
+    return {attending ? QStringLiteral("Y") : QStringLiteral("N"), attending ? mMeal->Code() : QString()};
 }
 
-bool frmAttendee::SaveAttendee() {
+bool frmAttendee::SaveRecord() {
     clsCONTACT contact = mContact;
     contact.ATTENDING_FG = mAttending->isChecked() ? QStringLiteral("Y") : QStringLiteral("N");
     contact.MEAL_ID = mMeal->Code();
-    if (!contact.Save(false, false))
+    if (!RecordIO::Attempt([&contact] { contact.Save(false, false); }))
         return false;
     mContact = contact;
-    emit AttendeeUpdated(mContact.CONTACT_ID);
     return true;
-}
-
-void frmAttendee::reject() {
-    const CloseChoice choice = AskBeforeClose(IsDirty());
-    if (choice == CloseChoice::Save && SaveAttendee())
-        QDialog::accept();
-    else if (choice == CloseChoice::Discard)
-        QDialog::reject();
 }

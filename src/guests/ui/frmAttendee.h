@@ -1,32 +1,29 @@
 #pragma once
 
 #include "guests/clsCONTACT.h"
-
-#include <QDialog>
+#include "shell/frmEditorBase.h"
 
 class QCheckBox;
-class QPushButton;
 class usrDropdown;
 
 // Whether one person comes, and their meal. Clearing the box sends the person off the attendee list
 // and takes away their meal and seat. Children: "lblTop", "chkATTENDING_FG", "usrMEAL_DICT",
 // "cmdSave", "cmdCancel".
-class frmAttendee : public QDialog {
+class frmAttendee : public frmEditorBase {
     Q_OBJECT
 
 public:
     explicit frmAttendee(const QString& contactId, QWidget* parent = nullptr);
 
     const clsCONTACT& Contact() const { return mContact; }
-    // Writes attendance and meal. False after a message, with the dialog left as it is.
-    bool SaveAttendee();
-    bool IsDirty() const;
 
 signals:
     void AttendeeUpdated(const QString& contactId);
 
-public slots:
-    void reject() override;
+protected:
+    QStringList Snapshot() const override;
+    bool SaveRecord() override;
+    QString RecordKey() const override { return mContact.CONTACT_ID; }
 
 private:
     void RefreshEnabling();
@@ -34,5 +31,4 @@ private:
     clsCONTACT mContact;
     QCheckBox* mAttending = nullptr;
     usrDropdown* mMeal = nullptr;
-    QPushButton* mSave = nullptr;
 };

@@ -7,8 +7,8 @@
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmCheckName.h"
 #include "guests/ui/modContactEditor.h"
-#include "guests/ui/modGuestEditors.h"
 #include "shell/controls/ControlIcons.h"
+#include "shell/controls/modLayout.h"
 #include "shell/controls/usrDropdown.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/options/frmOptionsEntry.h"
@@ -17,6 +17,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFocusEvent>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -121,20 +122,6 @@ QString SelectedCode(const QComboBox* list) {
     return list->currentIndex() < 0 ? QString() : list->currentData().toString();
 }
 
-QFormLayout* Form(QWidget* parent) {
-    auto* form = new QFormLayout(parent);
-    form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    form->setRowWrapPolicy(QFormLayout::DontWrapRows);
-    return form;
-}
-
-QLabel* FormLabel(const QString& caption, QWidget* buddy, QWidget* parent) {
-    auto* label = new QLabel(caption, parent);
-    label->setBuddy(buddy);
-    return label;
-}
-
 // A pin on a map.
 QIcon MapPinIcon() {
     return ControlIcons::Drawn(
@@ -157,8 +144,9 @@ QIcon MapPinIcon() {
 
 } // namespace
 
-frmContact::frmContact(const QString& contactId, QWidget* parent, Mode mode) : QDialog(parent) {
+frmContact::frmContact(const QString& contactId, QWidget* parent, Mode mode) : frmEditorBase(parent) {
     setObjectName(QStringLiteral("frmContact"));
+    SetRecordNoun(QStringLiteral("Contact"));
     auto* columns = new QHBoxLayout;
     columns->setSpacing(12);
     auto* left = new QVBoxLayout;
@@ -193,7 +181,7 @@ QWidget* frmContact::BuildHeader() {
     row->setContentsMargins(0, 0, 0, 4);
     mPicture = new QLabel(header);
     mPicture->setObjectName(QStringLiteral("imgContact"));
-    mHeader = modGuestEditors::HeaderLabel(header);
+    mHeader = Header(header);
     mGuestOf = new QLabel(header);
     mGuestOf->setObjectName(QStringLiteral("lblGuestOf"));
     auto* texts = new QVBoxLayout;
@@ -209,8 +197,8 @@ QWidget* frmContact::BuildHeader() {
 }
 
 QWidget* frmContact::BuildNameGroup() {
-    auto* group = new QGroupBox(QStringLiteral("Name"), this);
-    QFormLayout* form = Form(group);
+    QGroupBox* group = modLayout::Group(QStringLiteral("Name"), this);
+    QFormLayout* form = modLayout::Form(group);
 
     mTitle = new QComboBox(group);
     mTitle->setObjectName(QStringLiteral("cbo_0"));
@@ -220,7 +208,7 @@ QWidget* frmContact::BuildNameGroup() {
     for (const clsDICT& title : clsDICT().OpenRecords(clsDICT::Title))
         mTitle->addItem(title.TX);
     mTitle->setMaximumWidth(mTitle->fontMetrics().averageCharWidth() * 18);
-    form->addRow(FormLabel(QStringLiteral("&Title"), mTitle, group), mTitle);
+    modLayout::CaptionedRow(form, QStringLiteral("&Title"), mTitle);
 
     mFullName = LineBox(QStringLiteral("txt_1"), group);
     mFullName->setPlaceholderText(QStringLiteral("First Middle Last Suffix"));
@@ -236,7 +224,7 @@ QWidget* frmContact::BuildNameGroup() {
             [this] { mFullName->setFocus(Qt::ShortcutFocusReason); });
 
     mNick = LineBox(QStringLiteral("txt_3"), group, 50);
-    form->addRow(FormLabel(QStringLiteral("&Nickname"), mNick, group), mNick);
+    modLayout::CaptionedRow(form, QStringLiteral("&Nickname"), mNick);
 
     auto* genderRow = new QWidget(group);
     genderRow->setObjectName(QStringLiteral("fraGender"));
@@ -257,21 +245,19 @@ QWidget* frmContact::BuildNameGroup() {
     genders->addSpacing(18);
     genders->addWidget(mChild);
     genders->addStretch(1);
-    QLabel* genderLabel = FormLabel(QStringLiteral("&Gender"), mMale, group);
+    QLabel* genderLabel = modLayout::CaptionedRow(form, QStringLiteral("&Gender"), genderRow, mMale);
     connect(mFemale, &QRadioButton::toggled, genderLabel,
             [this, genderLabel](bool female) { genderLabel->setBuddy(female ? mFemale : mMale); });
-    form->addRow(genderLabel, genderRow);
     return group;
 }
 
 QWidget* frmContact::BuildAddressGroup() {
-    auto* group = new QGroupBox(QStringLiteral("Address and Phone"), this);
-    QFormLayout* form = Form(group);
+    QGroupBox* group = modLayout::Group(QStringLiteral("Address and Phone"), this);
+    QFormLayout* form = modLayout::Form(group);
 
     mAddress = TextBox(QStringLiteral("txt_2"), 5, false, group);
-    auto* addressLabel = FormLabel(QStringLiteral("&Address"), mAddress, group);
-    addressLabel->setAlignment(Qt::AlignRight | Qt::AlignTop);
-    form->addRow(addressLabel, mAddress);
+    modLayout::CaptionedRow(form, QStringLiteral("&Address"), mAddress)
+        ->setAlignment(Qt::AlignRight | Qt::AlignTop);
 
     mMapIt = new usrHyperlink(QStringLiteral("Map Location with Google Maps"), group);
     mMapIt->setObjectName(QStringLiteral("picMapIt"));
@@ -281,29 +267,29 @@ QWidget* frmContact::BuildAddressGroup() {
     form->addRow(QString(), mMapIt);
 
     mEmail = LineBox(QStringLiteral("txt_4"), group, 255);
-    form->addRow(FormLabel(QStringLiteral("E-&mail"), mEmail, group), mEmail);
+    modLayout::CaptionedRow(form, QStringLiteral("E-&mail"), mEmail);
     mPhone = LineBox(QStringLiteral("txt_5"), group, 50);
-    form->addRow(FormLabel(QStringLiteral("&Phone #"), mPhone, group), mPhone);
+    modLayout::CaptionedRow(form, QStringLiteral("&Phone #"), mPhone);
     mPhone2 = LineBox(QStringLiteral("txt_6"), group, 50);
-    form->addRow(FormLabel(QStringLiteral("Phone &2 #"), mPhone2, group), mPhone2);
+    modLayout::CaptionedRow(form, QStringLiteral("Phone &2 #"), mPhone2);
     return group;
 }
 
 QWidget* frmContact::BuildGuestListGroup() {
-    auto* group = new QGroupBox(QStringLiteral("Guest List"), this);
-    QFormLayout* form = Form(group);
+    QGroupBox* group = modLayout::Group(QStringLiteral("Guest List"), this);
+    QFormLayout* form = modLayout::Form(group);
 
     mABList = CodeList(
         QStringLiteral("cbo_7"),
         {{QStringLiteral("A list"), QStringLiteral("A")}, {QStringLiteral("B list"), QStringLiteral("B")}},
         group);
-    form->addRow(FormLabel(QStringLiteral("A-B &List"), mABList, group), mABList);
+    modLayout::CaptionedRow(form, QStringLiteral("A-B &List"), mABList);
     mFriendOf = CodeList(QStringLiteral("cbo_8"),
                          {{QStringLiteral("Bride"), QStringLiteral("1")},
                           {QStringLiteral("Groom"), QStringLiteral("2")},
                           {QStringLiteral("Both"), QStringLiteral("3")}},
                          group);
-    form->addRow(FormLabel(QStringLiteral("&Friend of"), mFriendOf, group), mFriendOf);
+    modLayout::CaptionedRow(form, QStringLiteral("&Friend of"), mFriendOf);
 
     mRole = new usrDropdown(group);
     mRole->setObjectName(QStringLiteral("usr_9"));
@@ -316,7 +302,7 @@ QWidget* frmContact::BuildGuestListGroup() {
     mRole->ComboBox()->installEventFilter(this);
     connect(mRole, &usrDropdown::AddClick, this, [this] { usr_9_AddClick(); });
     connect(mRole, &usrDropdown::EditClick, this, [this] { usr_9_EditClick(); });
-    form->addRow(FormLabel(QStringLiteral("&Role"), mRole->ComboBox(), group), mRole);
+    modLayout::CaptionedRow(form, QStringLiteral("&Role"), mRole, mRole->ComboBox());
 
     mOutOfTowner = new QCheckBox(QStringLiteral("&Out of Towner"), group);
     mOutOfTowner->setObjectName(QStringLiteral("chkOUT_OF_TOWNER_FG"));
@@ -325,51 +311,39 @@ QWidget* frmContact::BuildGuestListGroup() {
 }
 
 QWidget* frmContact::BuildNotesGroup() {
-    auto* group = new QGroupBox(QStringLiteral("Notes"), this);
+    QGroupBox* group = modLayout::Group(QStringLiteral("Notes"), this);
     auto* layout = new QVBoxLayout(group);
     mNotes = TextBox(QStringLiteral("txt_10"), 5, true, group);
-    auto* label = FormLabel(QStringLiteral("Not&es about this person:"), mNotes, group);
+    auto* label = new QLabel(QStringLiteral("Not&es about this person:"), group);
+    label->setBuddy(mNotes);
     layout->addWidget(label);
     layout->addWidget(mNotes, 1);
     return group;
 }
 
 QWidget* frmContact::BuildButtons() {
-    auto* bar = new QWidget(this);
-    auto* row = new QHBoxLayout(bar);
+    EditorButtonNames names;
+    names.Save = QStringLiteral("cmd_1");
+    names.SaveCaption = QStringLiteral("&Save");
+    names.Cancel = QStringLiteral("cmd_2");
+    names.SaveAndNew = QStringLiteral("cmd_0");
+    names.SaveAndNewCaption = QStringLiteral("Save and Ne&w");
+    QWidget* row = ButtonRow(names);
     row->setContentsMargins(0, 6, 0, 0);
-    mSaveAndNew = new QPushButton(QStringLiteral("Save and Ne&w"), bar);
-    mSaveAndNew->setObjectName(QStringLiteral("cmd_0"));
-    mSaveAndNew->setToolTip(QStringLiteral("Save, then add the next person of the household (Ctrl+Shift+S)"));
-    mSave = new QPushButton(QStringLiteral("&Save"), bar);
-    mSave->setObjectName(QStringLiteral("cmd_1"));
-    mSave->setDefault(true);
-    mSave->setToolTip(QStringLiteral("Save and close (Ctrl+S)"));
-    mCancel = new QPushButton(QStringLiteral("Cancel"), bar);
-    mCancel->setObjectName(QStringLiteral("cmd_2"));
-    row->addStretch(1);
-    row->addWidget(mSaveAndNew);
-    row->addWidget(mSave);
-    row->addWidget(mCancel);
-    connect(mSaveAndNew, &QPushButton::clicked, this, [this] { cmdSaveAndNew_Click(); });
-    connect(mSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
-    connect(mCancel, &QPushButton::clicked, this, &frmContact::reject);
-    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
-            [this] { cmdSave_Click(); });
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this), &QShortcut::activated, this,
-            [this] { cmdSaveAndNew_Click(); });
-    return bar;
+    SaveAndNewButton()->setToolTip(
+        QStringLiteral("Save, then add the next person of the household (Ctrl+Shift+S)"));
+    return row;
 }
 
 // Left column top to bottom, then the right column, then the buttons.
 void frmContact::SetTabOrder() {
     auto* roleAdd = mRole->findChild<QWidget*>(QStringLiteral("cmdAdd"));
     auto* roleEdit = mRole->findChild<QWidget*>(QStringLiteral("cmdEdit"));
-    const QList<QWidget*> order = {mTitle,  mFullNameLink, mFullName,    mNick,     mMale,
-                                   mFemale, mChild,        mAddress,     mMapIt,    mEmail,
-                                   mPhone,  mPhone2,       mABList,      mFriendOf, mRole->ComboBox(),
-                                   roleAdd, roleEdit,      mOutOfTowner, mNotes,    mSaveAndNew,
-                                   mSave,   mCancel};
+    const QList<QWidget*> order = {mTitle,       mFullNameLink, mFullName,    mNick,     mMale,
+                                   mFemale,      mChild,        mAddress,     mMapIt,    mEmail,
+                                   mPhone,       mPhone2,       mABList,      mFriendOf, mRole->ComboBox(),
+                                   roleAdd,      roleEdit,      mOutOfTowner, mNotes,    SaveAndNewButton(),
+                                   SaveButton(), CancelButton()};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
 }
@@ -385,9 +359,8 @@ void frmContact::ConnectChanges() {
 // ---- Loading ----------------------------------------------------------------------------------------
 
 void frmContact::LoadContact(const QString& contactId, Mode mode) {
-    mAdding = mode != Mode::Edit;
-    if (!contactId.isEmpty())
-        mContact.OpenRecord(contactId);
+    SetAdding(mode != Mode::Edit);
+    RecordIO::Attempt([this, &contactId] { mContact.OpenRecord(contactId); });
     if (mode == Mode::Copy) {
         // Another person of the same household: the same address and data, a name still to type, no
         // role, and nothing of the first person's invitation, seat or travel.
@@ -435,10 +408,6 @@ void frmContact::ShowContact() {
 }
 
 void frmContact::ShowHeader() {
-    const QString heading =
-        (mAdding ? QStringLiteral("Add New") : QStringLiteral("Edit")) + QStringLiteral(" Contact");
-    mHeader->setText(heading);
-    setWindowTitle(heading);
     const bool guest = !mContact.GUEST_OF_ID.isEmpty();
     mGuestOf->setVisible(guest);
     mGuestOf->setText(guest ? QStringLiteral("Guest of ") + mContact.GUEST_OF_FULL_NM() : QString());
@@ -473,14 +442,6 @@ QStringList frmContact::Snapshot() const {
             mChild->isChecked() ? QStringLiteral("Y") : QStringLiteral("N"),
             mOutOfTowner->isChecked() ? QStringLiteral("Y") : QStringLiteral("N"),
             mNotes->toPlainText()};
-}
-
-void frmContact::MarkClean() {
-    mClean = Snapshot();
-}
-
-bool frmContact::IsDirty() const {
-    return Snapshot() != mClean;
 }
 
 // A role given by the opener is part of the new contact, not a change by the user.
@@ -582,7 +543,7 @@ bool frmContact::eventFilter(QObject* watched, QEvent* event) {
             // Leaving for another window, or for Cancel, is no reason to take the name apart.
             const auto reason = static_cast<QFocusEvent*>(event)->reason();
             if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
-                QApplication::focusWidget() != mCancel)
+                QApplication::focusWidget() != CancelButton())
                 CommitFullName(true);
         }
     } else if (watched == mRole->ComboBox() && event->type() == QEvent::KeyPress) {
@@ -635,13 +596,13 @@ void frmContact::StoreControls() {
     mContact.SetCHILD_FG_VALUE(mChild->isChecked());
     mContact.SetOUT_OF_TOWNER_FG_VALUE(mOutOfTowner->isChecked());
     mContact.NOTES_TX = ToStored(mNotes->toPlainText()).trimmed();
-    if (mAdding) {
+    if (IsAdding()) {
         mContact.PRIMARY_CONTACT_FG = QStringLiteral("N");
         mContact.ATTENDING_FG = QStringLiteral("N");
     }
 }
 
-bool frmContact::SaveContact() {
+bool frmContact::SaveRecord() {
     if (!TitleIsOneIndividual(mTitle->currentText().trimmed()))
         return false;
     CommitFullName(true);
@@ -649,47 +610,26 @@ bool frmContact::SaveContact() {
         return false;
     const clsCONTACT before = mContact;
     StoreControls();
-    if (!mContact.Save(mAdding, true)) {
+    const bool saved = RecordIO::Attempt([this] {
+        mContact.Save(IsAdding(), true);
+        if (mContact.CONTACT_ID == QLatin1String("1"))
+            gBride().OpenRecord(mContact.CONTACT_ID);
+        else if (mContact.CONTACT_ID == QLatin1String("2"))
+            gGroom().OpenRecord(mContact.CONTACT_ID);
+    });
+    if (!saved)
         mContact = before;
-        return false;
-    }
-    if (mContact.CONTACT_ID == QLatin1String("1"))
-        gBride().OpenRecord(mContact.CONTACT_ID);
-    else if (mContact.CONTACT_ID == QLatin1String("2"))
-        gGroom().OpenRecord(mContact.CONTACT_ID);
-    const bool added = mAdding;
-    mAdding = false;
-    MarkClean();
-    if (added)
-        emit Added(mContact.CONTACT_ID);
-    else
-        emit Updated(mContact.CONTACT_ID);
-    return true;
-}
-
-bool frmContact::cmdSave_Click() {
-    if (!SaveContact())
-        return false;
-    accept();
-    return true;
-}
-
-bool frmContact::cmdSaveAndNew_Click() {
-    if (!SaveContact())
-        return false;
-    StartNewOfHousehold();
-    return true;
+    return saved;
 }
 
 // After the husband comes the wife: the next person of the household keeps the address and the first
 // telephone, and what the list says about the household; the personal fields start empty.
-void frmContact::StartNewOfHousehold() {
+void frmContact::StartNew() {
     const QString nextTitle = mContact.TITLE_TX == QLatin1String("Mr.") ? QStringLiteral("Mrs.") : QString();
     clsCONTACT next;
     next.ADDRESS_TX = mContact.ADDRESS_TX;
     next.PHONE_TX = mContact.PHONE_TX;
     mContact = next;
-    mAdding = true;
     mTitle->setCurrentText(nextTitle);
     for (QLineEdit* box : {mFullName, mNick, mEmail, mPhone2})
         box->clear();
@@ -699,16 +639,7 @@ void frmContact::StartNewOfHousehold() {
     mRole->setEnabled(true);
     mRole->setListIndex(-1);
     ShowHeader();
-    MarkClean();
     mFullName->setFocus();
-}
-
-void frmContact::reject() {
-    const CloseChoice choice = AskBeforeClose(IsDirty());
-    if (choice == CloseChoice::Save)
-        cmdSave_Click();
-    else if (choice == CloseChoice::Discard)
-        QDialog::reject();
 }
 
 // ---- Registration -----------------------------------------------------------------------------------

@@ -1,15 +1,13 @@
 #pragma once
 
 #include "guests/clsCONTACT.h"
-
-#include <QDialog>
+#include "shell/frmEditorBase.h"
 
 class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
-class QPushButton;
 class QRadioButton;
 class clsParseName;
 class usrDropdown;
@@ -22,7 +20,7 @@ class usrHyperlink;
 // "txt_6" telephones, "cbo_7" A-B list, "cbo_8" friend of, "usr_9" role, "optGender_0" male,
 // "optGender_1" female, "chkCHILD_FG", "chkOUT_OF_TOWNER_FG", "txt_10" notes, "picMapIt", "lblHeader",
 // "lblGuestOf", "imgContact", and the buttons "cmd_0" Save and New, "cmd_1" Save, "cmd_2" Cancel.
-class frmContact : public QDialog {
+class frmContact : public frmEditorBase {
     Q_OBJECT
 
 public:
@@ -35,13 +33,6 @@ public:
     // A new contact for a given role (a parent, say); the role list shows it.
     void SetRole(const QString& roleId);
 
-    // The runs of the three buttons; false when the contact was refused or the save failed (the
-    // message has been shown and the form is as it was).
-    bool cmdSave_Click();
-    bool cmdSaveAndNew_Click();
-
-    bool IsAdding() const { return mAdding; }
-    bool IsDirty() const;
     const clsCONTACT& Contact() const { return mContact; }
 
     // Makes this editor the one that the invitation and reply editors open (modContactEditor).
@@ -51,16 +42,15 @@ public:
     static QString FirstNamePlaceholder() { return QStringLiteral("[FirstName]"); }
 
 signals:
-    void Added(const QString& contactId);
-    void Updated(const QString& contactId);
     void OptionsChanged();
-
-public slots:
-    // Esc, Cancel and the window's close button: with unsaved changes, asks first.
-    void reject() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    QStringList Snapshot() const override;
+    bool SaveRecord() override;
+    QString RecordKey() const override { return mContact.CONTACT_ID; }
+    // After the husband comes the wife: the next person of the household.
+    void StartNew() override;
 
 private:
     QWidget* BuildHeader();
@@ -75,11 +65,7 @@ private:
     void LoadContact(const QString& contactId, Mode mode);
     void ShowContact();
     void ShowHeader();
-    void StartNewOfHousehold();
-    QStringList Snapshot() const;
-    void MarkClean();
 
-    bool SaveContact();
     bool TitleIsOneIndividual(const QString& title);
     bool NamesAreComplete();
     void StoreControls();
@@ -96,9 +82,7 @@ private:
     QString CleanAddress() const;
 
     clsCONTACT mContact;
-    bool mAdding = true;
     bool mCommittingName = false;
-    QStringList mClean;
 
     QLabel* mPicture = nullptr;
     QLabel* mHeader = nullptr;
@@ -120,7 +104,4 @@ private:
     QCheckBox* mChild = nullptr;
     QCheckBox* mOutOfTowner = nullptr;
     QPlainTextEdit* mNotes = nullptr;
-    QPushButton* mSaveAndNew = nullptr;
-    QPushButton* mSave = nullptr;
-    QPushButton* mCancel = nullptr;
 };

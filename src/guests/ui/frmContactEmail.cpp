@@ -1,7 +1,7 @@
 #include "guests/ui/frmContactEmail.h"
 
-#include "guests/ui/modGuestEditors.h"
 #include "platform/clsShell.h"
+#include "shell/controls/modLayout.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -17,7 +17,7 @@ frmContactEmail::frmContactEmail(int selectedCount, const QString& addresses, QW
     const QString heading =
         QStringLiteral("E-mail contacts (") + QString::number(selectedCount) + QLatin1Char(')');
     setWindowTitle(heading);
-    QLabel* header = modGuestEditors::HeaderLabel(this);
+    QLabel* header = modLayout::HeaderLabel(this);
     header->setText(heading);
 
     mList = new QPlainTextEdit(addresses, this);

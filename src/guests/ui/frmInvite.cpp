@@ -1,15 +1,14 @@
 #include "guests/ui/frmInvite.h"
 
-#include "core/RecordIO.h"
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
-#include "core/clsDB.h"
 #include "core/clsDICT.h"
 #include "guests/ui/frmInviteTip.h"
 #include "guests/ui/modContactEditor.h"
 #include "guests/ui/modGuestEditors.h"
 #include "guests/ui/usrGuestList.h"
 #include "shell/controls/ControlIcons.h"
+#include "shell/controls/modLayout.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/options/frmOptions.h"
 
@@ -37,14 +36,6 @@ const QString kAddressNeeded =
 const QString kAndGuest = QStringLiteral("And &Guest");
 const QString kNoTitle = QStringLiteral("(No Title)");
 
-// Thrown when a step of the save has shown its own message already.
-struct StepFailed {};
-
-void Require(bool done) {
-    if (!done)
-        throw StepFailed{};
-}
-
 qsizetype IndexOf(const QList<clsCONTACT>& people, const QString& contactId) {
     for (qsizetype i = 0; i < people.size(); ++i) {
         if (usrGuestList::RowKey(people.at(i)) == contactId)
@@ -71,20 +62,11 @@ QStringList ContactKeys(const QStringList& rowKeys) {
     return keys;
 }
 
-QLabel* Heading(const QString& name, QWidget* parent) {
-    auto* label = new QLabel(parent);
-    label->setObjectName(name);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-    return label;
-}
-
 } // namespace
 
-frmInvite::frmInvite(const QString& inviteId, QWidget* parent) : QDialog(parent) {
+frmInvite::frmInvite(const QString& inviteId, QWidget* parent) : frmEditorBase(parent) {
     setObjectName(QStringLiteral("frmInvite"));
-    mHeader = modGuestEditors::HeaderLabel(this);
+    SetRecordNoun(QStringLiteral("Invitation"));
 
     auto* body = new QHBoxLayout;
     body->setSpacing(16);
@@ -95,22 +77,10 @@ frmInvite::frmInvite(const QString& inviteId, QWidget* parent) : QDialog(parent)
     right->addStretch(1);
     body->addLayout(right, 2);
 
-    auto* buttons = new QDialogButtonBox(this);
-    mSave = buttons->addButton(QStringLiteral("Save"), QDialogButtonBox::AcceptRole);
-    mSave->setObjectName(QStringLiteral("cmdSave"));
-    mCancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
-    mCancel->setObjectName(QStringLiteral("cmdCancel"));
-    mSave->setDefault(true);
-    connect(mSave, &QPushButton::clicked, this, [this] {
-        if (SaveInvitation())
-            QDialog::accept();
-    });
-    connect(mCancel, &QPushButton::clicked, this, &frmInvite::reject);
-
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(mHeader);
+    layout->addWidget(Header());
     layout->addLayout(body, 1);
-    layout->addWidget(buttons);
+    layout->addWidget(ButtonRow());
 
     BuildMenu();
     AddShortcuts();
@@ -129,8 +99,8 @@ QWidget* frmInvite::BuildLists() {
     auto* grid = new QGridLayout(panel);
     grid->setContentsMargins(0, 0, 0, 0);
 
-    mListHeadings[0] = Heading(QStringLiteral("lblList_0"), panel);
-    mListHeadings[1] = Heading(QStringLiteral("lblList_1"), panel);
+    mListHeadings[0] = modLayout::BoldLabel(QStringLiteral("lblList_0"), panel);
+    mListHeadings[1] = modLayout::BoldLabel(QStringLiteral("lblList_1"), panel);
     mUpper = new usrGuestList(QStringLiteral("Guests to be Invited"), panel);
     mUpper->setObjectName(QStringLiteral("lvw_0"));
     mLower = new usrGuestList(QStringLiteral("Guests on Invitation"), panel);
@@ -218,8 +188,7 @@ QWidget* frmInvite::BuildLists() {
 }
 
 QWidget* frmInvite::BuildEnvelope() {
-    auto* box = new QGroupBox(QStringLiteral("Envelope"), this);
-    box->setObjectName(QStringLiteral("fraEnvelope"));
+    QGroupBox* box = modLayout::Group(QStringLiteral("Envelope"), this, QStringLiteral("fraEnvelope"));
     auto* layout = new QVBoxLayout(box);
 
     mAutoUpdate = new QCheckBox(QStringLiteral("Auto-suggest &wording"), box);
@@ -279,7 +248,7 @@ QWidget* frmInvite::BuildEnvelope() {
 }
 
 QWidget* frmInvite::BuildBottom() {
-    auto* box = new QGroupBox(QStringLiteral("Invitation"), this);
+    QGroupBox* box = modLayout::Group(QStringLiteral("Invitation"), this);
     auto* layout = new QVBoxLayout(box);
     mSent = new QCheckBox(QStringLiteral("Invitation &Sent"), box);
     mSent->setObjectName(QStringLiteral("chkINVITE_SENT_FG"));
@@ -345,29 +314,19 @@ void frmInvite::AddShortcuts() {
     shortcut(QKeySequence(Qt::CTRL | Qt::Key_Down), [this] { MoveSelected(1); });
     shortcut(QKeySequence::New, [this] { OpenContact(QString()); });
     shortcut(QKeySequence(Qt::Key_F2), [this] { EditSelectedContact(); });
-    shortcut(QKeySequence(Qt::CTRL | Qt::Key_S), [this] {
-        if (SaveInvitation())
-            QDialog::accept();
-    });
 }
 
 // ---- Loading and showing ------------------------------------------------------------------------
 
 void frmInvite::LoadInvitation(const QString& inviteId) {
-    bool found = false;
-    if (!inviteId.isEmpty())
-        mInvite.OpenRecord(inviteId, true, &found);
-    mAdd = !found;
-    if (mAdd) {
+    const bool found = RecordIO::Read([&] { return mInvite.OpenRecord(inviteId, true); });
+    SetAdding(!found);
+    if (!found) {
         mInvite = clsINVITE();
         mInvite.AUTO_UPDATE_FG = QStringLiteral("Y");
     }
     mPeople = mInvite.GUESTS;
-
-    const QString heading = mAdd ? QStringLiteral("Add New Invitation") : QStringLiteral("Edit Invitation");
-    setWindowTitle(heading);
-    mHeader->setText(heading);
-    mSave->setText(mAdd ? QStringLiteral("Create Invitation") : QStringLiteral("Save"));
+    SaveButton()->setText(found ? QStringLiteral("Save") : QStringLiteral("Create Invitation"));
 
     mUpdatingChecks = true;
     mAutoUpdate->setChecked(mInvite.AUTO_UPDATE_FG_VALUE() == 1);
@@ -380,14 +339,17 @@ void frmInvite::LoadInvitation(const QString& inviteId) {
     LoadCandidates();
     ShowLists();
     RefreshEtiquetteLink();
-    mLoadedState = StateText();
+    MarkClean();
     RefreshEnabling();
 }
 
 void frmInvite::LoadCandidates() {
-    mCandidates = clsCONTACT::OpenRecords(
-        0, QStringLiteral(
-               "CONTACT.INVITE_ID Is Null AND (CONTACT.ROLE_ID Not In (1,2) OR CONTACT.ROLE_ID Is Null)"));
+    mCandidates = RecordIO::Read([] {
+        return clsCONTACT::OpenRecords(
+            0,
+            QStringLiteral(
+                "CONTACT.INVITE_ID Is Null AND (CONTACT.ROLE_ID Not In (1,2) OR CONTACT.ROLE_ID Is Null)"));
+    });
     // A brought guest left without an invitation is no one to invite: it goes at the next save.
     mCandidates.removeIf([](const clsCONTACT& c) { return !c.GUEST_OF_ID.isEmpty(); });
 }
@@ -408,7 +370,7 @@ void frmInvite::RefreshWording() {
     mInvite.SetAUTO_UPDATE_FG_VALUE(mAutoUpdate->isChecked() ? 1 : 0);
     if (mPeople.isEmpty())
         mInvite.OUTER_ENVELOPE_ADDRESS_TX.clear();
-    mInvite.RefreshLabeling(false, false);
+    RecordIO::Attempt([this] { mInvite.RefreshLabeling(false, false); });
     if (mAutoUpdate->isChecked()) {
         mOuter->setText(mInvite.OUTER_ENVELOPE_TX);
         mInner->setText(mInvite.INNER_ENVELOPE_TX);
@@ -455,21 +417,16 @@ void frmInvite::RefreshEnabling() {
     const int oneSelected = static_cast<int>(mUpper->SelectedKeys().size() + selected.size());
     mEditLink->setEnabled(oneSelected == 1 && modContactEditor::Available());
     mAddLink->setEnabled(modContactEditor::Available());
-    mSave->setEnabled(!mPeople.isEmpty());
+    SaveButton()->setEnabled(!mPeople.isEmpty());
 }
 
-// What the user can change, as one text, to tell whether anything changed since the load or the save.
-QString frmInvite::StateText() const {
+QStringList frmInvite::Snapshot() const {
     QStringList state;
     for (const clsCONTACT& c : mPeople)
         state << usrGuestList::RowKey(c) + QLatin1Char('/') + c.TITLE_TX;
     state << mOuter->text() << mInner->text() << mRsvpId->text() << QString::number(mSent->isChecked())
           << QString::number(mAutoUpdate->isChecked());
-    return state.join(QLatin1Char('|'));
-}
-
-bool frmInvite::IsDirty() const {
-    return StateText() != mLoadedState;
+    return state;
 }
 
 // ---- Moving people ----------------------------------------------------------------------------------
@@ -602,7 +559,7 @@ void frmInvite::txtAddress_DblClick() {
 // A contact made in the contact editor lands on the invitation.
 void frmInvite::mfrmContact_Added(const QString& contactId) {
     clsCONTACT contact;
-    if (!contact.OpenRecord(contactId) || !contact.INVITE_ID.isEmpty())
+    if (!RecordIO::Read([&] { return contact.OpenRecord(contactId); }) || !contact.INVITE_ID.isEmpty())
         return;
     mCandidates.append(contact);
     AddPeople({contactId});
@@ -610,7 +567,7 @@ void frmInvite::mfrmContact_Added(const QString& contactId) {
 
 void frmInvite::mfrmContact_Updated(const QString& contactId) {
     clsCONTACT contact;
-    if (!contact.OpenRecord(contactId))
+    if (!RecordIO::Read([&] { return contact.OpenRecord(contactId); }))
         return;
     for (QList<clsCONTACT>* list : {&mPeople, &mCandidates}) {
         const qsizetype i = IndexOf(*list, contactId);
@@ -632,12 +589,16 @@ void frmInvite::mfrmContact_Updated(const QString& contactId) {
 void frmInvite::SetTitleOfSelected(const QString& title) {
     const QStringList keys = ContactKeys(mLower->SelectedKeys() + mUpper->SelectedKeys());
     for (const QString& id : std::as_const(keys)) {
-        clsCONTACT contact;
-        if (!contact.OpenRecord(id))
-            continue;
-        contact.TITLE_TX = title;
-        if (contact.Save(false, true))
-            mfrmContact_Updated(id);
+        const bool saved = RecordIO::Attempt([&id, &title] {
+            clsCONTACT contact;
+            if (!contact.OpenRecord(id))
+                return;
+            contact.TITLE_TX = title;
+            contact.Save(false, true);
+        });
+        if (!saved)
+            return; // the rest is not tried after a refusal
+        mfrmContact_Updated(id);
     }
 }
 
@@ -689,8 +650,6 @@ bool frmInvite::eventFilter(QObject* watched, QEvent* event) {
 
 void frmInvite::TakeControls(clsINVITE& invite) const {
     invite.INVITE_RSVP_ID = mRsvpId->text().trimmed();
-    if (mAdd && invite.INVITE_RSVP_ID.isEmpty())
-        invite.INVITE_RSVP_ID = clsINVITE::NEXT_INVITE_RSVP_ID();
     invite.OUTER_ENVELOPE_TX = mOuter->text().trimmed();
     invite.INNER_ENVELOPE_TX = mInner->text().trimmed();
     invite.INVITE_SENT_FG = mSent->isChecked() ? QStringLiteral("Y") : QStringLiteral("N");
@@ -699,29 +658,7 @@ void frmInvite::TakeControls(clsINVITE& invite) const {
     invite.SetAUTO_UPDATE_FG_VALUE(mAutoUpdate->isChecked() ? 1 : 0);
 }
 
-// Everyone is released first, with all attendance; then the people of the list are put back in order,
-// the first of them primary, and a guest taken off the list is gone.
-QList<clsCONTACT> frmInvite::SavePeopleOrThrow(const QString& inviteId) const {
-    Require(clsCONTACT::UpdateInvitesToNull(inviteId));
-    QList<clsCONTACT> people = mPeople;
-    for (clsCONTACT& guest : people) {
-        if (guest.CONTACT_ID.isEmpty())
-            guest.SaveOrThrow(true, false);
-    }
-    for (qsizetype i = 0; i < people.size(); ++i) {
-        clsCONTACT contact;
-        Require(contact.OpenRecord(people.at(i).CONTACT_ID));
-        contact.INVITE_ID = inviteId;
-        contact.SORT_ORDER_NB = QString::number(i + 1);
-        contact.PRIMARY_CONTACT_FG = i == 0 ? QStringLiteral("Y") : QStringLiteral("N");
-        contact.SaveOrThrow(false, false);
-        people[i] = contact;
-    }
-    Require(clsCONTACT::DeleteGuestOfGuestsWithNoInvitation());
-    return people;
-}
-
-bool frmInvite::SaveInvitation() {
+bool frmInvite::SaveRecord() {
     if (mPeople.isEmpty()) {
         ShowMessage(QStringLiteral("An invitation needs at least one person.\n\nDrag a name from the "
                                    "upper list to the list of contacts on the invitation."),
@@ -734,36 +671,13 @@ bool frmInvite::SaveInvitation() {
     }
     clsINVITE invite = mInvite;
     TakeControls(invite);
-    QList<clsCONTACT> people;
-    try {
-        clsTransaction tx(gDB());
-        invite.SaveOrThrow(mAdd);
-        people = SavePeopleOrThrow(invite.INVITE_ID);
-        tx.Commit();
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
+    if (!RecordIO::Attempt([this, &invite] { invite.SaveWithPeople(IsAdding(), mPeople); }))
         return false;
-    } catch (const StepFailed&) {
-        return false;
-    }
-    const bool added = mAdd;
     mInvite = invite;
-    mInvite.GUESTS = people;
-    mPeople = people;
-    mAdd = false;
-    mLoadedState = StateText();
-    if (added)
-        emit Added(mInvite.INVITE_ID);
-    else
-        emit Updated(mInvite.INVITE_ID);
+    mPeople = invite.GUESTS;
     return true;
 }
 
-void frmInvite::reject() {
-    const CloseChoice choice =
-        AskBeforeClose(IsDirty(), mAdd ? QStringLiteral("Create Invitation?") : QStringLiteral("Save Changes?"));
-    if (choice == CloseChoice::Save && SaveInvitation())
-        QDialog::accept();
-    else if (choice == CloseChoice::Discard)
-        QDialog::reject();
+QString frmInvite::CloseQuestion() const {
+    return IsAdding() ? QStringLiteral("Create Invitation?") : QStringLiteral("Save Changes?");
 }

@@ -2,8 +2,8 @@
 
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
+#include "shell/frmEditorBase.h"
 
-#include <QDialog>
 #include <array>
 
 class QCheckBox;
@@ -11,7 +11,6 @@ class QLabel;
 class QLineEdit;
 class QMenu;
 class QPlainTextEdit;
-class QPushButton;
 class QWidget;
 class usrGuestList;
 class usrHyperlink;
@@ -24,14 +23,14 @@ class usrHyperlink;
 // "chkINVITE_SENT_FG", "chkAUTO_UPDATE_FG", "txt_0" (outer names), "txt_1" (address), "txt_2"
 // (inner), "txt_3" (RSVP ID), "fraRSVP", "imgRSVP", "linkEtiquette", "lblOuter", "lblInner",
 // "cmdSave", "cmdCancel".
-class frmInvite : public QDialog {
+class frmInvite : public frmEditorBase {
     Q_OBJECT
 
 public:
     // An empty id makes a new invitation.
     explicit frmInvite(const QString& inviteId = QString(), QWidget* parent = nullptr);
 
-    bool IsAddMode() const { return mAdd; }
+    bool IsAddMode() const { return IsAdding(); }
     // The invitation as it stands in the editor, with its people in order.
     const clsINVITE& Invite() const { return mInvite; }
     const QList<clsCONTACT>& People() const { return mPeople; }
@@ -45,14 +44,7 @@ public:
     // Moves the selected people of the invitation up (-1) or down (+1).
     void MoveSelected(int delta);
 
-    // Saves the invitation and its people all or nothing, and tells the opener. False, with the form
-    // left as it is, when anything is refused or fails.
-    bool SaveInvitation();
-    bool IsDirty() const;
-
 signals:
-    void Added(const QString& inviteId);
-    void Updated(const QString& inviteId);
     // The etiquette changed while the editor was open; every inner envelope was written again.
     void EtiquetteUpdated();
 
@@ -60,10 +52,15 @@ public slots:
     void mfrmContact_Added(const QString& contactId);
     void mfrmContact_Updated(const QString& contactId);
     void mfrmOptions_EtiquetteUpdated();
-    void reject() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    QStringList Snapshot() const override;
+    // Saves the invitation and its people all or nothing. False, with the form left as it is, when
+    // anything is refused or fails.
+    bool SaveRecord() override;
+    QString RecordKey() const override { return mInvite.INVITE_ID; }
+    QString CloseQuestion() const override;
 
 private:
     // ---- Building ----
@@ -81,7 +78,6 @@ private:
     void RefreshAndGuest();
     void RefreshEtiquetteLink();
     void RefreshEnabling();
-    QString StateText() const;
 
     // ---- Events of the controls ----
     void chkAND_GUEST_Click(bool checked);
@@ -99,16 +95,12 @@ private:
     clsCONTACT MakeAndGuest(const clsCONTACT& host) const;
     bool HasBroughtGuest() const;
     void TakeControls(clsINVITE& invite) const;
-    QList<clsCONTACT> SavePeopleOrThrow(const QString& inviteId) const;
 
-    bool mAdd = true;
     clsINVITE mInvite;
     QList<clsCONTACT> mPeople;
     QList<clsCONTACT> mCandidates;
-    QString mLoadedState;
     bool mUpdatingChecks = false;
 
-    QLabel* mHeader = nullptr;
     std::array<QLabel*, 2> mListHeadings{};
     usrGuestList* mUpper = nullptr;
     usrGuestList* mLower = nullptr;
@@ -126,6 +118,4 @@ private:
     QLabel* mRsvpLocked = nullptr;
     usrHyperlink* mEtiquette = nullptr;
     QMenu* mMenu = nullptr;
-    QPushButton* mSave = nullptr;
-    QPushButton* mCancel = nullptr;
 };

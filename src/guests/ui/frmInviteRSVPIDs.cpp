@@ -4,6 +4,7 @@
 #include "guests/clsINVITE.h"
 #include "guests/ui/frmInviteTip.h"
 #include "guests/ui/modGuestEditors.h"
+#include "shell/controls/modLayout.h"
 #include "shell/controls/usrHyperlink.h"
 
 #include <QApplication>
@@ -27,7 +28,7 @@ QLabel* Paragraph(const QString& name, const QString& text, QWidget* parent) {
 frmInviteRSVPIDs::frmInviteRSVPIDs(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmInviteRSVPIDs"));
     setWindowTitle(QStringLiteral("Sort RSVP IDs"));
-    QLabel* header = modGuestEditors::HeaderLabel(this);
+    QLabel* header = modLayout::HeaderLabel(this);
     header->setText(QStringLiteral("Sort RSVP IDs"));
 
     QLabel* text =
@@ -95,7 +96,7 @@ bool frmInviteRSVPIDs::SortRSVPIDs() {
     if (gApp().LockRSVPIDs())
         return false;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const bool sorted = clsINVITE::SortRSVPIDs();
+    const bool sorted = RecordIO::Attempt([] { clsINVITE::SortRSVPIDs(); });
     QApplication::restoreOverrideCursor();
     if (!sorted)
         return false;

@@ -131,7 +131,8 @@ long frmMain_01_Contacts::CountOf(int filterId) const {
 }
 
 int frmMain_01_Contacts::FillRows(clsGridFill& fill, int filterId) {
-    QList<clsCONTACT> contacts = clsCONTACT::OpenRecords(filterId, {}, {}, ExcludeBrideGroom(filterId));
+    QList<clsCONTACT> contacts = RecordIO::Read(
+        [&] { return clsCONTACT::OpenRecords(filterId, {}, {}, ExcludeBrideGroom(filterId)); });
     for (clsCONTACT& contact : contacts) {
         WriteRow(fill.Row(contact.CONTACT_ID.toLongLong()), contact).Keep(std::move(contact));
     }
@@ -162,7 +163,7 @@ void frmMain_01_Contacts::mfrmContact_Added(const QString& contactId) {
 void frmMain_01_Contacts::mfrmContact_Updated(const QString& contactId) {
     const QModelIndex row = RowOfKey(contactId.toLongLong());
     clsCONTACT contact;
-    if (row.isValid() && contact.OpenRecord(contactId))
+    if (row.isValid() && RecordIO::Read([&] { return contact.OpenRecord(contactId); }))
         SetRowCells(row, contact);
     RefreshPanel();
 }
@@ -199,7 +200,7 @@ bool frmMain_01_Contacts::ChangeSelected(const std::function<void(clsCONTACT&)>&
         if (!contact.OpenRecord(QString::number(key)))
             return;
         change(contact);
-        contact.SaveOrThrow(false, true);
+        contact.Save(false, true);
         saved.append(contact.CONTACT_ID);
     });
     if (ok) {

@@ -123,7 +123,7 @@ long frmMain_02_Invitations::CountOf(int filterId) const {
 }
 
 int frmMain_02_Invitations::FillRows(clsGridFill& fill, int filterId) {
-    QList<clsINVITE> invites = clsINVITE::OpenRecords(filterId, true);
+    QList<clsINVITE> invites = RecordIO::Read([filterId] { return clsINVITE::OpenRecords(filterId, true); });
     for (clsINVITE& invite : invites)
         WriteRow(fill.Row(invite.INVITE_ID.toLongLong()), invite).Keep(std::move(invite));
     return static_cast<int>(invites.size());
@@ -136,8 +136,7 @@ void frmMain_02_Invitations::SetRowCells(const QModelIndex& row, const clsINVITE
 void frmMain_02_Invitations::RefreshRow(const QString& inviteId) {
     const QModelIndex row = RowOfKey(inviteId.toLongLong());
     clsINVITE invite;
-    bool found = false;
-    if (row.isValid() && invite.OpenRecord(inviteId, false, &found) && found)
+    if (row.isValid() && RecordIO::Read([&] { return invite.OpenRecord(inviteId, false); }))
         SetRowCells(row, invite);
 }
 
@@ -205,7 +204,7 @@ int frmMain_02_Invitations::MarkSelectedSent(bool sent) {
     bool skipped = false;
     const bool ok = RunOverKeys(keys, [&](qint64 key) {
         clsINVITE invite;
-        if (!invite.OpenRecordOrThrow(QString::number(key), false))
+        if (!invite.OpenRecord(QString::number(key), false))
             return;
         // The address lives with the primary contact; an envelope without one can't go out.
         if (invite.OUTER_ENVELOPE_ADDRESS_TX.isEmpty()) {
@@ -215,7 +214,7 @@ int frmMain_02_Invitations::MarkSelectedSent(bool sent) {
         invite.INVITE_SENT_FG = sent ? QStringLiteral("Y") : QStringLiteral("N");
         if (!sent)
             invite.RSVP_RECEIVED_FG = QStringLiteral("N");
-        invite.SaveOrThrow(false);
+        invite.Save(false);
         saved.append(invite.INVITE_ID);
     });
     if (!ok)

@@ -149,7 +149,7 @@ int frmMain_03_RSVPs::ShareBaseOf(int filterId) const {
 }
 
 int frmMain_03_RSVPs::FillRows(clsGridFill& fill, int filterId) {
-    QList<clsINVITE> invites = clsINVITE::OpenRecords(filterId, false);
+    QList<clsINVITE> invites = RecordIO::Read([filterId] { return clsINVITE::OpenRecords(filterId, false); });
     for (clsINVITE& invite : invites)
         WriteRow(fill.Row(invite.INVITE_ID.toLongLong()), invite).Keep(std::move(invite));
     return static_cast<int>(invites.size());
@@ -178,8 +178,7 @@ void frmMain_03_RSVPs::OpenEditor(const QString& inviteId) {
 void frmMain_03_RSVPs::mfrmRSVP_RSVPUpdated(const QString& inviteId) {
     const QModelIndex row = RowOfKey(inviteId.toLongLong());
     clsINVITE invite;
-    bool found = false;
-    if (row.isValid() && invite.OpenRecord(inviteId, false, &found) && found)
+    if (row.isValid() && RecordIO::Read([&] { return invite.OpenRecord(inviteId, false); }))
         SetRowCells(row, invite);
     RefreshPanel();
 }

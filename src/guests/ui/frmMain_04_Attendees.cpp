@@ -217,8 +217,10 @@ long frmMain_04_Attendees::CountOf(int filterId) const {
 
 int frmMain_04_Attendees::FillRows(clsGridFill& fill, int filterId) {
     const QString meal = MealCondition(filterId);
-    QList<clsCONTACT> attendees = meal.isEmpty() ? clsCONTACT::OpenRecords(filterId, {}, {}, false)
-                                                 : clsCONTACT::OpenRecords(kCustomFilter, meal, {}, false);
+    QList<clsCONTACT> attendees = RecordIO::Read([&] {
+        return meal.isEmpty() ? clsCONTACT::OpenRecords(filterId, {}, {}, false)
+                              : clsCONTACT::OpenRecords(kCustomFilter, meal, {}, false);
+    });
     for (clsCONTACT& contact : attendees)
         WriteRow(fill.Row(contact.CONTACT_ID.toLongLong()), contact).Keep(std::move(contact));
     return static_cast<int>(attendees.size());
@@ -248,7 +250,8 @@ void frmMain_04_Attendees::OpenEditor(const QString& contactId) {
 void frmMain_04_Attendees::mfrmAttendee_AttendeeUpdated(const QString& contactId) {
     clsCONTACT contact;
     const QModelIndex row = RowOfKey(contactId.toLongLong());
-    if (!contact.OpenRecord(contactId) || contact.ATTENDING_FG != QLatin1String("Y") || !row.isValid()) {
+    if (!RecordIO::Read([&] { return contact.OpenRecord(contactId); }) ||
+        contact.ATTENDING_FG != QLatin1String("Y") || !row.isValid()) {
         Reload(); // the person leaves the list, and the count with them
         return;
     }
@@ -276,13 +279,13 @@ bool frmMain_04_Attendees::ChangeSelected(const std::function<void(clsCONTACT&)>
         if (!contact.OpenRecord(QString::number(key)))
             return;
         change(contact);
-        contact.SaveOrThrow(false, false); // neither meal nor side changes an envelope
+        contact.Save(false, false); // neither meal nor side changes an envelope
         saved.append(contact);
     });
     if (ok) {
         for (const clsCONTACT& contact : std::as_const(saved)) {
             clsCONTACT shown; // read again, for the meal's text
-            if (shown.OpenRecord(contact.CONTACT_ID))
+            if (RecordIO::Read([&] { return shown.OpenRecord(contact.CONTACT_ID); }))
                 SetRowCells(RowOfKey(contact.CONTACT_ID.toLongLong()), shown);
         }
     }

@@ -1,11 +1,9 @@
 #include "guests/ui/frmRSVP.h"
 
-#include "core/RecordIO.h"
-#include "core/ShowMessage.h"
-#include "core/clsDB.h"
 #include "core/clsDICT.h"
 #include "guests/ui/modContactEditor.h"
 #include "guests/ui/modGuestEditors.h"
+#include "shell/controls/modLayout.h"
 #include "shell/controls/usrDropdown.h"
 #include "shell/controls/usrHyperlink.h"
 
@@ -27,22 +25,20 @@ QString Flag(bool on) {
 }
 
 QLabel* ColumnHeading(const QString& text, QWidget* parent) {
-    auto* label = new QLabel(text, parent);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
+    QLabel* label = modLayout::BoldLabel(QString(), parent);
+    label->setText(text);
     label->setStyleSheet(QStringLiteral("color: palette(dark);"));
     return label;
 }
 
 } // namespace
 
-frmRSVP::frmRSVP(const QString& inviteId, QWidget* parent) : QDialog(parent) {
+frmRSVP::frmRSVP(const QString& inviteId, QWidget* parent) : frmEditorBase(parent) {
     setObjectName(QStringLiteral("frmRSVP"));
     setWindowTitle(QStringLiteral("Open RSVP"));
-    mInvite.OpenRecord(inviteId, true);
-
-    QDialogButtonBox* buttons = modGuestEditors::SaveCancelButtons(this, [this] { return SaveRSVP(); }, &mSave);
+    SetAdding(false);
+    RecordIO::Attempt([this, &inviteId] { mInvite.OpenRecord(inviteId, true); });
+    connect(this, &frmEditorBase::Updated, this, &frmRSVP::RSVPUpdated);
 
     mSummary = new QLabel(this);
     mSummary->setObjectName(QStringLiteral("lblSummary"));
@@ -54,10 +50,11 @@ frmRSVP::frmRSVP(const QString& inviteId, QWidget* parent) : QDialog(parent) {
     layout->addWidget(BuildTop());
     layout->addWidget(BuildLines(), 1);
     layout->addWidget(mSummary);
-    layout->addWidget(buttons);
+    layout->addWidget(ButtonRow());
 
     RefreshEnabling();
     RefreshSummary();
+    MarkClean();
     resize(560, qMin(640, 300 + 34 * static_cast<int>(mLines.size())));
     mReceived->setFocus();
 }
@@ -74,7 +71,7 @@ QWidget* frmRSVP::BuildTop() {
     mOpen->setObjectName(QStringLiteral("imgRSVPOpen"));
     mOpen->setPixmap(modGuestEditors::ReplyPicture(true, side, devicePixelRatioF()));
 
-    QLabel* header = modGuestEditors::HeaderLabel(top);
+    QLabel* header = Header(top);
     header->setText(QStringLiteral("RSVP ID"));
     auto* id = new QLabel(QStringLiteral("# ") + (mInvite.INVITE_RSVP_ID.isEmpty() ? QStringLiteral("?")
                                                                                    : mInvite.INVITE_RSVP_ID),
@@ -182,50 +179,33 @@ void frmRSVP::RefreshSummary() {
     mSummary->setText(QStringLiteral("%1 of %2 attending").arg(AttendingCount()).arg(mLines.size()));
 }
 
-bool frmRSVP::IsDirty() const {
-    if (Flag(mReceived->isChecked()) !=
-        (mInvite.RSVP_RECEIVED_FG == QLatin1String("Y") ? QStringLiteral("Y") : QStringLiteral("N")))
-        return true;
-    for (int i = 0; i < mLines.size(); ++i) {
-        const clsCONTACT& person = mInvite.GUESTS.at(i);
-        const bool attending = mLines.at(i).Attending->isChecked();
-        if (attending != (person.ATTENDING_FG == QLatin1String("Y")))
-            return true;
-        if (attending && mLines.at(i).Meal->Code() != person.MEAL_ID)
-            return true;
+// A meal counts only for a person who comes.
+QStringList frmRSVP::Snapshot() const {
+    QStringList state{Flag(mReceived->isChecked())};
+    for (const Line& line : mLines) {
+        const bool attending = line.Attending->isChecked();
+        state << Flag(attending) << (attending ? line.Meal->Code() : QString());
     }
-    return false;
+    return state;
 }
 
-bool frmRSVP::SaveRSVP() {
-    clsINVITE invite = mInvite;
-    invite.RSVP_RECEIVED_FG = Flag(mReceived->isChecked());
-    QList<clsCONTACT> people = invite.GUESTS;
-    try {
-        clsTransaction tx(gDB());
-        invite.SaveOrThrow(false);
-        for (int i = 0; i < people.size(); ++i) {
-            clsCONTACT& person = people[i];
-            person.ATTENDING_FG = Flag(mLines.at(i).Attending->isChecked());
-            person.MEAL_ID = mLines.at(i).Meal->Code();
-            // A reply changes no envelope.
-            person.SaveOrThrow(false, false);
-        }
-        tx.Commit();
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
+bool frmRSVP::SaveRecord() {
+    clsINVITE reply = mInvite;
+    reply.RSVP_RECEIVED_FG = Flag(mReceived->isChecked());
+    for (int i = 0; i < reply.GUESTS.size(); ++i) {
+        reply.GUESTS[i].ATTENDING_FG = Flag(mLines.at(i).Attending->isChecked());
+        reply.GUESTS[i].MEAL_ID = mLines.at(i).Meal->Code();
     }
-    invite.GUESTS = people;
-    mInvite = invite;
-    emit RSVPUpdated(mInvite.INVITE_ID);
+    if (!RecordIO::Attempt([&reply] { reply.SaveReply(); }))
+        return false;
+    mInvite = reply;
     return true;
 }
 
 // The name of a person changed in the contact editor: the line follows, and so do the envelopes.
 void frmRSVP::mfrmContact_Updated(const QString& contactId) {
     clsCONTACT contact;
-    if (!contact.OpenRecord(contactId))
+    if (!RecordIO::Read([&] { return contact.OpenRecord(contactId); }))
         return;
     for (int i = 0; i < mInvite.GUESTS.size(); ++i) {
         if (mInvite.GUESTS.at(i).CONTACT_ID != contactId)
@@ -234,17 +214,13 @@ void frmRSVP::mfrmContact_Updated(const QString& contactId) {
         mLines[i].Name->setCaption(contact.FirstLast());
     }
     clsINVITE labels = mInvite;
-    if (labels.RefreshLabeling(true, false) && labels.Save(false)) {
+    const bool relabelled = RecordIO::Attempt([&labels] {
+        labels.RefreshLabeling(true, false);
+        labels.Save(false);
+    });
+    if (relabelled) {
         mInvite.DISPLAY_AS_TX = labels.DISPLAY_AS_TX;
         mInvite.OUTER_ENVELOPE_TX = labels.OUTER_ENVELOPE_TX;
         mInvite.INNER_ENVELOPE_TX = labels.INNER_ENVELOPE_TX;
     }
-}
-
-void frmRSVP::reject() {
-    const CloseChoice choice = AskBeforeClose(IsDirty());
-    if (choice == CloseChoice::Save && SaveRSVP())
-        QDialog::accept();
-    else if (choice == CloseChoice::Discard)
-        QDialog::reject();
 }

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "guests/clsINVITE.h"
+#include "shell/frmEditorBase.h"
 
-#include <QDialog>
 #include <QList>
 
 class QCheckBox;
 class QGridLayout;
 class QLabel;
-class QPushButton;
 class usrDropdown;
 class usrHyperlink;
 
@@ -16,7 +15,7 @@ class usrHyperlink;
 // what they eat. Children: "lblHeader", "lblRSVPID" ("# 12"), "lblInvitation", "imgRSVPClosed",
 // "imgRSVPOpen", "chkRSVP_RECEIVED_FG", and per person (from 0) "linkContact_i", "chkATTENDING_FG_i",
 // "usrMEAL_i"; "lblSummary", "cmdSave", "cmdCancel".
-class frmRSVP : public QDialog {
+class frmRSVP : public frmEditorBase {
     Q_OBJECT
 
 public:
@@ -24,17 +23,19 @@ public:
 
     const clsINVITE& Invite() const { return mInvite; }
     int AttendingCount() const;
-    // Writes the reply: the received flag on the invitation, attendance and meal on each person, all
-    // or nothing. A person who does not come keeps no meal and no seat. False after a message.
-    bool SaveRSVP();
-    bool IsDirty() const;
 
 signals:
     void RSVPUpdated(const QString& inviteId);
 
 public slots:
     void mfrmContact_Updated(const QString& contactId);
-    void reject() override;
+
+protected:
+    QStringList Snapshot() const override;
+    // Writes the reply: the received flag on the invitation, attendance and meal on each person, all
+    // or nothing.
+    bool SaveRecord() override;
+    QString RecordKey() const override { return mInvite.INVITE_ID; }
 
 private:
     struct Line {
@@ -55,5 +56,4 @@ private:
     QLabel* mClosed = nullptr;
     QLabel* mOpen = nullptr;
     QLabel* mSummary = nullptr;
-    QPushButton* mSave = nullptr;
 };

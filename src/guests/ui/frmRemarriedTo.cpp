@@ -4,6 +4,7 @@
 #include "guests/ui/frmContact.h"
 #include "guests/ui/modGuestEditors.h"
 #include "shell/controls/ControlIcons.h"
+#include "shell/controls/modLayout.h"
 #include "shell/controls/usrDropdown.h"
 #include "shell/controls/usrHyperlink.h"
 
@@ -22,7 +23,7 @@ const QString kContactsQuery =
 frmRemarriedTo::frmRemarriedTo(int roleId, QWidget* parent) : QDialog(parent), mRoleId(roleId) {
     setObjectName(QStringLiteral("frmRemarriedTo"));
     setWindowTitle(QStringLiteral("Remarried To"));
-    QLabel* header = modGuestEditors::HeaderLabel(this);
+    QLabel* header = modLayout::HeaderLabel(this);
     header->setText(QStringLiteral("Remarried To"));
 
     auto* role = new QLabel(RoleCaption(roleId), this);
@@ -102,7 +103,7 @@ void frmRemarriedTo::linkAddContact_Click() {
 
 void frmRemarriedTo::cmdOK_Click() {
     const QString contactId = SelectedContactId();
-    if (!clsCONTACT::SaveRole(contactId, QString::number(mRoleId)))
+    if (!RecordIO::Attempt([this, &contactId] { clsCONTACT::SaveRole(contactId, QString::number(mRoleId)); }))
         return;
     emit NameSelected(contactId);
     accept();

@@ -33,16 +33,6 @@ QDialogButtonBox* OkCancelButtons(QDialog* dialog, const std::function<void()>& 
     return AcceptCancelButtons(dialog, buttons->addButton(QDialogButtonBox::Ok), QStringLiteral("cmdOK"), ok);
 }
 
-QDialogButtonBox* SaveCancelButtons(QDialog* dialog, const std::function<bool()>& save, QPushButton** saveButton) {
-    auto* buttons = new QDialogButtonBox(dialog);
-    QPushButton* button = buttons->addButton(QStringLiteral("Save"), QDialogButtonBox::AcceptRole);
-    if (saveButton)
-        *saveButton = button;
-    return AcceptCancelButtons(dialog, button, QStringLiteral("cmdSave"), [dialog, save] {
-        if (save())
-            dialog->accept();
-    });
-}
 namespace {
 
 const QColor kPaper(0xfb, 0xf8, 0xf1);
@@ -67,17 +57,6 @@ void DrawArrow(QPainter& p, const QRectF& r, const QColor& color, bool up) {
 }
 
 } // namespace
-
-QLabel* HeaderLabel(QWidget* parent) {
-    auto* label = new QLabel(parent);
-    label->setObjectName(QStringLiteral("lblHeader"));
-    QFont font = label->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.35);
-    label->setFont(font);
-    label->setContentsMargins(0, 0, 0, 6);
-    return label;
-}
 
 QIcon ArrowIcon(bool up) {
     return ControlIcons::Drawn(

@@ -7,20 +7,15 @@
 class QDialog;
 class QDialogButtonBox;
 class QLabel;
-class QPushButton;
 class QWidget;
 
-// What the invitation and reply editors share in their look: the heading, arrows and the pictures of
+// What the invitation and reply editors share in their look: the OK row, arrows and the pictures of
 // a response card, drawn as vectors so that they stay crisp at any screen density.
 namespace modGuestEditors {
 
 // OK ("cmdOK", the default button) runs the dialog's own check; Cancel ("cmdCancel") closes the dialog
 // through its reject(), which may ask first.
 QDialogButtonBox* OkCancelButtons(QDialog* dialog, const std::function<void()>& ok);
-// The same with "Save" ("cmdSave"): the dialog closes when save() succeeds. *saveButton gets the button.
-QDialogButtonBox* SaveCancelButtons(QDialog* dialog, const std::function<bool()>& save, QPushButton** saveButton);
-// The bold heading at the top of an editor ("lblHeader").
-QLabel* HeaderLabel(QWidget* parent);
 // An arrow pointing up or down, in the palette's text colour.
 QIcon ArrowIcon(bool up);
 // A small downward arrow beside a hint.

@@ -112,10 +112,6 @@ bool StoredFormal(int key) {
     }
 }
 
-QString FormalText(bool formal) {
-    return formal ? QStringLiteral("True") : QStringLiteral("False");
-}
-
 QPixmap IconPixmap(const QIcon& icon, int side, const QWidget* widget) {
     return icon.pixmap(QSize(side, side), widget->devicePixelRatioF());
 }
@@ -708,34 +704,33 @@ void frmOptions::cmdUpdate_Click(EtiquetteBox& box) {
 // The choice and the texts written from it are one piece of work: a cancel or a failure leaves both as
 // they were.
 bool frmOptions::WriteEtiquette(EtiquetteBox& box, bool formal) {
+    if (box.Key == kInvitationsKey)
+        return RelabelInvitations(box, formal);
     bool written = false;
     try {
         clsTransaction tx(gDB());
-        written = gVowren().QuickUpdate(box.Key, FormalText(formal)) &&
-                  (box.Key == kInvitationsKey ? RelabelInvitations(box) : modEtiquette::RefreshTentcards()) &&
-                  !mCancelRequested;
+        written = gVowren().QuickUpdate(box.Key, clsVOWREN::BooleanText(formal)) &&
+                  modEtiquette::RefreshTentcards() && !mCancelRequested;
         if (written)
             tx.Commit();
     } catch (const clsDbError& e) {
         RecordIO::Report(e);
         written = false;
     }
-    if (!written) {
-        try {
-            gVowren().OpenRecords(); // memory follows the rows that were put back
-        } catch (const clsDbError&) {
-        }
-    }
+    if (!written)
+        gVowren().OpenRecords(); // memory follows the rows that were put back
     return written;
 }
 
-bool frmOptions::RelabelInvitations(EtiquetteBox& box) {
-    return modEtiquette::RelabelInvitations([this, &box](int done, int total) {
-        box.Progress->setMaximum(total);
-        box.Progress->setValue(done);
+// The bar moves with each invitation; the events the bar lets through may bring Cancel.
+bool frmOptions::RelabelInvitations(EtiquetteBox& box, bool formal) {
+    const auto progress = [this, &box](qsizetype done, qsizetype total) {
+        box.Progress->setMaximum(static_cast<int>(total));
+        box.Progress->setValue(static_cast<int>(done));
         QCoreApplication::processEvents();
         return !mCancelRequested;
-    });
+    };
+    return RecordIO::Read([&] { return modEtiquette::ChangeInvitationEtiquette(formal, progress); });
 }
 
 void frmOptions::SetRunning(EtiquetteBox& box, bool running) {

@@ -138,7 +138,7 @@ private:
     void CheckUpdate(EtiquetteBox& box);
     void cmdUpdate_Click(EtiquetteBox& box);
     bool WriteEtiquette(EtiquetteBox& box, bool formal);
-    bool RelabelInvitations(EtiquetteBox& box);
+    bool RelabelInvitations(EtiquetteBox& box, bool formal);
     void SetRunning(EtiquetteBox& box, bool running);
     void timer_Timer(EtiquetteBox& box);
 

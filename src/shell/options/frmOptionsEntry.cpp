@@ -1,6 +1,7 @@
 #include "shell/options/frmOptionsEntry.h"
 
 #include "core/ShowMessage.h"
+#include "shell/controls/modLayout.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -10,16 +11,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-QLabel* HeaderLabel(QWidget* parent) {
-    auto* label = new QLabel(parent);
-    label->setObjectName(QStringLiteral("lblHeader"));
-    QFont font = label->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.25);
-    label->setFont(font);
-    return label;
-}
 
 // The roles of the bride and the groom keep their first names in a hint once they are renamed.
 QString OriginalRoleText(const QString& id, const QString& text) {
@@ -38,7 +29,7 @@ frmOptionsEntry::frmOptionsEntry(const clsDICT& record, bool isNew, int kind, QW
     mRecord.DICT_TYPE = kind;
     mLoadedText = mRecord.TX;
 
-    mHeader = HeaderLabel(this);
+    mHeader = modLayout::HeaderLabel(this, 1.25);
     mText = new QLineEdit(this);
     mText->setObjectName(QStringLiteral("txt"));
     mText->setMaxLength(255);

@@ -4,9 +4,9 @@
 #include "core/clsDB.h"
 #include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
+#include "planning/clsBUDGET.h"
 #include "planning/clsBUDGET_CATEGORY_DICT.h"
 #include "planning/clsEVENT.h"
-#include "planning/clsTIMELINE.h"
 #include "shell/controls/usrNumberBox.h"
 #include "shell/mdiMain.h"
 #include "shell/modPages.h"
@@ -538,19 +538,21 @@ void frmMain_00_Welcome::OnContinue() {
 
 // ---- Finish --------------------------------------------------------------------------------------
 
+// The couple, the wedding day and the budget are one piece of work: all of it is kept, or none.
 bool frmMain_00_Welcome::Finish() {
-    bool done = false;
-    try {
+    const bool done = RecordIO::Attempt([this] {
         clsTransaction tx(gDB());
-        done = SaveCouple() && SaveWeddingDay() && SaveEstimates();
-        if (done)
-            tx.Commit();
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        done = false;
-    }
-    gBride().OpenRecord(QStringLiteral("1"));
-    gGroom().OpenRecord(QStringLiteral("2"));
+        clsCONTACT::SaveCouple(mBride, mGroom);
+        clsEVENT::SaveWeddingDay(WeddingDateTimeText());
+        clsBUDGET_CATEGORY_DICT::SaveEstimates(Estimates());
+        // Every expense is due on the wedding day until told otherwise.
+        clsBUDGET::SetEveryDueDate(FormatDate(monthYear->selectedDate()));
+        tx.Commit();
+    });
+    RecordIO::Attempt([] {
+        gBride().OpenRecord(QStringLiteral("1"));
+        gGroom().OpenRecord(QStringLiteral("2"));
+    });
     gWeddingEvent().OpenRecord(QStringLiteral("1"));
     gVowren().OpenRecords();
     if (done)
@@ -558,73 +560,9 @@ bool frmMain_00_Welcome::Finish() {
     return done;
 }
 
-// The couple are rows 1 and 2. The groom heads the couple's own envelope, should they ever be given one;
-// both attend their own wedding.
-bool frmMain_00_Welcome::SaveCouple() {
-    struct Part {
-        clsCONTACT* Parsed;
-        const char* Id;
-        const char* Title;
-        const char* Primary;
-    };
-    for (const Part& part : {Part{&mBride, "1", "Miss", "N"}, Part{&mGroom, "2", "Mr.", "Y"}}) {
-        clsCONTACT person;
-        const bool isNew = !person.OpenRecord(QLatin1String(part.Id));
-        if (isNew) {
-            person.ROLE_ID = QLatin1String(part.Id);
-            person.FRIEND_OF_CD = QLatin1String(part.Id);
-        }
-        person.TITLE_TX = QLatin1String(part.Title);
-        person.FIRST_NM = part.Parsed->FIRST_NM;
-        person.MIDDLE_NM = part.Parsed->MIDDLE_NM;
-        person.LAST_NM = part.Parsed->LAST_NM;
-        person.SUFFIX_TX = part.Parsed->SUFFIX_TX;
-        person.AB_LIST_CD = QStringLiteral("A");
-        person.PRIMARY_CONTACT_FG = QLatin1String(part.Primary);
-        person.ATTENDING_FG = QStringLiteral("Y");
-        if (!person.Save(isNew, false))
-            return false;
-    }
-    return true;
-}
-
-bool frmMain_00_Welcome::SaveWeddingDay() {
-    clsEVENT wedding;
-    const bool isNew = !wedding.OpenRecord(QStringLiteral("1"));
-    wedding.EVENT_ID = QStringLiteral("1");
-    wedding.EVENT_TX = QStringLiteral("Wedding");
-    wedding.EVENT_DT = WeddingDateTimeText();
-    if (!wedding.Save(isNew))
-        return false;
-
-    const QString existing = gDB()
-                                 .Execute(QStringLiteral("SELECT COUNT(*) FROM TIMELINE WHERE EVENT_ID = 1 AND "
-                                                         "TIMELINE_DESC = 'Wedding Ceremony'"))
-                                 .Scalar();
-    if (existing.toLong() == 0) {
-        clsTIMELINE ceremony;
-        ceremony.TIMELINE_START_DT = wedding.EVENT_DT;
-        ceremony.TIMELINE_END_DT = wedding.EVENT_DT;
-        ceremony.TIMELINE_DESC = QStringLiteral("Wedding Ceremony");
-        ceremony.CONTACT_NM = QStringLiteral("Everyone");
-        ceremony.EVENT_ID = QStringLiteral("1");
-        if (!ceremony.Save(true))
-            return false;
-    }
-    return true;
-}
-
-bool frmMain_00_Welcome::SaveEstimates() {
-    for (int row = 0; row < grid->rowCount(); ++row) {
-        clsBUDGET_CATEGORY_DICT category;
-        if (!category.OpenRecord(QString::number(DefaultShares()[row].CategoryId)))
-            continue;
-        category.ESTIMATE_AMOUNT_NB = QString::number(Estimate(row), 'f', 2);
-        if (!category.Save(false))
-            return false;
-    }
-    // Every expense is due on the wedding day until told otherwise.
-    gDB().Execute(QStringLiteral("UPDATE BUDGET SET DUE_DT = ?"),
-                  {RecordIO::ToDbValue(QStringLiteral("DUE_DT"), FormatDate(monthYear->selectedDate()))});
-    return true;
+QMap<QString, double> frmMain_00_Welcome::Estimates() const {
+    QMap<QString, double> estimates;
+    for (int row = 0; row < grid->rowCount(); ++row)
+        estimates.insert(QString::number(DefaultShares()[row].CategoryId), Estimate(row));
+    return estimates;
 }

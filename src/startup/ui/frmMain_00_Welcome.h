@@ -5,6 +5,7 @@
 
 #include <QDate>
 #include <QList>
+#include <QMap>
 #include <QTime>
 #include <QWidget>
 
@@ -62,9 +63,8 @@ private:
     void FillEstimates();
     void OnShareEdited(QTableWidgetItem* item);
     bool Finish();
-    bool SaveCouple();
-    bool SaveWeddingDay();
-    bool SaveEstimates();
+    // Each category's estimate by its key, as the grid shows it.
+    QMap<QString, double> Estimates() const;
     double Budget() const;
 
     QStackedWidget* mSteps = nullptr;

@@ -236,7 +236,7 @@ private slots:
             reply.findChild<QCheckBox*>("chkATTENDING_FG_0")->setChecked(true);
             reply.findChild<usrDropdown*>("usrMEAL_0")->setCode(mealId);
         }
-        QVERIFY(reply.SaveRSVP());
+        QVERIFY(reply.Save());
 
         const int invited =
             TestDatabase::Scalar("SELECT COUNT(*) FROM CONTACT WHERE INVITE_ID = ?", {inviteId}).toInt();
@@ -275,7 +275,7 @@ private slots:
         connect(&editor, &frmAttendee::AttendeeUpdated, &page,
                 &frmMain_04_Attendees::mfrmAttendee_AttendeeUpdated);
         editor.findChild<QCheckBox*>("chkATTENDING_FG")->setChecked(false);
-        QVERIFY(editor.SaveAttendee());
+        QVERIFY(editor.Save());
         QVERIFY(!page.Grid()->Model()->FindRecord(id.toLongLong()).isValid());
         QCOMPARE(Text(&page, "lblStat_14"), QString::number(before.toInt() - 1));
         QCOMPARE(

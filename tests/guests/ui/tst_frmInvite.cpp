@@ -220,7 +220,7 @@ private slots:
 
         Drag(Child<usrGuestList>(form.get(), "lvw_0"), Child<usrGuestList>(form.get(), "lvw_1"), {ann});
         QSignalSpy updated(form.get(), &frmInvite::Updated);
-        QVERIFY(form->SaveInvitation());
+        QVERIFY(form->Save());
         QCOMPARE(updated.count(), 1);
         QCOMPARE(Scalar("SELECT COUNT(*) FROM CONTACT WHERE CONTACT_ID = ?", {ids[1]}), QStringLiteral("0"));
         QCOMPARE(
@@ -345,7 +345,7 @@ private slots:
         QTest::keyClicks(outer, "The Smith Family");
         form->AddPeople({mary});
         QCOMPARE(outer->text(), QStringLiteral("The Smith Family"));
-        QVERIFY(form->SaveInvitation());
+        QVERIFY(form->Save());
         QCOMPARE(Scalar("SELECT OUTER_ENVELOPE_TX || AUTO_UPDATE_FG || DISPLAY_AS_TX FROM INVITE"),
                  QStringLiteral("The Smith FamilyNSmith, John and Mary"));
         Toggle(autoUpdate);

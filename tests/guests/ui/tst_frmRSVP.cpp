@@ -180,7 +180,7 @@ private slots:
         Toggle(Child<QCheckBox>(&form, "chkRSVP_RECEIVED_FG"));
         Toggle(Child<QCheckBox>(&form, "chkATTENDING_FG_0"));
         QSignalSpy updated(&form, &frmRSVP::RSVPUpdated);
-        QVERIFY(!form.SaveRSVP());
+        QVERIFY(!form.Save());
         QCOMPARE(updated.count(), 0);
         QCOMPARE(db->Messages().Prompts.size(), 1);
         QCOMPARE(Dump("CONTACT"), contacts);
