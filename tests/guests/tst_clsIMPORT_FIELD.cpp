@@ -31,20 +31,8 @@ private slots:
                                   << "ZIP_TX";
         QTest::newRow("zipcode is no alias") << "ZIPCODE"
                                              << "";
-        QTest::newRow("outlook street") << "Home Street"
-                                        << "ADDRESS_TX";
         QTest::newRow("lower case") << "first name"
                                     << "FIRST_NM";
-        QTest::newRow("e-mail") << "E-mail Address"
-                                << "EMAIL_TX";
-        QTest::newRow("mobile") << "Mobile Phone"
-                                << "PHONE2_TX";
-        QTest::newRow("sex") << "Sex"
-                             << "GENDER_FG";
-        QTest::newRow("rsvp") << "RSVP"
-                              << "RSVP_ID";
-        QTest::newRow("memo") << "Memo"
-                              << "NOTES_TX";
         QTest::newRow("blank around is no match") << " Last"
                                                   << "";
         QTest::newRow("unknown") << "Birthday"

@@ -96,71 +96,16 @@ private slots:
                                         << ""
                                         << "lee"
                                         << "" << false;
-        QTest::newRow("Doctor") << "Doctor Ann Lee" << true << "Doctor"
-                                << "Ann"
-                                << ""
-                                << "Lee"
-                                << "" << false;
-        QTest::newRow("Judge") << "Judge Judith Sheindlin" << true << "Judge"
-                               << "Judith"
-                               << ""
-                               << "Sheindlin"
-                               << "" << false;
         QTest::newRow("Rev.") << "Rev. Martin Luther King Jr." << true << "Rev."
                               << "Martin"
                               << "Luther"
                               << "King"
                               << "Jr." << false;
-        QTest::newRow("Reverend") << "Reverend Al Green" << true << "Reverend"
-                                  << "Al"
-                                  << ""
-                                  << "Green"
-                                  << "" << false;
-        QTest::newRow("Rabbi") << "Rabbi Ruth Cohen" << true << "Rabbi"
-                               << "Ruth"
-                               << ""
-                               << "Cohen"
-                               << "" << false;
-        QTest::newRow("Pastor") << "Pastor Joe Hill" << true << "Pastor"
-                                << "Joe"
-                                << ""
-                                << "Hill"
-                                << "" << false;
-        QTest::newRow("Prof.") << "Prof. Ada Byron" << true << "Prof."
-                               << "Ada"
-                               << ""
-                               << "Byron"
-                               << "" << false;
-        QTest::newRow("Professor") << "Professor Ada Byron" << true << "Professor"
-                                   << "Ada"
-                                   << ""
-                                   << "Byron"
-                                   << "" << false;
-        QTest::newRow("Master") << "Master Tim Cratchit" << true << "Master"
-                                << "Tim"
-                                << ""
-                                << "Cratchit"
-                                << "" << false;
-        QTest::newRow("Miss") << "Miss Jane Eyre" << true << "Miss"
-                              << "Jane"
-                              << ""
-                              << "Eyre"
-                              << "" << false;
         QTest::newRow("Mrs without period") << "Mrs Jane Eyre" << true << "Mrs"
                                             << "Jane"
                                             << ""
                                             << "Eyre"
                                             << "" << false;
-        QTest::newRow("Ms.") << "Ms. Jane Eyre" << true << "Ms."
-                             << "Jane"
-                             << ""
-                             << "Eyre"
-                             << "" << false;
-        QTest::newRow("Sra.") << "Sra. Maria Lopez" << true << "Sra."
-                              << "Maria"
-                              << ""
-                              << "Lopez"
-                              << "" << false;
         QTest::newRow("Sr. first is a title, last a suffix") << "Sr. Jose Garcia Sr." << true << "Sr."
                                                              << "Jose"
                                                              << ""
@@ -238,11 +183,6 @@ private slots:
                                            << ""
                                            << "Smith"
                                            << "junior" << false;
-        QTest::newRow("Senior") << "John Smith SENIOR" << true << ""
-                                << "John"
-                                << ""
-                                << "Smith"
-                                << "SENIOR" << false;
         QTest::newRow("VIII") << "Henry Tudor VIII" << true << ""
                               << "Henry"
                               << ""
@@ -290,11 +230,6 @@ private slots:
                                << ""
                                << "de la Cruz"
                                << "" << false;
-        QTest::newRow("von der") << "Ursula von der Leyen" << true << ""
-                                 << "Ursula"
-                                 << ""
-                                 << "von der Leyen"
-                                 << "" << false;
         QTest::newRow("De with title and suffix") << "Sr. Juan De La Cruz Jr." << true << "Sr."
                                                   << "Juan"
                                                   << ""
@@ -354,21 +289,11 @@ private slots:
                              << ""
                              << "小明"
                              << "" << false;
-        QTest::newRow("CJK one word") << "李小龙" << true << ""
-                                      << "李小龙"
-                                      << ""
-                                      << ""
-                                      << "" << true;
         QTest::newRow("emoji") << "Ana 🎉 Lopez" << true << ""
                                << "Ana"
                                << "🎉"
                                << "Lopez"
                                << "" << false;
-        QTest::newRow("backslash") << "C:\\Users Bob" << true << ""
-                                   << "C:\\Users"
-                                   << ""
-                                   << "Bob"
-                                   << "" << false;
         QTest::newRow("only punctuation") << "..." << true << ""
                                           << "..."
                                           << ""
@@ -379,11 +304,6 @@ private slots:
                                      << ""
                                      << ""
                                      << "" << true;
-        QTest::newRow("dashes") << "- - -" << true << ""
-                                << "-"
-                                << "-"
-                                << "-"
-                                << "" << false;
         QTest::newRow("tab is no blank") << "Ann\tLee" << true << ""
                                          << "Ann\tLee"
                                          << ""

@@ -2,7 +2,6 @@
 #include "core/clsApp.h"
 #include "planning/clsEVENT.h"
 #include "platform/clsRegistry.h"
-#include "platform/clsShell.h"
 
 #include <QtTest>
 #include <memory>
@@ -111,39 +110,12 @@ private slots:
         QCOMPARE(event.DisplayAddress(true), QStringLiteral("12 Oak St\r\nSuite 4\r\nBoston, MA  02101"));
     }
 
-    void mapLinkUsesTheCountryOfTheSettings() {
-        TestDatabase::Exec("UPDATE VOWREN SET VOWREN_TX = '2' WHERE VOWREN_ID = 9");
-        clsEVENT event;
-        event.ADDRESS_TX = QStringLiteral("1 High St");
-        event.CITY_TX = QStringLiteral("Bath");
-        QCOMPARE(event.MapURL(), MapAddressURL(QStringLiteral("1 High St\r\nBath"), 2));
-        QVERIFY(event.MapURL().startsWith(MapEndpoint(2)));
-        QString opened;
-        qunsetenv("VOWREN_NO_OPEN");
-        gShell().SetOpener([&opened](const QString& target) {
-            opened = target;
-            return true;
-        });
-        const bool mapped = event.MapIt();
-        gShell().SetOpener(clsShell::Opener());
-        qputenv("VOWREN_NO_OPEN", "1");
-        QVERIFY(mapped);
-        QCOMPARE(opened, event.MapURL());
-    }
-
     void anUnreadableDateIsRefused() {
         clsEVENT event = NewEvent("Picnic", "the 5th of June");
         QVERIFY(!event.Save(true));
         QVERIFY(event.EVENT_ID.isEmpty());
         QCOMPARE(db->Messages().Prompts.size(), 1);
         QCOMPARE(clsEVENT().GetTotal(), 1L);
-    }
-
-    void unknownKeyLeavesTheEventAsItWas() {
-        clsEVENT event = NewEvent("mine", "01-Jan-2027");
-        QVERIFY(!event.OpenRecord("77"));
-        QCOMPARE(event.EVENT_TX, QStringLiteral("mine"));
-        QVERIFY(db->Messages().Prompts.isEmpty());
     }
 
     void patchOneJoinsTheAddressParts() {

@@ -76,18 +76,6 @@ private slots:
         QCOMPARE(TestDatabase::Scalar("SELECT FILE_PATH_TX IS NULL FROM NOTEBOOK"), QStringLiteral("1"));
     }
 
-    void createTableMakesAMissingTableOnly() {
-        clsNOTEBOOK note = Note("05-Jun-2027", "Keep me");
-        QVERIFY(note.Save(true));
-        clsNOTEBOOK::CreateTable();
-        QCOMPARE(clsNOTEBOOK().GetTotal(), 1L);
-        TestDatabase::Exec("DROP TABLE NOTEBOOK");
-        clsNOTEBOOK::CreateTable();
-        QCOMPARE(clsNOTEBOOK().GetTotal(), 0L);
-        QVERIFY(note.Save(true));
-        QCOMPARE(note.NOTEBOOK_ID, QStringLiteral("1"));
-        QVERIFY(db->Messages().Prompts.isEmpty());
-    }
 };
 
 QTEST_GUILESS_MAIN(tst_clsNOTEBOOK)

@@ -61,8 +61,6 @@ private slots:
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QStringList>("readBack");
         QTest::newRow("none") << QStringList() << "" << QStringList();
-        QTest::newRow("one") << QStringList({"/home/a/Contract.pdf"}) << "/home/a/Contract.pdf"
-                             << QStringList({"/home/a/Contract.pdf"});
         QTest::newRow("two") << QStringList({"/a/x.pdf", "/b/y z.jpg"}) << "/a/x.pdf;/b/y z.jpg"
                              << QStringList({"/a/x.pdf", "/b/y z.jpg"});
         QTest::newRow("a path holding ';' splits in two")

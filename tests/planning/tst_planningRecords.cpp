@@ -156,12 +156,9 @@ private slots:
         QTest::addColumn<QString>("text");
         const QList<QPair<const char*, QString>> texts = {
             {"single quotes", QStringLiteral("O'Brien's 'best' cake")},
-            {"double quotes", QStringLiteral("The \"big\" day")},
-            {"accents", QStringLiteral("Crème brûlée à la Müller, Ñandú")},
             {"emoji", QStringLiteral("Cake 🎂 and rings 💍👰🏽")},
             {"SQL-looking", QStringLiteral("x'); DROP TABLE EVENT; --")},
             {"line breaks", QStringLiteral("line one\r\nline two\r\n")},
-            {"outer blanks", QStringLiteral("  spaced  ")},
         };
         for (const QString& kind : Kinds().keys())
             for (const auto& [name, text] : texts)

@@ -96,7 +96,6 @@ private slots:
         QTest::addColumn<int>("form");
         QTest::addColumn<QString>("where");
         QTest::newRow("contacts") << 1 << QString();
-        QTest::newRow("invitations") << 2 << QString();
         QTest::newRow("rsvps: all sent invitations") << 3 << clsINVITE::WHERE_CLAUSE(1);
         QTest::newRow("attendees: all attendees") << 4 << clsCONTACT::WHERE_CLAUSE(14, false);
     }
@@ -122,8 +121,6 @@ private slots:
         QTest::addColumn<QString>("header");
         QTest::newRow("contacts") << 1 << "clsRTFContacts" << 1000 << "Contacts";
         QTest::newRow("invitations") << 2 << "clsRTFInvitation" << 20 << "Invitations";
-        QTest::newRow("rsvps") << 3 << "clsRTFRSVP" << 20 << "RSVPs";
-        QTest::newRow("attendees") << 4 << "clsRTFAttendees" << 1000 << "Attendees";
     }
 
     void routeRunsTheSectionsReport()

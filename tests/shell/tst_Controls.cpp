@@ -4,16 +4,12 @@
 #include "shell/controls/usrCenterMe.h"
 #include "shell/controls/usrColor.h"
 #include "shell/controls/usrDropdown.h"
-#include "shell/controls/usrHint.h"
 #include "shell/controls/usrHyperlink.h"
-#include "shell/controls/usrLine3D.h"
 #include "shell/controls/usrLinks.h"
 #include "shell/controls/usrNumberBox.h"
 #include "shell/controls/usrSearch.h"
 
 #include <QComboBox>
-#include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QSignalSpy>
@@ -292,62 +288,6 @@ private slots:
         QCOMPARE(center.PictureRect(), picture);
     }
 
-    // ---- All of them together ----
-
-    // Every control gets at least the room it asks for in an ordinary form. With $VOWREN_GALLERY set
-    // to a file name, the form is saved there as a picture to look at.
-    void galleryGivesEveryControlItsRoom() {
-        TestDatabase db;
-        QWidget window;
-        window.setObjectName(QStringLiteral("gallery"));
-        auto* form = new QFormLayout(&window);
-        auto* number = new usrNumberBox;
-        number->setValue(1234.5);
-        auto* dropdown = new usrDropdown;
-        dropdown->PopulateX(clsDICT::Meal);
-        dropdown->setListIndex(0);
-        dropdown->setAddIsVisible(true);
-        dropdown->setEditIsVisible(true);
-        auto* links = new usrLinks;
-        links->SetLinks(
-            {QStringLiteral("All"), QStringLiteral("Attending"), QStringLiteral("Not attending")});
-        links->setSelectedIndex(0);
-        links->setProgressVisible(true);
-        links->setProgressValue(60);
-        auto* link = new usrHyperlink(QStringLiteral("Add a new contact"));
-        link->setPicture(ControlIcons::Plus());
-        auto* color = new usrColor;
-        color->setCaption(QStringLiteral("Table colour"));
-        color->setFillColor(QColor(219, 226, 244));
-        auto* center = new usrCenterMe;
-        center->setPicture(ControlIcons::Information());
-        center->setMinimumSize(120, 48);
-        form->addRow(QStringLiteral("usrNumberBox"), number);
-        form->addRow(QStringLiteral("usrDropdown"), dropdown);
-        form->addRow(QStringLiteral("usrSearch"), new usrSearch);
-        form->addRow(QStringLiteral("usrHyperlink"), link);
-        form->addRow(QStringLiteral("usrLinks"), links);
-        form->addRow(QStringLiteral("usrLine3D"), new usrLine3D);
-        form->addRow(QStringLiteral("usrColor"), color);
-        form->addRow(QStringLiteral("usrHint"),
-                     new usrHint(QStringLiteral("Double-click a guest to seat them.")));
-        form->addRow(QStringLiteral("usrCenterMe"), center);
-        window.resize(560, window.sizeHint().height());
-        ShowAndActivate(window);
-        number->setFocus();
-
-        for (QWidget* control : window.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-            if (qobject_cast<QLabel*>(control))
-                continue;
-            const QSize room = control->size();
-            const QSize wanted = control->minimumSizeHint();
-            QVERIFY2(room.width() >= wanted.width() && room.height() >= wanted.height(),
-                     qPrintable(QString::fromLatin1(control->metaObject()->className())));
-        }
-        const QString file = qEnvironmentVariable("VOWREN_GALLERY");
-        if (!file.isEmpty())
-            QVERIFY(window.grab().save(file));
-    }
 };
 
 QTEST_MAIN(tst_Controls)

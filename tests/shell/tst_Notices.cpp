@@ -7,7 +7,6 @@
 #include "shell/frmFeatureTour.h"
 #include "shell/frmForums.h"
 #include "shell/frmMain_99_Forums.h"
-#include "shell/frmScreenResolution.h"
 #include "shell/mdiMain.h"
 #include "shell/modFormPlace.h"
 #include "shell/modHelp.h"
@@ -15,7 +14,6 @@
 #include "startup/ui/frmMain_00_Home.h"
 
 #include <QDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -122,14 +120,6 @@ private slots:
             frmForums forums;
             forums.show();
             forums.findChild<QToolButton*>(QStringLiteral("imgForums"))->click();
-        }
-        {
-            frmScreenResolution hint;
-            QCOMPARE(hint.findChild<QLabel*>(QStringLiteral("lblHeading"))->text(),
-                     QStringLiteral("Change screen resolution"));
-            QCOMPARE(hint.findChild<QLabel*>(QStringLiteral("lblText"))->text(),
-                     QStringLiteral(
-                         "With a higher resolution, more information can be displayed on your monitor"));
         }
         QCOMPARE(opened.Targets, (QStringList{gApp().FeatureTourURL(), gApp().ForumsURL()}));
     }

@@ -160,15 +160,8 @@ void tst_Options::panelsShowWhatTheirRowNeeds_data() {
     QTest::addColumn<bool>("sortHint");
     QTest::addColumn<bool>("countryHint");
     QTest::addColumn<QString>("addCaption");
-    QTest::newRow("meals") << 1 << "Meals" << true << false << false << "Add new meal";
-    QTest::newRow("paid by") << 2 << "Paid by" << true << false << false << "Add new payer";
-    QTest::newRow("roles") << 3 << "Roles" << true << false << false << "Add new role";
-    QTest::newRow("titles") << 4 << "Titles" << true << false << false << "Add new title";
     QTest::newRow("songlists") << 8 << "Songlists" << true << true << false << "Add new songlist";
-    QTest::newRow("vendor categories")
-        << 10 << "Vendor Categories" << true << false << false << "Add new category";
     QTest::newRow("etiquette") << 5 << "Etiquette" << false << false << false << "";
-    QTest::newRow("icons") << 6 << "Bride & Groom Icons" << false << false << false << "";
     QTest::newRow("country") << 9 << "Country" << false << false << true << "";
     QTest::newRow("unknown opens the first") << 42 << "Meals" << true << false << false << "Add new meal";
 }
@@ -197,18 +190,9 @@ void tst_Options::dictionaryEntryAddEditDelete_data() {
     QTest::addColumn<QString>("table");
     QTest::addColumn<QString>("column");
     QTest::addColumn<QString>("price");
-    QTest::newRow("payer") << 2 << "PAID_BY_DICT"
-                           << "PAID_BY_TX"
-                           << "";
     QTest::newRow("title") << 4 << "TITLE_DICT"
                            << "TITLE_TX"
                            << "";
-    QTest::newRow("songlist") << 8 << "SONGLIST_DICT"
-                              << "SONGLIST_TX"
-                              << "";
-    QTest::newRow("vendor category") << 10 << "VENDOR_CATEGORY_DICT"
-                                     << "VENDOR_CATEGORY_TX"
-                                     << "";
     QTest::newRow("meal with a price") << 1 << "MEAL_DICT"
                                        << "MEAL_TX"
                                        << "42.5";

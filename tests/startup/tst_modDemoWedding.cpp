@@ -102,10 +102,8 @@ private slots:
         QTest::addColumn<int>("guests");
         QTest::addColumn<uint>("seed");
         QTest::newRow("default") << 150 << 1u;
-        QTest::newRow("other seed") << 150 << 99u;
         QTest::newRow("tiny") << 3 << 5u;
         QTest::newRow("couple only") << 0 << 1u;
-        QTest::newRow("large") << 1200 << 3u;
     }
     void plausible() {
         QFETCH(int, guests);

@@ -42,21 +42,6 @@ private slots:
     void init() { db = std::make_unique<TestDatabase>(); }
     void cleanup() { db.reset(); }
 
-    void wordingRowsAreOnlyUpdated() {
-        clsWORDING vows;
-        QVERIFY(vows.OpenRecord("2"));
-        QCOMPARE(vows.WORDING_TX, QString());
-        vows.WORDING_TX = QStringLiteral("I, Anna, take you, Ben,\r\nto be my husband.");
-        QVERIFY(vows.Save(false));
-        clsWORDING read;
-        QVERIFY(read.OpenRecord("2"));
-        QCOMPARE(read.WORDING_TX, vows.WORDING_TX);
-        clsWORDING other;
-        QVERIFY(other.OpenRecord("3"));
-        QCOMPARE(other.WORDING_TX, QString());
-        QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM WORDING"), QStringLiteral("3"));
-    }
-
     void wordingTableIsMadeWithItsThreeRows() {
         TestDatabase::Exec("UPDATE WORDING SET WORDING_TX = 'kept' WHERE WORDING_ID = 1");
         QVERIFY(!clsWORDING::CreateTable());
@@ -168,15 +153,6 @@ private slots:
         QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM INVITE_WIDGET"), QStringLiteral("0"));
     }
 
-    void createTableOnlyWhenMissing() {
-        Fill();
-        Invite("3", "5", "");
-        QVERIFY(!clsINVITE_WIDGET::CreateTable());
-        QCOMPARE(clsINVITE_WIDGET::GetTotal("3"), 1L);
-        TestDatabase::Exec("DROP TABLE INVITE_WIDGET");
-        QVERIFY(clsINVITE_WIDGET::CreateTable());
-        QCOMPARE(clsINVITE_WIDGET::GetTotal("3"), 0L);
-    }
 };
 
 QTEST_GUILESS_MAIN(tst_widget_records)

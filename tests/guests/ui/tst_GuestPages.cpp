@@ -91,10 +91,7 @@ private slots:
         QTest::addColumn<int>("filter");
         QTest::newRow("invitations, all") << 2 << 0;
         QTest::newRow("invitations, unsent") << 2 << 2;
-        QTest::newRow("invitations, groom") << 2 << 6;
-        QTest::newRow("RSVPs, all") << 3 << 1;
         QTest::newRow("RSVPs, no reply") << 3 << 4;
-        QTest::newRow("attendees, all") << 4 << 14;
         QTest::newRow("attendees, seated") << 4 << 21;
         QTest::newRow("attendees, first meal") << 4 << frmMain_04_Attendees::FirstMeal;
         QTest::newRow("attendees, no meal") << 4 << frmMain_04_Attendees::NoMeal;

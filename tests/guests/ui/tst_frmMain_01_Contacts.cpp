@@ -63,9 +63,7 @@ private slots:
         QTest::addColumn<int>("filter");
         QTest::newRow("all contacts") << 0;
         QTest::newRow("bride's side") << 1;
-        QTest::newRow("A list") << 4;
         QTest::newRow("not yet invited") << 7;
-        QTest::newRow("children") << 44;
     }
     void panelCountsAndFilters() {
         QFETCH(int, filter);
@@ -189,9 +187,7 @@ private slots:
         QTest::addColumn<QString>("column");
         QTest::addColumn<QString>("value");
         QTest::newRow("female") << "mnuGENDER_FG_1" << "GENDER_FG" << "F";
-        QTest::newRow("B list") << "mnuAB_1" << "AB_LIST_CD" << "B";
         QTest::newRow("groom's side") << "mnuFRIEND_OF_CD_1" << "FRIEND_OF_CD" << "2";
-        QTest::newRow("child") << "mnuAgeGroup_1" << "CHILD_FG" << "Y";
         QTest::newRow("out of town") << "mnuOUT_OF_TOWNER_FG_1" << "OUT_OF_TOWNER_FG" << "Y";
     }
     void bulkChangeFromTheMenu() {

@@ -133,21 +133,12 @@ private slots:
         const QString contacts = QStringLiteral("SELECT COUNT(*) FROM CONTACT");
         QTest::newRow("head") << "Contacts"
                               << "All Contacts" << contacts << true << 0 << "" << true;
-        QTest::newRow("under a head")
-            << "Contacts"
-            << "Friend of Bride" << contacts + " WHERE FRIEND_OF_CD = 1" << false << 10 << "" << true;
-        QTest::newRow("custom filter") << "Contacts"
-                                       << "Custom Filter"
-                                       << "SELECT '--'" << false << 10 << "" << true;
         QTest::newRow("note") << "Attendees"
                               << "Meals"
                               << "SELECT COUNT(*) FROM MEAL_DICT" << true << 0 << "For Caterer" << true;
         QTest::newRow("class missing") << "Attendees"
                                        << "Tabula Rasa" << contacts + " WHERE ATTENDING_FG = 'Y'" << true << 0
                                        << "Not available yet" << false;
-        QTest::newRow("invitations") << "Invitations"
-                                     << "All Invitations"
-                                     << "SELECT COUNT(*) FROM INVITE" << true << 0 << "" << true;
     }
     void sectionShowsItsRowsWithCounts() {
         QFETCH(QString, section);
@@ -183,12 +174,8 @@ private slots:
         QTest::addColumn<QString>("rowCaption");
         QTest::newRow("attendees meals") << int(C::Attendees) << 98 << "Attendees"
                                          << "Meals";
-        QTest::newRow("contacts female") << int(C::Contacts) << 38 << "Contacts"
-                                         << "Female";
         QTest::newRow("unknown section") << 77 << 38 << "Contacts"
                                          << "All Contacts";
-        QTest::newRow("unknown row") << int(C::Invitations) << 555 << "Invitations"
-                                     << "All Invitations";
     }
     void opensOnTheGivenSectionAndRow() {
         QFETCH(int, section);
@@ -197,18 +184,6 @@ private slots:
         QTEST(Child<QTreeWidget>(*form, QStringLiteral("gridReport"))->currentItem()->text(0),
               "sectionCaption");
         QTEST(Child<QTreeWidget>(*form, QStringLiteral("gridFilter"))->currentItem()->text(0), "rowCaption");
-    }
-
-    void runCaptionFollowsRowAndOutput() {
-        auto form = OpenReports(C::Contacts, 1);
-        auto* gridFilter = Child<QTreeWidget>(*form, QStringLiteral("gridFilter"));
-        auto* cmdRun = Child<QPushButton>(*form, QStringLiteral("cmdRun"));
-        QCOMPARE(cmdRun->text(), QStringLiteral("Run"));
-        ClickRow(gridFilter, RowCaptioned(gridFilter, QStringLiteral("Custom Filter")));
-        QCOMPARE(cmdRun->text(), QStringLiteral("Continue"));
-        ClickRow(gridFilter, RowCaptioned(gridFilter, QStringLiteral("Male")));
-        QCOMPARE(cmdRun->text(), QStringLiteral("Run"));
-        QVERIFY(cmdRun->isEnabled());
     }
 
     void labelsFollowTheirRuleAndFallBack() {
@@ -358,7 +333,6 @@ private slots:
         QTest::newRow("friend of bride and A list")
             << QStringList{"chk_1", "chk_4"} << "FRIEND_OF_CD = 1 AND AB_LIST_CD = 'A'";
         QTest::newRow("one group, two boxes") << QStringList{"chk_1", "chk_2"} << "FRIEND_OF_CD IN (1, 2)";
-        QTest::newRow("female") << QStringList{"chk_38"} << "GENDER_FG = 'F'";
         QTest::newRow("nothing") << QStringList{} << "";
     }
     void customFilterCountsTheTickedBoxes() {
