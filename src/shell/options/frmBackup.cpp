@@ -77,6 +77,8 @@ frmBackup::frmBackup(QWidget* parent) : QDialog(parent) {
     mBackups->setRootIsDecorated(false);
     mBackups->setUniformRowHeights(true);
     mBackups->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    mBackups->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    mBackups->header()->setStretchLastSection(false);
     mBackups->setMinimumHeight(mBackups->fontMetrics().height() * 8);
     mRestore = new QPushButton(QStringLiteral("Restore..."), this);
     mRestore->setObjectName(QStringLiteral("cmdRestore"));
