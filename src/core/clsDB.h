@@ -160,13 +160,8 @@ public:
     void Commit();
 
 private:
-    // True when the change wrote rows or changed a table: only then are the links checked.
-    bool ChangedAnything();
-
     clsDB& mDb;
     bool mDone = false;
-    qint64 mRowChangesAtStart = 0;
-    QString mSchemaAtStart;
 };
 
 // Converts between the stored ISO text of a date column and the program's date text.

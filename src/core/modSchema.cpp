@@ -2,6 +2,7 @@
 
 #include "core/clsApp.h"
 #include "core/clsDB.h"
+#include "platform/clsPrivateFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -288,14 +289,9 @@ bool CreateDatabaseFile(const QString& path, QString* error) {
                         .arg(target.absolutePath()));
     const QString temp = target.absoluteFilePath() + QStringLiteral(".new");
     QFile::remove(temp);
-    {
-        QFile file(temp);
-        if (!file.open(QIODevice::WriteOnly))
-            return fail(QStringLiteral("A new database could not be written in \"%1\": %2")
-                            .arg(target.absolutePath(), file.errorString()));
-        file.close();
-        file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-    }
+    // Readable by its owner only from the first byte; the engine keeps that mode, and so does its journal.
+    if (QString why; !clsPrivateFile::CreateNew(temp, &why))
+        return fail(QStringLiteral("A new database could not be written in \"%1\": %2").arg(target.absolutePath(), why));
     {
         clsDB db;
         db.DatabasePath = temp;
