@@ -1,5 +1,6 @@
 #include "core/modDatabaseLock.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
 #include <memory>
@@ -40,6 +41,8 @@ bool Acquire(const QString& databasePath, int waitMs, QString* holder) {
     HeldLock& current = Current();
     if (current.File && current.Path == path)
         return true;
+    // A first start has no Database folder yet; the lock comes before the file it guards.
+    QDir().mkpath(QFileInfo(path).absolutePath());
     auto file = std::make_unique<QLockFile>(path);
     // Only a holder that is gone gives the lock up; a long session never goes stale.
     file->setStaleLockTime(0);

@@ -330,6 +330,12 @@ private slots:
         QVERIFY(modDatabaseLock::Held());
     }
 
+    void theFirstStartAlreadyHoldsTheLock() {
+        QString message;
+        QVERIFY2(modSubMain::StartForChange(&message, 0), qPrintable(message));
+        QVERIFY(QFile::exists(DataFile() + ".lock"));
+    }
+
     void aNewerVowrensFileIsReadAndNeverWritten() {
         Start();
         gDB().ExecuteScript(QStringLiteral("UPDATE CONTACT SET ATTENDING_FG = 'N' WHERE CONTACT_ID = 1; "
