@@ -645,7 +645,7 @@ void frmContact::StartNew() {
 // ---- Registration -----------------------------------------------------------------------------------
 
 void frmContact::RegisterEditor() {
-    modContactEditor::SetFactory([](QWidget* parent, const QString& contactId) -> QDialog* {
+    modContactEditor::SetFactory([](QWidget* parent, const QString& contactId) -> frmEditorBase* {
         return new frmContact(contactId, parent);
     });
 }

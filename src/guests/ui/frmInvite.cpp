@@ -542,7 +542,9 @@ void frmInvite::chkAUTO_UPDATE_FG_Click(bool checked) {
 // ---- Contacts ---------------------------------------------------------------------------------------
 
 void frmInvite::OpenContact(const QString& contactId) {
-    modContactEditor::Open(this, contactId, this);
+    modContactEditor::Open(
+        this, contactId, [this](const QString& id) { mfrmContact_Added(id); },
+        [this](const QString& id) { mfrmContact_Updated(id); });
 }
 
 void frmInvite::EditSelectedContact() {

@@ -137,7 +137,9 @@ void frmRSVP::AddLine(QGridLayout* grid, int index, const clsCONTACT& person) {
     line.Name->setIndex(index);
     line.Name->setToolTip(QStringLiteral("Edit this contact"));
     connect(line.Name, &usrHyperlink::Click, this,
-            [this, id = person.CONTACT_ID] { modContactEditor::Open(this, id, this); });
+            [this, id = person.CONTACT_ID] {
+                modContactEditor::Open(this, id, {}, [this](const QString& updated) { mfrmContact_Updated(updated); });
+            });
     line.Name->setEnabled(modContactEditor::Available());
     line.Attending = new QCheckBox(parent);
     line.Attending->setObjectName(QStringLiteral("chkATTENDING_FG_%1").arg(index));

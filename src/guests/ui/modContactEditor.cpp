@@ -1,7 +1,7 @@
 #include "guests/ui/modContactEditor.h"
 
-#include <QDialog>
-#include <QMetaObject>
+#include "shell/frmEditorBase.h"
+
 #include <QPointer>
 
 namespace modContactEditor {
@@ -20,17 +20,16 @@ bool Available() {
     return static_cast<bool>(Registered());
 }
 
-bool Open(QWidget* parent, const QString& contactId, QObject* receiver) {
+bool Open(QWidget* parent, const QString& contactId, const Handler& onAdded, const Handler& onUpdated) {
     if (!Available())
         return false;
-    QPointer<QDialog> dialog = Registered()(parent, contactId);
+    QPointer<frmEditorBase> dialog = Registered()(parent, contactId);
     if (!dialog)
         return false;
-    const QMetaObject* meta = receiver->metaObject();
-    if (meta->indexOfSlot("mfrmContact_Added(QString)") >= 0)
-        QObject::connect(dialog, SIGNAL(Added(QString)), receiver, SLOT(mfrmContact_Added(QString)));
-    if (meta->indexOfSlot("mfrmContact_Updated(QString)") >= 0)
-        QObject::connect(dialog, SIGNAL(Updated(QString)), receiver, SLOT(mfrmContact_Updated(QString)));
+    if (onAdded)
+        QObject::connect(dialog, &frmEditorBase::Added, dialog, onAdded);
+    if (onUpdated)
+        QObject::connect(dialog, &frmEditorBase::Updated, dialog, onUpdated);
     dialog->exec();
     delete dialog;
     return true;
