@@ -83,6 +83,40 @@ private slots:
         QVERIFY(modBackup::List().isEmpty()); // nothing was written before the refusal
     }
 
+    // A damaged file is never called new: the message names the newest copy to restore.
+    void aDamagedFileNamesTheNewestBackup_data() {
+        QTest::addColumn<bool>("cutOff");
+        QTest::newRow("cut off") << true;
+        QTest::newRow("a page overwritten") << false; // found only by the check of the whole file
+    }
+    void aDamagedFileNamesTheNewestBackup() {
+        QFETCH(bool, cutOff);
+        db->Exec("WITH RECURSIVE n(i) AS (SELECT 3 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "
+                 "INSERT INTO CONTACT (CONTACT_ID, NOTES_TX) SELECT i, printf('%0200d', i) FROM n");
+        const QString copy = BackUp();
+        gDB().CloseConnection();
+        QFile file(gDB().DatabasePath);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        if (cutOff) {
+            QVERIFY(file.resize(file.size() / 2));
+        } else {
+            file.seek(file.size() / 2 - (file.size() / 2) % 4096);
+            file.write(QByteArray(4096, '\x5a'));
+        }
+        file.close();
+        const QByteArray damaged = [&] {
+            QFile f(gDB().DatabasePath);
+            return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+        }();
+        QVERIFY(!gDB().OpenConnection());
+        const QString told = gDB().OpenError();
+        QVERIFY2(told.contains("is damaged") && told.contains(copy), qPrintable(told));
+        QVERIFY(!told.contains("new database"));
+        QFile after(gDB().DatabasePath);
+        QVERIFY(after.open(QIODevice::ReadOnly));
+        QCOMPARE(after.readAll(), damaged);
+    }
+
     void aFolderThatCannotBeWrittenGivesAMessage() {
         const modBackup::Result result = modBackup::WriteBackup(gDB().Connection(), db->File("no/such/folder"));
         QVERIFY(!result.Ok);
