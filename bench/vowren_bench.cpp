@@ -248,7 +248,7 @@ void BM_DeleteContacts(benchmark::State& state) {
     for (auto _ : state) {
         try {
             clsTransaction tx(gDB());
-            const clsDeleteResult result = clsCONTACT::DeleteManyOrThrow(keys);
+            const clsDeleteResult result = clsCONTACT::DeleteMany(keys);
             state.counters["deleted"] = static_cast<double>(result.Deleted.size());
         } catch (const clsDbError& e) {
             state.SkipWithError(qPrintable(e.Message()));

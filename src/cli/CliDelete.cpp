@@ -45,8 +45,8 @@ int RunDelete(const QStringList& args, QTextStream& out, QTextStream& err) {
     try {
         // Checked inside the one transaction: a refusal rolls everything back.
         clsTransaction tx(gDB());
-        const clsDeleteResult result = contacts ? clsCONTACT::DeleteManyOrThrow(args.mid(1))
-                                                : clsINVITE::DeleteManyOrThrow(args.mid(1), true);
+        const clsDeleteResult result = contacts ? clsCONTACT::DeleteMany(args.mid(1))
+                                                : clsINVITE::DeleteMany(args.mid(1), true);
         if (const QString why = Refusal(contacts, result); !why.isEmpty()) {
             err << "vowren-cli: delete: " << why << ". Nothing was deleted.\n";
             return kExitFailed;

@@ -385,11 +385,10 @@ void clsCONTACT::Save(bool Add, bool RefreshInvite) {
 }
 
 bool clsCONTACT::Delete(const QString& contactId) {
-    clsDeleteResult result;
-    if (!DeleteMany({contactId}, &result))
-        return false;
-    CascadeDeletedCONTACT_ID = result.Deleted.value(1); // the person goes first, then their guest
-    return true;
+    return RecordIO::Attempt([&] {
+        const clsDeleteResult result = DeleteMany({contactId});
+        CascadeDeletedCONTACT_ID = result.Deleted.value(1); // the person goes first, then their guest
+    });
 }
 
 bool clsCONTACT::IsCouple(const QString& contactId, const QString& roleId) {
@@ -463,7 +462,7 @@ void RelabelAfterLeaving(const QString& inviteId) {
 
 } // namespace
 
-clsDeleteResult clsCONTACT::DeleteManyOrThrow(const QStringList& contactIds, const clsProgress& progress) {
+clsDeleteResult clsCONTACT::DeleteMany(const QStringList& contactIds, const clsProgress& progress) {
     clsDeleteResult result;
     clsTransaction tx(gDB());
     const Leaving leaving = WhoLeaves(contactIds, result);
@@ -482,22 +481,9 @@ clsDeleteResult clsCONTACT::DeleteManyOrThrow(const QStringList& contactIds, con
         RelabelAfterLeaving(inviteId);
         step();
     }
-    clsINVITE::DeleteInvitesWithNoGuestsOrThrow();
+    clsINVITE::DeleteInvitesWithNoGuests();
     tx.Commit();
     return result;
-}
-
-bool clsCONTACT::DeleteMany(const QStringList& contactIds, clsDeleteResult* result,
-                            const clsProgress& progress) {
-    try {
-        clsDeleteResult done = DeleteManyOrThrow(contactIds, progress);
-        if (result)
-            *result = std::move(done);
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
 }
 
 void clsCONTACT::SaveRole(const QString& contactId, const QString& roleId) {

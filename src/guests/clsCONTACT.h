@@ -150,10 +150,8 @@ public:
     // Removes the people and the guests they bring, makes the first person left on each invitation
     // they were on its primary one, re-labels those invitations (even frozen ones) and removes those
     // nobody is left on. One transaction, one step of progress per person and per invitation. The
-    // bride and the groom are kept. False, with the message shown and nothing changed, on a failure.
-    static bool DeleteMany(const QStringList& contactIds, clsDeleteResult* result = nullptr,
-                           const clsProgress& progress = {});
-    static clsDeleteResult DeleteManyOrThrow(const QStringList& contactIds, const clsProgress& progress = {});
+    // bride and the groom are kept. Throws on a failure, with nothing changed.
+    static clsDeleteResult DeleteMany(const QStringList& contactIds, const clsProgress& progress = {});
     // The bride and the groom: contact rows 1 and 2, and whoever holds their roles 1 and 2.
     static bool IsCouple(const QString& contactId, const QString& roleId);
     // A role is held by one person: it is taken from whoever has it, then given to the contact (or to

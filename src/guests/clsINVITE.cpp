@@ -283,11 +283,10 @@ bool clsINVITE::ChangeEtiquette(bool formal, const Progress& progress) {
 }
 
 bool clsINVITE::Delete(const QString& inviteId) {
-    return DeleteMany({inviteId}, false);
+    return RecordIO::Attempt([&] { DeleteMany({inviteId}, false); });
 }
 
-clsDeleteResult clsINVITE::DeleteManyOrThrow(const QStringList& inviteIds, bool KeepSent,
-                                             const clsProgress& progress) {
+clsDeleteResult clsINVITE::DeleteMany(const QStringList& inviteIds, bool KeepSent, const clsProgress& progress) {
     clsDeleteResult result;
     clsTransaction tx(gDB());
     const int total = static_cast<int>(inviteIds.size());
@@ -320,34 +319,11 @@ clsDeleteResult clsINVITE::DeleteManyOrThrow(const QStringList& inviteIds, bool 
     return result;
 }
 
-bool clsINVITE::DeleteMany(const QStringList& inviteIds, bool KeepSent, clsDeleteResult* result,
-                           const clsProgress& progress) {
-    try {
-        clsDeleteResult done = DeleteManyOrThrow(inviteIds, KeepSent, progress);
-        if (result)
-            *result = std::move(done);
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
-}
-
-void clsINVITE::DeleteInvitesWithNoGuestsOrThrow() {
+void clsINVITE::DeleteInvitesWithNoGuests() {
     // The iif keeps NULL out of the list: NOT IN over a list holding NULL is never true.
     gDB().Execute(
         QStringLiteral("DELETE FROM INVITE WHERE INVITE_ID NOT IN (SELECT iif(CONTACT.INVITE_ID IS NULL, "
                        "0, CONTACT.INVITE_ID) AS INVITE_ID FROM CONTACT GROUP BY CONTACT.INVITE_ID)"));
-}
-
-bool clsINVITE::DeleteInvitesWithNoGuests() {
-    try {
-        DeleteInvitesWithNoGuestsOrThrow();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
 }
 
 // ---- People -----------------------------------------------------------------------------------------

@@ -74,15 +74,10 @@ public:
     // stay as uninvited contacts. The one invitation of DeleteMany, sent or not.
     static bool Delete(const QString& inviteId);
     // The same for each invitation, in one transaction, one step of progress each. With KeepSent an
-    // invitation whose card is out stays (it is Kept). False, with the message shown and nothing
-    // changed, on a failure.
-    static bool DeleteMany(const QStringList& inviteIds, bool KeepSent, clsDeleteResult* result = nullptr,
-                           const clsProgress& progress = {});
-    static clsDeleteResult DeleteManyOrThrow(const QStringList& inviteIds, bool KeepSent,
-                                             const clsProgress& progress = {});
+    // invitation whose card is out stays (it is Kept). Throws on a failure, with nothing changed.
+    static clsDeleteResult DeleteMany(const QStringList& inviteIds, bool KeepSent, const clsProgress& progress = {});
     // Removes every invitation no contact points to.
-    static bool DeleteInvitesWithNoGuests();
-    static void DeleteInvitesWithNoGuestsOrThrow();
+    static void DeleteInvitesWithNoGuests();
 
     // ---- Relabelling every invitation ----
     // Told after each invitation how many are done of how many; answers false to stop.

@@ -1,4 +1,5 @@
 #include "TestDatabase.h"
+#include "core/RecordIO.h"
 #include "core/modGeneral.h"
 #include "guests/GuestTestData.h"
 #include "guests/clsCONTACT.h"
@@ -847,10 +848,10 @@ private slots:
         QList<int> steps;
         int total = 0;
         clsDeleteResult result;
-        QVERIFY(clsCONTACT::DeleteMany(keys(selection), &result, [&](int done, int of) {
+        result = clsCONTACT::DeleteMany(keys(selection), [&](int done, int of) {
             steps << done;
             total = of;
-        }));
+        });
         QCOMPARE(result.Deleted, keys(gone));
         QCOMPARE(result.Kept, keys(kept));
         QCOMPARE(result.Missing, keys(missing));
@@ -916,7 +917,7 @@ private slots:
         const QStringList invites = Dump("INVITE");
         clsDeleteResult result;
         result.Kept = QStringList{"earlier"};
-        QVERIFY(!clsCONTACT::DeleteMany({a[0], b[1]}, &result));
+        QVERIFY(!RecordIO::Attempt([&] { result = clsCONTACT::DeleteMany({a[0], b[1]}); }));
         QCOMPARE(Dump("CONTACT"), contacts);
         QCOMPARE(Dump("INVITE"), invites);
         QCOMPARE(result.Kept, QStringList{"earlier"});

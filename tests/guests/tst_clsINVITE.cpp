@@ -504,7 +504,7 @@ private slots:
         const QString kept = AddInvitation({"Ms.|Ann||Lee|||"});
         const QString empty = AddInvite({});
         AddContact({{"FIRST_NM", "Nobody's"}}); // a contact with no invitation at all
-        QVERIFY(clsINVITE::DeleteInvitesWithNoGuests());
+        clsINVITE::DeleteInvitesWithNoGuests();
         QCOMPARE(Scalar("SELECT group_concat(INVITE_ID) FROM INVITE"), kept);
         Q_UNUSED(empty);
     }

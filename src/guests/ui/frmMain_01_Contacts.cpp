@@ -184,7 +184,7 @@ int frmMain_01_Contacts::DeleteSelected() {
     clsDeleteResult result;
     const bool ok = modBulkDelete::RunWithProgress(
         this, QStringLiteral("Deleting contacts…"), [&](const clsProgress& progress) {
-            result = clsCONTACT::DeleteManyOrThrow(modBulkDelete::LastToFirst(keys), progress);
+            result = clsCONTACT::DeleteMany(modBulkDelete::LastToFirst(keys), progress);
         });
     Reload();
     return ok ? static_cast<int>(keys.size() - result.Kept.size() - result.Missing.size()) : 0;

@@ -239,7 +239,7 @@ int frmMain_02_Invitations::DeleteSelected() {
     clsDeleteResult result;
     const bool ok = modBulkDelete::RunWithProgress(
         this, QStringLiteral("Deleting invitations…"), [&](const clsProgress& progress) {
-            result = clsINVITE::DeleteManyOrThrow(modBulkDelete::LastToFirst(keys), true, progress);
+            result = clsINVITE::DeleteMany(modBulkDelete::LastToFirst(keys), true, progress);
         });
     if (!result.Kept.isEmpty())
         ShowMessage(QStringLiteral("Unable to delete ") + QString::number(result.Kept.size()) +
