@@ -162,7 +162,7 @@ bool clsTASK::RefreshDueDates() {
     }
 }
 
-void clsTASK::RenumberOrThrow() {
+void clsTASK::Renumber() {
     const clsRecordset rs = gDB().Execute(SelectSql() + kChecklistOrder);
     for (int row = 0; row < rs.RowCount(); ++row)
         gDB().Execute(QStringLiteral("UPDATE TASK SET SORT_ORDER_NB = ? WHERE TASK_ID = ?"),
@@ -180,7 +180,7 @@ bool clsTASK::Save(bool isNew) {
         }
         RecordIO::SaveOrThrow(*this, Table(), isNew);
         if (isNew) {
-            RenumberOrThrow();
+            Renumber();
             SORT_ORDER_NB =
                 gDB()
                     .Execute(QStringLiteral("SELECT SORT_ORDER_NB FROM TASK WHERE TASK_ID = ?"), {TASK_ID})

@@ -55,5 +55,5 @@ private:
     static const RecordTable<clsTASK>& ReadTable();
     static QString SelectSql();
     static QString WhereSql(int filter, QVariantList& values);
-    static void RenumberOrThrow();
+    static void Renumber();
 };

@@ -146,7 +146,7 @@ QString clsTENTCARD::SelectSQL() {
 bool clsTENTCARD::CreateTable() {
     if (!modSchema::CreateTableIfMissing(gDB(), QStringLiteral("TENTCARD")))
         return true;
-    RefreshTentcardsOrThrow();
+    RefreshTentcards();
     return true;
 }
 
@@ -196,7 +196,7 @@ QList<clsTENTCARD> clsTENTCARD::OpenRecords() {
                                                               "TENTCARD.TENTCARD_ID"));
 }
 
-void clsTENTCARD::RefreshTentcardsOrThrow() {
+void clsTENTCARD::RefreshTentcards() {
     clsTransaction tx(gDB());
     gDB().Execute(QStringLiteral("DELETE FROM TENTCARD"));
     const bool formal = EtiquetteIsFormal();
@@ -238,16 +238,6 @@ void clsTENTCARD::RefreshTentcardsOrThrow() {
     }
     write(group);
     tx.Commit();
-}
-
-bool clsTENTCARD::RefreshTentcards() {
-    try {
-        RefreshTentcardsOrThrow();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
 }
 
 bool clsTENTCARD::Save(bool Add) {

@@ -31,8 +31,8 @@ public:
     bool OpenRecord(const QString& tentcardId);
     // By table number, then the sort text.
     static QList<clsTENTCARD> OpenRecords();
-    // Rebuilds every card from who sits where: all or nothing.
-    static bool RefreshTentcards();
+    // Rebuilds every card from who sits where: all or nothing. Throws on a failure.
+    static void RefreshTentcards();
     bool Save(bool Add);
     static long Total();
 
@@ -42,5 +42,4 @@ public:
 private:
     static const RecordTable<clsTENTCARD>& ReadTable();
     static QString SelectSQL();
-    static void RefreshTentcardsOrThrow();
 };

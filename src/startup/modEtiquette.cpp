@@ -9,6 +9,6 @@ bool ChangeInvitationEtiquette(bool formal, const Progress& progress) {
     return clsINVITE::ChangeEtiquette(formal, progress);
 }
 
-bool RefreshTentcards() { return clsTENTCARD::RefreshTentcards(); }
+void RefreshTentcards() { clsTENTCARD::RefreshTentcards(); }
 
 } // namespace modEtiquette

@@ -14,6 +14,6 @@ using Progress = std::function<bool(qsizetype done, qsizetype total)>;
 // one piece of work: false (and nothing changed) when the progress stopped it. Throws on a failure.
 bool ChangeInvitationEtiquette(bool formal, const Progress& progress);
 // The tent cards from the seating, in the etiquette now chosen.
-bool RefreshTentcards();
+void RefreshTentcards();
 
 } // namespace modEtiquette

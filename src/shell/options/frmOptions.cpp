@@ -709,8 +709,10 @@ bool frmOptions::WriteEtiquette(EtiquetteBox& box, bool formal) {
     bool written = false;
     try {
         clsTransaction tx(gDB());
-        written = gVowren().QuickUpdate(box.Key, clsVOWREN::BooleanText(formal)) &&
-                  modEtiquette::RefreshTentcards() && !mCancelRequested;
+        written = gVowren().QuickUpdate(box.Key, clsVOWREN::BooleanText(formal));
+        if (written)
+            modEtiquette::RefreshTentcards();
+        written = written && !mCancelRequested;
         if (written)
             tx.Commit();
     } catch (const clsDbError& e) {
