@@ -254,9 +254,7 @@ bool clsDB::Open(bool readOnly) {
             mOpenNotice = NewerFileNotice(DatabasePath);
             if (!readOnly) {
                 CloseConnection();
-                const bool opened = Open(true);
-                mOpenNotice = NewerFileNotice(DatabasePath);
-                return opened;
+                return Open(true); // which sets the notice again
             }
         }
         const QString check = Execute(QStringLiteral("PRAGMA quick_check(1)")).Scalar();
