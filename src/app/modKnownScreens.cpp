@@ -4,6 +4,7 @@
 
 #include "guests/ui/modGuestPages.h"
 #include "reports/ui/modReportDialogs.h"
+#include "seating/ui/modSeatingPages.h"
 #include "shell/frmFeatureTour.h"
 #include "shell/frmForums.h"
 #include "shell/frmMain_99_Forums.h"
@@ -30,6 +31,7 @@ void RegisterKnownScreens() {
     RegisterDialog(QStringLiteral("frmReports"), [](QWidget* parent) { ShowReports(parent, 0, 0); });
     RegisterReports(ShowReports);
     RegisterGuestPages();
+    RegisterSeatingPages();
     RegisterReportScreens();
 
     modScreenshots::Register(QStringLiteral("frmAbout"), [] { return mdiMain::MakeAbout(nullptr); });

@@ -401,6 +401,10 @@ void mdiMain::SavePosition() { modFormPlace::Save(this, objectName()); }
 
 void mdiMain::closeEvent(QCloseEvent* event) {
     timer->stop();
+    if (mSubPage)
+        mSubPage->Leaving();
+    if (mPage)
+        mPage->Leaving();
     SavePosition();
     event->accept();
     QMainWindow::closeEvent(event);
@@ -413,6 +417,8 @@ bool mdiMain::ShowPage(int index) {
     if (!modPages::IsAvailable(index))
         return false;
     picLonghorn->setEnabled(true);
+    if (index != modPages::kOptions)
+        CloseSubPage();
     if (index == gApp().ShowForm()) {
         if (mShownStoredPage)
             return true;
@@ -450,18 +456,57 @@ void mdiMain::AttachPage(usrPage* page) {
 void mdiMain::UnloadPage() {
     if (!mPage)
         return;
-    QWidget* old = mPage;
+    usrPage* old = mPage;
     mPage = nullptr;
-    mPageLayout->removeWidget(old);
-    old->hide();
-    old->disconnect(this);
+    old->Leaving();
+    DetachPage(old);
+}
+
+void mdiMain::DetachPage(usrPage* page) {
+    mPageLayout->removeWidget(page);
+    page->hide();
+    page->disconnect(this);
     // The page may be the one whose signal brought us here: it goes when the event is over.
-    old->deleteLater();
+    page->deleteLater();
+}
+
+bool mdiMain::ShowSubPage(int index, const QString& formName) {
+    if (!modPages::HasSubPage(formName) || !ShowPage(index) || !mPage)
+        return false;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    usrPage* page = modPages::CreateSubPage(formName, mPageHost);
+    if (page) {
+        if (page->objectName().isEmpty())
+            page->setObjectName(formName);
+        mSubPage = page;
+        mSubPageName = formName;
+        ConnectPage(page);
+        mPage->hide();
+        mPageLayout->addWidget(page);
+        page->show();
+    }
+    QGuiApplication::restoreOverrideCursor();
+    return page != nullptr;
+}
+
+void mdiMain::CloseSubPage() {
+    if (!mSubPage)
+        return;
+    usrPage* old = mSubPage;
+    mSubPage = nullptr;
+    old->Leaving();
+    DetachPage(old);
+    if (!mPage)
+        return;
+    SetBreadcrumb(modPages::Caption(gApp().ShowForm()), QStringLiteral("Home"));
+    mPage->show();
+    mPage->SubPageClosed(mSubPageName);
 }
 
 // What a page asks of the frame.
 void mdiMain::ConnectPage(usrPage* page) {
     connect(page, &usrPage::ShowForm, this, &mdiMain::ShowPage);
+    connect(page, &usrPage::ShowSubPage, this, &mdiMain::ShowSubPage);
     connect(page, &usrPage::Breadcrumb, this, [this](const QString& text) { SetBreadcrumb(text, QStringLiteral("Home")); });
     connect(page, &usrPage::EnableToolbar, this, &mdiMain::EnableToolbar);
     connect(page, &usrPage::UpdateWeddingCouple, this, [this] {
@@ -542,6 +587,10 @@ void mdiMain::OnBreadcrumbClicked(int level) {
     if (level == 0) {
         if (linkBreadcrumb[0]->Caption().toUpper() == QLatin1String("HOME"))
             ShowPage(modPages::kHome);
+        return;
+    }
+    if (level == 1 && mSubPage) {
+        CloseSubPage();
         return;
     }
     const int page = gApp().ShowForm();

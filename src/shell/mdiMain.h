@@ -33,12 +33,17 @@ public:
     // Home (index 0) to Widgets (12), 13 the options dialog, 99 the forums. A page that does not exist
     // yet is refused (false). Asking for the page that is up does nothing once it has been shown.
     bool ShowPage(int index);
+    // Page index (shown first when it is not up) with its sub-page of that form name over it; false
+    // when either does not exist. The breadcrumb's page level, or any other page, closes it again.
+    bool ShowSubPage(int index, const QString& formName);
+    void CloseSubPage();
     // The first level is the root; the text's levels are split at ">".
     void SetBreadcrumb(const QString& text, const QString& root);
     void UpdateWeddingCaption();
     void UpdateCountdown();
 
     usrPage* CurrentPage() const { return mPage; }
+    usrPage* CurrentSubPage() const { return mSubPage; }
     QStringList BreadcrumbTexts() const;
     QString WeddingCaption() const;
     QString CountdownCaption() const;
@@ -80,6 +85,7 @@ private:
     void ShowWelcome();
     void AttachPage(usrPage* page);
     void UnloadPage();
+    void DetachPage(usrPage* page);
     void ConnectPage(usrPage* page);
     void ShowFirstPage(int index);
     void EnableToolbar(bool enable);
@@ -119,6 +125,8 @@ private:
     QTimer* timer = nullptr;
 
     QPointer<usrPage> mPage;
+    QPointer<usrPage> mSubPage;
+    QString mSubPageName;
     QString mPlaylistFile;
     bool mShownStoredPage = false;
     bool mShowCountdown = true;

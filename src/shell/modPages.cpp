@@ -52,6 +52,11 @@ modPages::ReportOpener& Reports() {
     return reports;
 }
 
+QHash<QString, modPages::PageFactory>& SubPages() {
+    static QHash<QString, modPages::PageFactory> subPages;
+    return subPages;
+}
+
 QHash<QString, modPages::DialogOpener>& Dialogs() {
     static QHash<QString, modPages::DialogOpener> dialogs;
     return dialogs;
@@ -99,6 +104,20 @@ usrPage* CreatePage(int index, QWidget* parent) {
     return found == Factories().constEnd() ? nullptr : (*found)(parent);
 }
 
+void RegisterSubPage(const QString& formName, PageFactory factory) {
+    if (factory)
+        SubPages().insert(formName, std::move(factory));
+    else
+        SubPages().remove(formName);
+}
+
+bool HasSubPage(const QString& formName) { return SubPages().contains(formName); }
+
+usrPage* CreateSubPage(const QString& formName, QWidget* parent) {
+    const auto found = SubPages().constFind(formName);
+    return found == SubPages().constEnd() ? nullptr : (*found)(parent);
+}
+
 void RegisterWelcome(PageFactory factory) { Welcome() = std::move(factory); }
 
 usrPage* CreateWelcome(QWidget* parent) { return Welcome() ? Welcome()(parent) : nullptr; }
@@ -129,6 +148,7 @@ bool OpenDialog(const QString& formName, QWidget* parent) {
 
 void Clear() {
     Factories().clear();
+    SubPages().clear();
     Dialogs().clear();
     Welcome() = nullptr;
     Reports() = nullptr;

@@ -16,6 +16,13 @@ inline constexpr int kHome = 0;
 inline constexpr int kOptions = 13;
 inline constexpr int kForums = 99;
 
+// The sub-pages of the attendees page (4), by form name.
+inline constexpr int kAttendees = 4;
+inline QString TablesSubPage() { return QStringLiteral("frmMain_04_Attendees_Tables"); }
+inline QString HotelsSubPage() { return QStringLiteral("frmMain_04_Attendees_Hotels"); }
+inline QString FlightsSubPage() { return QStringLiteral("frmMain_04_Attendees_Flights"); }
+inline QString TentcardsSubPage() { return QStringLiteral("frmMain_04_Attendees_Tentcards"); }
+
 using PageFactory = std::function<usrPage*(QWidget* parent)>;
 using DialogOpener = std::function<void(QWidget* parent)>;
 // Opens the report screen on a section and a filter row (the keys of the report catalogue).
@@ -38,6 +45,13 @@ usrPage* CreatePage(int index, QWidget* parent);
 // The steps a new database shows instead of Home.
 void RegisterWelcome(PageFactory factory);
 usrPage* CreateWelcome(QWidget* parent);
+
+// Sub-pages by form name ("frmMain_04_Attendees_Tables" ...): a page shown over the page that opened it,
+// which gets it back when the sub-page goes (usrPage::SubPageClosed).
+void RegisterSubPage(const QString& formName, PageFactory factory);
+bool HasSubPage(const QString& formName);
+// A new instance of the sub-page; nullptr when nobody has registered it.
+usrPage* CreateSubPage(const QString& formName, QWidget* parent);
 
 // Dialogs by form name ("frmOptions", "frmReports", "frmBackup", "frmAboutSongs" ...).
 void RegisterDialog(const QString& formName, DialogOpener opener);

@@ -25,6 +25,10 @@ public:
     static inline int Made = 0;
     static inline int TopLevelCalls = 0;
     void GoToTopLevel() override { ++TopLevelCalls; }
+    void SubPageClosed(const QString& formName) override { ClosedSubPages << formName; }
+    void Leaving() override { ++Left; }
+    static inline QStringList ClosedSubPages;
+    static inline int Left = 0;
 };
 
 namespace {
@@ -44,8 +48,11 @@ void RegisterScreens() {
     modPages::Clear();
     RegisterKnownScreens();
     modPages::RegisterPage(5, [](QWidget* parent) { return new FakePage(parent); });
+    modPages::RegisterSubPage(QStringLiteral("frmFake_Sub"), [](QWidget* parent) { return new FakePage(parent); });
     FakePage::Made = 0;
     FakePage::TopLevelCalls = 0;
+    FakePage::ClosedSubPages.clear();
+    FakePage::Left = 0;
 }
 
 QDateTime Before(const QString& wedding, qint64 seconds) { return ParseDateTimeText(wedding).addSecs(-seconds); }
@@ -266,6 +273,53 @@ private slots:
         window.ShowPage(5);
         QTest::keyClick(window.findChild<usrHyperlink*>(QStringLiteral("linkBreadcrumb_0")), Qt::Key_Return);
         QCOMPARE(window.CurrentPage()->objectName(), QStringLiteral("frmMain_00_Home"));
+    }
+
+    // A sub-page stands over its page; the breadcrumb's page level gives the page back, told what went,
+    // and going to another page lets both write what they keep on leaving.
+    void subPageOpensOverItsPageAndGivesItBack() {
+        TestDatabase db;
+        GatherCoreInformation();
+        RegisterScreens();
+        mdiMain window;
+        QVERIFY(!window.ShowSubPage(5, QStringLiteral("frmNoSuch_Sub")));
+        QVERIFY(window.ShowSubPage(5, QStringLiteral("frmFake_Sub")));
+        QCOMPARE(FakePage::Made, 2);
+        QPointer<usrPage> page = window.CurrentPage();
+        QPointer<usrPage> subPage = window.CurrentSubPage();
+        QVERIFY(subPage && subPage != page);
+        QVERIFY(page->isHidden() && !subPage->isHidden());
+        emit subPage->Breadcrumb(QStringLiteral("Gifts>Sub"));
+        QTest::mouseClick(window.findChild<usrHyperlink*>(QStringLiteral("linkBreadcrumb_1")), Qt::LeftButton);
+        QCOMPARE(FakePage::TopLevelCalls, 0);
+        QCOMPARE(FakePage::ClosedSubPages, QStringList{QStringLiteral("frmFake_Sub")});
+        QCOMPARE(FakePage::Left, 1);
+        QVERIFY(!window.CurrentSubPage() && !page->isHidden());
+        QCOMPARE(window.BreadcrumbTexts(), (QStringList{QStringLiteral("Home"), QStringLiteral("Gifts")}));
+
+        QVERIFY(window.ShowSubPage(5, QStringLiteral("frmFake_Sub")));
+        QCOMPARE(window.CurrentPage(), page.data()); // the page that is up stays
+        window.ShowPage(0);
+        QCOMPARE(FakePage::Left, 3);
+        QVERIFY(!window.CurrentSubPage());
+    }
+
+    // Home's seating and travel links lead to the attendees page's sub-pages, once those exist.
+    void homeLinksOpenSubPagesThatExist() {
+        TestDatabase db;
+        GatherCoreInformation();
+        RegisterScreens();
+        modPages::RegisterSubPage(modPages::TablesSubPage(), nullptr);
+        {
+            mdiMain window;
+            QVERIFY(!window.CurrentPage()->findChild<usrHyperlink*>(QStringLiteral("linkTables"))->isEnabled());
+        }
+        modPages::RegisterSubPage(modPages::TablesSubPage(), [](QWidget* parent) { return new FakePage(parent); });
+        mdiMain window;
+        QTest::keyClick(window.CurrentPage()->findChild<usrHyperlink*>(QStringLiteral("linkTables")), Qt::Key_Space);
+        QCOMPARE(window.CurrentPage()->objectName(), QStringLiteral("frmMain_04_Attendees"));
+        QVERIFY(window.CurrentSubPage());
+        QCOMPARE(window.CurrentSubPage()->objectName(), modPages::TablesSubPage());
     }
 
     void homeLinksLeadToTheirPages() {

@@ -153,15 +153,18 @@ void frmMain_04_Attendees::BuildActions() {
         if (keys.size() == 1)
             OpenEditor(QString::number(keys.first()));
     });
-    // The sub-pages of seating and travel are not part of the program yet.
-    const QList<std::pair<int, QString>> subPages = {{TableLayout, QStringLiteral("Table layout")},
-                                                     {Hotels, QStringLiteral("Hotels")},
-                                                     {Flights, QStringLiteral("Flights")},
-                                                     {Tentcards, QStringLiteral("Tentcards")}};
-    for (const auto& [index, caption] : subPages) {
-        usrHyperlink* link = AddAction(index, caption, [] {});
-        link->setEnabled(false);
-        link->setToolTip(modPages::NotAvailableText());
+    // The sub-pages of seating and travel, shown over this page; those not built yet stay disabled.
+    const QList<std::tuple<int, QString, QString>> subPages = {
+        {TableLayout, QStringLiteral("Table layout"), modPages::TablesSubPage()},
+        {Hotels, QStringLiteral("Hotels"), modPages::HotelsSubPage()},
+        {Flights, QStringLiteral("Flights"), modPages::FlightsSubPage()},
+        {Tentcards, QStringLiteral("Tentcards"), modPages::TentcardsSubPage()}};
+    for (const auto& [index, caption, form] : subPages) {
+        usrHyperlink* link = AddAction(index, caption, [this, form] { emit ShowSubPage(modPages::kAttendees, form); });
+        if (!modPages::HasSubPage(form)) {
+            link->setEnabled(false);
+            link->setToolTip(modPages::NotAvailableText());
+        }
     }
     AddAction(PrintReports, QStringLiteral("Print reports"),
               [this] { modPages::OpenReports(this, clsReportCatalogue::Attendees, CurrentFilter()); });
@@ -257,6 +260,15 @@ void frmMain_04_Attendees::mfrmAttendee_AttendeeUpdated(const QString& contactId
     }
     SetRowCells(row, contact);
     RefreshPanel();
+}
+
+void frmMain_04_Attendees::SubPageClosed(const QString& formName) {
+    if (formName == modPages::TablesSubPage())
+        mfrmMain_04_Attendees_Tables_Closing();
+    else if (formName == modPages::HotelsSubPage())
+        mfrmMain_04_Attendees_Hotels_Closing();
+    else if (formName == modPages::FlightsSubPage())
+        mfrmMain_04_Attendees_Flights_Closing();
 }
 
 void frmMain_04_Attendees::mfrmMain_04_Attendees_Tables_Closing() {

@@ -68,6 +68,7 @@ protected:
     int FillRows(clsGridFill& fill, int filterId) override;
     void Activate(qint64 key) override;
     void UpdateActions() override;
+    void SubPageClosed(const QString& formName) override;
 
 private:
     QList<FilterEntry> MealEntries();

@@ -192,6 +192,13 @@ usrHyperlink* frmMain_00_Home::PageLink(const QString& name, const QString& capt
     return link;
 }
 
+usrHyperlink* frmMain_00_Home::SubPageLink(const QString& name, const QString& caption, const QString& icon,
+                                           const QString& form) {
+    usrHyperlink* link = Link(name, caption, icon, modPages::HasSubPage(form));
+    connect(link, &usrHyperlink::Click, this, [this, form] { emit ShowSubPage(modPages::kAttendees, form); });
+    return link;
+}
+
 usrHyperlink* frmMain_00_Home::DialogLink(const QString& name, const QString& caption, const QString& icon,
                                           const QString& form) {
     usrHyperlink* link = Link(name, caption, icon, modPages::HasDialog(form));
@@ -213,10 +220,14 @@ QWidget* frmMain_00_Home::BuildLinks() {
     connect(tour, &usrHyperlink::Click, this, [] { gShell().OpenDocument(gApp().FeatureTourURL()); });
     mMoreLinks = {
         PageLink(QStringLiteral("linkEvents"), QStringLiteral("Events"), QStringLiteral("events"), 11),
-        PageLink(QStringLiteral("linkTables"), QStringLiteral("Tables"), QStringLiteral("tables"), 4),
-        PageLink(QStringLiteral("linkHotels"), QStringLiteral("Hotels"), QStringLiteral("hotels"), 4),
-        PageLink(QStringLiteral("linkFlights"), QStringLiteral("Flights"), QStringLiteral("flights"), 4),
-        PageLink(QStringLiteral("linkTentcards"), QStringLiteral("Tent Cards"), QStringLiteral("tentcards"), 4),
+        SubPageLink(QStringLiteral("linkTables"), QStringLiteral("Tables"), QStringLiteral("tables"),
+                    modPages::TablesSubPage()),
+        SubPageLink(QStringLiteral("linkHotels"), QStringLiteral("Hotels"), QStringLiteral("hotels"),
+                    modPages::HotelsSubPage()),
+        SubPageLink(QStringLiteral("linkFlights"), QStringLiteral("Flights"), QStringLiteral("flights"),
+                    modPages::FlightsSubPage()),
+        SubPageLink(QStringLiteral("linkTentcards"), QStringLiteral("Tent Cards"), QStringLiteral("tentcards"),
+                    modPages::TentcardsSubPage()),
         PageLink(QStringLiteral("linkWidgets"), QStringLiteral("Wedding Widgets"), QStringLiteral("widgets"), 12),
         DialogLink(QStringLiteral("linkReports"), QStringLiteral("Reports"), QStringLiteral("reports"),
                    QStringLiteral("frmReports")),

@@ -43,6 +43,8 @@ private:
     QWidget* BuildLinks();
     usrHyperlink* Link(const QString& name, const QString& caption, const QString& icon, bool available);
     usrHyperlink* PageLink(const QString& name, const QString& caption, const QString& icon, int index);
+    usrHyperlink* SubPageLink(const QString& name, const QString& caption, const QString& icon,
+                              const QString& form);
     usrHyperlink* DialogLink(const QString& name, const QString& caption, const QString& icon,
                              const QString& form);
     void FillCounts();
