@@ -24,6 +24,8 @@ CliCommand DemoCommand();
 CliCommand ReportCommand();
 CliCommand DeleteCommand();
 CliCommand RelabelCommand();
+CliCommand TablesCommand();
+CliCommand TentcardsCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();
