@@ -51,24 +51,6 @@ private slots:
     void init() { db = std::make_unique<TestDatabase>(); }
     void cleanup() { db.reset(); }
 
-    void oneLineWording_data() {
-        QTest::addColumn<QString>("wording");
-        QTest::addColumn<QString>("shown");
-        QTest::newRow("one line") << "Mr. and Mrs. John Smith"
-                                  << "Mr. and Mrs. John Smith";
-        QTest::newRow("two lines") << "The Smiths\nand their dog"
-                                   << "The Smiths, and their dog";
-        QTest::newRow("Windows line ends and blanks") << "Ann Lee \r\n Guest"
-                                                      << "Ann Lee, Guest";
-        QTest::newRow("an empty line") << "Ann\n\nBob"
-                                       << "Ann, Bob";
-    }
-    void oneLineWording() {
-        QFETCH(QString, wording);
-        QFETCH(QString, shown);
-        QCOMPARE(Page::OneLine(wording), shown);
-    }
-
     void listsTheCardsAndRefreshesThem() {
         SeatTheSmiths();
         SetEtiquette(false, true);
