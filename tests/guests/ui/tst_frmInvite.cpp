@@ -351,32 +351,6 @@ private slots:
         Toggle(autoUpdate);
         QCOMPARE(outer->text(), QStringLiteral("Mr. and Mrs. John Smith"));
     }
-
-    // Closing with changes asks first; "No" leaves the database alone, "Cancel" keeps the editor open.
-    void closingAsksFirst_data() {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("open");
-        QTest::addColumn<QString>("invites");
-        QTest::newRow("yes") << int(Msg::Yes) << false << "1";
-        QTest::newRow("no") << int(Msg::No) << false << "0";
-        QTest::newRow("cancel") << int(Msg::Cancel) << true << "0";
-    }
-    void closingAsksFirst() {
-        QFETCH(int, answer);
-        QFETCH(bool, open);
-        QFETCH(QString, invites);
-        auto form = Open();
-        QTest::keyClick(form.get(), Qt::Key_Escape);
-        QVERIFY(!form->isVisible()); // nothing changed: no question
-        QVERIFY(db->Messages().Prompts.isEmpty());
-        form = Open();
-        form->AddPeople({ann});
-        db->Messages().NextAnswer = answer;
-        QTest::keyClick(form.get(), Qt::Key_Escape);
-        QCOMPARE(db->Messages().Prompts, QStringList{"Create Invitation?"});
-        QCOMPARE(form->isVisible(), open);
-        QCOMPARE(Scalar("SELECT COUNT(*) FROM INVITE"), invites);
-    }
 };
 
 QTEST_MAIN(tst_frmInvite)

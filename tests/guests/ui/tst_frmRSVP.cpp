@@ -208,31 +208,6 @@ private slots:
                    {ids[1]}),
             QStringLiteral("N--"));
     }
-
-    // Cancel on a changed attendee asks first: Cancel stays, No leaves the row as it was, Yes saves.
-    void attendeeClosedWithChanges_data() {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("open");
-        QTest::addColumn<QString>("stored");
-        QTest::newRow("cancel stays") << int(Msg::Cancel) << true << "Y";
-        QTest::newRow("no discards") << int(Msg::No) << false << "Y";
-        QTest::newRow("yes saves") << int(Msg::Yes) << false << "N";
-    }
-    void attendeeClosedWithChanges() {
-        QFETCH(int, answer);
-        QFETCH(bool, open);
-        QFETCH(QString, stored);
-        QStringList ids;
-        SentCouple(&ids);
-        frmAttendee form(ids[1]);
-        Show(&form);
-        Toggle(Child<QCheckBox>(&form, "chkATTENDING_FG"));
-        db->Messages().NextAnswer = answer;
-        QTest::mouseClick(Child<QPushButton>(&form, "cmdCancel"), Qt::LeftButton);
-        QCOMPARE(db->Messages().Prompts, QStringList{QStringLiteral("Save Changes?")});
-        QCOMPARE(form.isVisible(), open);
-        QCOMPARE(Scalar("SELECT ATTENDING_FG FROM CONTACT WHERE CONTACT_ID = ?", {ids[1]}), stored);
-    }
 };
 
 QTEST_MAIN(tst_frmRSVP)
