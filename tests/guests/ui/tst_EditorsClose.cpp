@@ -1,6 +1,7 @@
 // Every editor of one record, closed with a change made: the question, the answer's effect on the
 // database, and whether the editor stays open.
 #include "TestDatabase.h"
+#include "UiTestTools.h"
 #include "guests/GuestTestData.h"
 #include "guests/ui/frmAttendee.h"
 #include "guests/ui/frmContact.h"
@@ -16,6 +17,7 @@
 #include <memory>
 
 using namespace GuestTestData;
+using namespace UiTestTools;
 
 namespace {
 
@@ -25,13 +27,6 @@ struct OpenEditor {
     std::function<void()> Change;
     QString Stored;
 };
-
-void Toggle(QWidget* form, const char* box) {
-    auto* check = form->findChild<QCheckBox*>(QString::fromLatin1(box));
-    QVERIFY2(check, box);
-    check->setFocus();
-    QTest::keyClick(check, Qt::Key_Space);
-}
 
 // John and Mary Smith on a sent invitation, Mary coming; Ann Lee not yet invited.
 OpenEditor Open(const QString& editor) {
@@ -57,11 +52,11 @@ OpenEditor Open(const QString& editor) {
         open.Stored = QStringLiteral("SELECT COUNT(*) = 2 FROM INVITE");
     } else if (editor == QLatin1String("attendee")) {
         open.Form = std::make_unique<frmAttendee>(ids[1]);
-        open.Change = [form = open.Form.get()] { Toggle(form, "chkATTENDING_FG"); };
+        open.Change = [form = open.Form.get()] { Toggle(Child<QCheckBox>(form, "chkATTENDING_FG")); };
         open.Stored = "SELECT ATTENDING_FG = 'N' FROM CONTACT WHERE CONTACT_ID = " + ids[1];
     } else {
         open.Form = std::make_unique<frmRSVP>(invite);
-        open.Change = [form = open.Form.get()] { Toggle(form, "chkRSVP_RECEIVED_FG"); };
+        open.Change = [form = open.Form.get()] { Toggle(Child<QCheckBox>(form, "chkRSVP_RECEIVED_FG")); };
         open.Stored = "SELECT RSVP_RECEIVED_FG = 'Y' FROM INVITE WHERE INVITE_ID = " + invite;
     }
     open.Form->show();

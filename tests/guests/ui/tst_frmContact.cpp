@@ -1,6 +1,7 @@
 // The contact editor driven like a person would: typing, tabbing, the buttons and Esc, checked against
 // the database and the messages shown.
 #include "TestDatabase.h"
+#include "UiTestTools.h"
 #include "core/clsApp.h"
 #include "guests/clsCONTACT.h"
 #include "guests/ui/frmCheckName.h"
@@ -20,6 +21,8 @@
 #include <QTimer>
 #include <QtTest>
 
+using namespace UiTestTools;
+
 namespace {
 
 const QString kAndRefused =
@@ -31,13 +34,6 @@ const QString kAmpersandRefused =
                    "record represent "
                    "one individual.\n\nPlease edit the title so that it represents one individual.");
 const QString kNamesRequired = QStringLiteral("First and Last names are required.");
-
-template <typename T> T* Child(QWidget* form, const QString& name) {
-    T* child = form->findChild<T*>(name);
-    if (!child)
-        qFatal("no child %s", qPrintable(name));
-    return child;
-}
 
 // Replaces the text of a box by typing, as a person would after selecting all of it.
 void Type(QWidget* box, const QString& text) {
@@ -68,12 +64,6 @@ void TypeLines(QPlainTextEdit* box, const QStringList& lines) {
 
 void Click(frmContact& form, const char* button) {
     QTest::mouseClick(Child<QPushButton>(&form, button), Qt::LeftButton);
-}
-
-void ShowActive(QWidget& form) {
-    form.show();
-    QApplication::setActiveWindow(&form);
-    QVERIFY(QTest::qWaitForWindowActive(&form));
 }
 
 QString ContactCount() {
