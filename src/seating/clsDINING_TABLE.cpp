@@ -19,62 +19,50 @@ const RecordTable<clsDINING_TABLE>& clsDINING_TABLE::Table() {
     return table;
 }
 
-bool clsDINING_TABLE::Delete(const QString& key) {
-    try {
-        clsTransaction tx(gDB());
-        clsCONTACT::Update_DINING_TABLE_ID_TO_NULL(key);
-        if (gDB().TableExists(QStringLiteral("TENTCARD")))
-            gDB().Execute(QStringLiteral("DELETE FROM TENTCARD WHERE DINING_TABLE_ID = ?"), {key});
-        gDB().Execute(QStringLiteral("DELETE FROM DINING_TABLE WHERE DINING_TABLE_ID = ?"), {key});
-        tx.Commit();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
+void clsDINING_TABLE::Delete(const QString& key) {
+    clsTransaction tx(gDB());
+    clsCONTACT::Update_DINING_TABLE_ID_TO_NULL(key);
+    if (gDB().TableExists(QStringLiteral("TENTCARD")))
+        gDB().Execute(QStringLiteral("DELETE FROM TENTCARD WHERE DINING_TABLE_ID = ?"), {key});
+    gDB().Execute(QStringLiteral("DELETE FROM DINING_TABLE WHERE DINING_TABLE_ID = ?"), {key});
+    tx.Commit();
 }
 
 long clsDINING_TABLE::GetTotal(int kind) const {
     if (kind == TotalTables)
-        return RecordIO::Count(QStringLiteral("SELECT COUNT(*) AS CNT FROM DINING_TABLE"));
+        return gDB().Execute(QStringLiteral("SELECT COUNT(*) AS CNT FROM DINING_TABLE")).Scalar().toLong();
     if (kind != SeatsFree && kind != SeatsTaken)
         return 0;
-    const long taken = RecordIO::Count(
-        QStringLiteral("SELECT COUNT(*) AS CNT FROM CONTACT WHERE DINING_TABLE_ID = ?"), {DINING_TABLE_ID});
+    const long taken =
+        gDB()
+            .Execute(QStringLiteral("SELECT COUNT(*) AS CNT FROM CONTACT WHERE DINING_TABLE_ID = ?"),
+                     {DINING_TABLE_ID})
+            .Scalar()
+            .toLong();
     return kind == SeatsTaken ? taken : SEATS_NB.toLong() - taken;
 }
 
-namespace {
-
-QString NextNumber() {
-    const QString next =
-        gDB().Execute(QStringLiteral("SELECT Max(DINING_TABLE_NB) + 1 AS MAXNB FROM DINING_TABLE")).Scalar();
-    return next.isEmpty() ? QStringLiteral("1") : next;
-}
-
-} // namespace
-
 QString clsDINING_TABLE::NEXT_NB() {
-    try {
-        return NextNumber();
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return {};
-    }
+    return RecordIO::NextID(QStringLiteral("DINING_TABLE"), QStringLiteral("DINING_TABLE_NB"));
 }
 
 bool clsDINING_TABLE::OpenRecord(const QString& key, const QString& number) {
-    if (!key.isEmpty())
-        return RecordIO::OpenRecord(*this, Table(), key);
-    if (number.isEmpty())
+    const bool byKey = !key.isEmpty();
+    if (!byKey && number.isEmpty())
         return false;
-    return RecordIO::OpenFirst(
-        *this, Table(), QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_NB = ?"), {number});
+    const QList<clsDINING_TABLE> found =
+        RecordIO::ReadAll(Table(),
+                          byKey ? QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_ID = ?")
+                                : QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_NB = ?"),
+                          {byKey ? key : number});
+    if (found.isEmpty())
+        return false;
+    *this = found.first();
+    return true;
 }
 
 QList<clsDINING_TABLE> clsDINING_TABLE::OpenRecords() {
-    return RecordIO::OpenRecords(Table(),
-                                 QStringLiteral("SELECT * FROM DINING_TABLE ORDER BY DINING_TABLE_NB"));
+    return RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM DINING_TABLE ORDER BY DINING_TABLE_NB"));
 }
 
 bool clsDINING_TABLE::Patch_Field_Exists(const QString& column) {
@@ -99,8 +87,8 @@ bool clsDINING_TABLE::Patch_6_Apply() {
     return true;
 }
 
-bool clsDINING_TABLE::Save(bool insert) {
-    return RecordIO::Save(*this, Table(), insert);
+void clsDINING_TABLE::Save(bool insert) {
+    RecordIO::SaveOrThrow(*this, Table(), insert);
 }
 
 namespace {
@@ -143,14 +131,14 @@ QStringList clsDINING_TABLE::AddTables(int count, const clsDINING_TABLE& model, 
             table.DINING_TABLE_NM = model.DINING_TABLE_NM.trimmed();
             CheckNumber(table.DINING_TABLE_NB);
         } else {
-            table.DINING_TABLE_NB = NextNumber();
+            table.DINING_TABLE_NB = NEXT_NB();
             table.DINING_TABLE_NM.clear();
         }
         const QPoint cell = FloorCell(i);
         table.POS_X = Twips(cell.x(), twipsPerPixel);
         // The horizontal factor for both, as the floor has always placed them.
         table.POS_Y = Twips(cell.y(), twipsPerPixel);
-        RecordIO::SaveOrThrow(table, Table(), true);
+        table.Save(true);
         keys.append(table.DINING_TABLE_ID);
     }
     tx.Commit();
@@ -161,7 +149,7 @@ void clsDINING_TABLE::SaveEdited() {
     DINING_TABLE_NB = DINING_TABLE_NB.trimmed();
     DINING_TABLE_NM = DINING_TABLE_NM.trimmed();
     CheckNumber(DINING_TABLE_NB, DINING_TABLE_ID);
-    RecordIO::SaveOrThrow(*this, Table(), false);
+    Save(false);
 }
 
 void clsDINING_TABLE::SwapTables(const QString& firstKey, const QString& secondKey) {
@@ -176,7 +164,7 @@ void clsDINING_TABLE::SwapTables(const QString& firstKey, const QString& secondK
     for (clsDINING_TABLE table : both) {
         table.DINING_TABLE_NM =
             both.at(table.DINING_TABLE_ID == both.first().DINING_TABLE_ID ? 1 : 0).DINING_TABLE_NM;
-        RecordIO::SaveOrThrow(table, Table(), false);
+        table.Save(false);
     }
     const QString exchange =
         QStringLiteral("UPDATE %1 SET DINING_TABLE_ID = CASE WHEN DINING_TABLE_ID = ?1 THEN ?2 ELSE ?1 END "

@@ -41,7 +41,7 @@ QStringList frmTentcard::Snapshot() const {
 bool frmTentcard::SaveRecord() {
     clsTENTCARD card = mCard;
     card.TENTCARD_TX = mText->toPlainText().trimmed();
-    if (!RecordIO::Attempt([&card] { RecordIO::SaveOrThrow(card, clsTENTCARD::Table(), false); }))
+    if (!RecordIO::Attempt([&card] { card.Save(false); }))
         return false;
     mCard = card;
     return true;
