@@ -1,4 +1,5 @@
 #include "TestDatabase.h"
+#include "UiTestTools.h"
 #include "seating/clsDINING_TABLE.h"
 #include "seating/ui/frmTable.h"
 #include "seating/ui/frmTableSwap.h"
@@ -15,14 +16,9 @@
 #include <QtTest>
 #include <memory>
 
-namespace {
+using UiTestTools::Child;
 
-template <class T> T* Child(QWidget* form, const QString& name) {
-    T* child = form->findChild<T*>(name);
-    if (!child)
-        qFatal("no child %s", qPrintable(name));
-    return child;
-}
+namespace {
 
 QString Scalar(const QString& sql, const QVariantList& values = {}) {
     return TestDatabase::Scalar(sql, values);

@@ -1,4 +1,5 @@
 #include "TestDatabase.h"
+#include "UiTestTools.h"
 #include "guests/GuestTestData.h"
 #include "seating/clsTENTCARD.h"
 #include "seating/ui/frmMain_04_Attendees_Tentcards.h"
@@ -20,10 +21,7 @@ namespace {
 using Page = frmMain_04_Attendees_Tentcards;
 
 usrHyperlink* Link(const QWidget* page, int index) {
-    auto* link = page->findChild<usrHyperlink*>(QStringLiteral("linkAction_%1").arg(index));
-    if (!link)
-        qFatal("no action %d", index);
-    return link;
+    return UiTestTools::Child<usrHyperlink>(page, QStringLiteral("linkAction_%1").arg(index));
 }
 
 QString Cell(usrGrid* grid, const QString& id, const QString& column) {
