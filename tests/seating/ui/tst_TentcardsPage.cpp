@@ -1,11 +1,13 @@
 #include "TestDatabase.h"
 #include "UiTestTools.h"
 #include "guests/GuestTestData.h"
+#include "reports/clsReportCatalogue.h"
 #include "seating/clsTENTCARD.h"
 #include "seating/ui/frmMain_04_Attendees_Tentcards.h"
 #include "seating/ui/frmTentcard.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/grid/usrGrid.h"
+#include "shell/modPages.h"
 #include "shell/options/frmOptions.h"
 
 #include <QPlainTextEdit>
@@ -66,6 +68,17 @@ private slots:
         QCOMPARE(page.Grid()->Model()->FlatRowCount(), 1);
         const QString id = TestDatabase::Scalar("SELECT TENTCARD_ID FROM TENTCARD");
         QCOMPARE(Cell(page.Grid(), id, "TENTCARD_TX"), QStringLiteral("Mr. and Mrs. John Smith"));
+    }
+
+    void printOpensTheTentcardReport() {
+        QList<int> asked;
+        modPages::RegisterReports(
+            [&asked](QWidget*, int section, int filter) { asked << section << filter; });
+        Page page;
+        page.LoadNow();
+        QTest::mouseClick(Link(&page, Page::PrintReports), Qt::LeftButton);
+        modPages::Clear();
+        QCOMPARE(asked, QList<int>({clsReportCatalogue::Tentcards, 1}));
     }
 
     void etiquetteFollowsTheOptions_data() {
