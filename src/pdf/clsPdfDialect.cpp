@@ -301,18 +301,23 @@ QByteArray clsPdfDialect::Finish() {
 }
 
 void clsPdfDialect::PaintPage(QPainter& painter, int page, int pages) {
-    PaintFurniture(painter, page, pages);
+    PaintHeader(painter, page);
     for (const Piece& piece : mPages[static_cast<size_t>(page)])
         PaintPiece(painter, piece);
+    PaintFooter(painter, page, pages);
 }
 
-void clsPdfDialect::PaintFurniture(QPainter& painter, int page, int pages) {
-    const double width = mWriter->TABLE_WIDTH();
+double clsPdfDialect::PaintCentred(QPainter& painter, const QString& rtf, double points, double top) const {
+    double height = 0;
+    const auto layout =
+        LayOutText(rtf, DeviceFont(points), mWriter->TABLE_WIDTH(), clsRTFCell::AlignCenter, Qt::black, &height);
+    layout->draw(&painter, QPointF(mLeft, top));
+    return top + height;
+}
+
+void clsPdfDialect::PaintHeader(QPainter& painter, int page) const {
     const auto centred = [&](const QString& rtf, double points, double top) {
-        double height = 0;
-        const auto layout = LayOutText(rtf, DeviceFont(points), width, clsRTFCell::AlignCenter, Qt::black, &height);
-        layout->draw(&painter, QPointF(mLeft, top));
-        return top + height;
+        return PaintCentred(painter, rtf, points, top);
     };
     if (mHeaderOnEveryPage || page == 0) {
         double top = mHeaderOnEveryPage ? Twips(mWriter->MARGIN_HEADER) : Twips(mWriter->MARGIN_TOP);
@@ -323,11 +328,14 @@ void clsPdfDialect::PaintFurniture(QPainter& painter, int page, int pages) {
         if (!mDate.isEmpty())
             centred(RtfMarkup::EscapeText(mDate), kDatePoints, top);
     }
-    if (mWriter->PRINT_FOOTER) {
-        const QString footer = QStringLiteral("Page %1 of %2").arg(page + 1).arg(pages);
-        const double height = QFontMetricsF(DeviceFont(kFooterPoints)).height();
-        centred(footer, kFooterPoints, mPaperHeight - Twips(mWriter->MARGIN_FOOTER) - height);
-    }
+}
+
+void clsPdfDialect::PaintFooter(QPainter& painter, int page, int pages) const {
+    if (!mWriter->PRINT_FOOTER)
+        return;
+    const QString footer = QStringLiteral("Page %1 of %2").arg(page + 1).arg(pages);
+    const double height = QFontMetricsF(DeviceFont(kFooterPoints)).height();
+    PaintCentred(painter, footer, kFooterPoints, mPaperHeight - Twips(mWriter->MARGIN_FOOTER) - height);
 }
 
 void clsPdfDialect::PaintPiece(QPainter& painter, const Piece& piece) const {

@@ -65,7 +65,9 @@ private:
     double HeaderRowsHeight() const;
     bool PageHasRows() const { return mCursor > mBodyTop + HeaderRowsHeight(); }
     void PaintPage(QPainter& painter, int page, int pages);
-    void PaintFurniture(QPainter& painter, int page, int pages);
+    void PaintHeader(QPainter& painter, int page) const;
+    void PaintFooter(QPainter& painter, int page, int pages) const;
+    double PaintCentred(QPainter& painter, const QString& rtf, double points, double top) const;
     void PaintPiece(QPainter& painter, const Piece& piece) const;
     void PaintBorder(QPainter& painter, const Cell& cell, double top, double bottom) const;
     QFont DeviceFont(double points, bool bold = false) const;
