@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int kTwipsPerInch = 1440;
-constexpr double kParagraphSpace = 30;  // before and after the text of a cell
+constexpr double kParagraphSpace = 30; // before and after the text of a cell
 constexpr double kBorderWidth = 15;
 constexpr double kLogoWidth = 465;
 constexpr double kLogoHeight = 330;
@@ -174,8 +174,9 @@ clsPdfDialect::LaidRow clsPdfDialect::LayOut(const QList<clsRTFCell>& cells, int
         cell.Left = left;
         cell.Right = mLeft + source.CELLX;
         left = cell.Right;
-        const QColor color = source.CELL_FORECOLOR == 0 ? QColor(Qt::black)
-                                                        : ColorOf(mSettings->TableColor(source.CELL_FORECOLOR));
+        const QColor color = source.CELL_FORECOLOR == 0
+                                 ? QColor(Qt::black)
+                                 : ColorOf(mSettings->TableColor(source.CELL_FORECOLOR));
         cell.Text = LayOutText(source.CELL_TX.Rtf(), font, cell.Right - cell.Left - CellPadding(false),
                                source.CELL_HORIZONTAL_ALIGNMENT, color, &cell.TextHeight);
         height = std::max(height, cell.TextHeight + CellPadding(true));
@@ -309,8 +310,8 @@ void clsPdfDialect::PaintPage(QPainter& painter, int page, int pages) {
 
 double clsPdfDialect::PaintCentred(QPainter& painter, const QString& rtf, double points, double top) const {
     double height = 0;
-    const auto layout =
-        LayOutText(rtf, DeviceFont(points), mWriter->TABLE_WIDTH(), clsRTFCell::AlignCenter, Qt::black, &height);
+    const auto layout = LayOutText(rtf, DeviceFont(points), mWriter->TABLE_WIDTH(), clsRTFCell::AlignCenter,
+                                   Qt::black, &height);
     layout->draw(&painter, QPointF(mLeft, top));
     return top + height;
 }
@@ -383,8 +384,9 @@ void clsPdfDialect::PaintBorder(QPainter& painter, const Cell& cell, double top,
     painter.setPen(pen);
     const bool box = border == clsRTFCell::BorderBox;
     const auto has = [&](int side, int openWithout) {
-        return border == side || box || (border >= clsRTFCell::BorderOpenBottom && border <= clsRTFCell::BorderOpenLeft &&
-                                         border != openWithout);
+        return border == side || box ||
+               (border >= clsRTFCell::BorderOpenBottom && border <= clsRTFCell::BorderOpenLeft &&
+                border != openWithout);
     };
     if (has(clsRTFCell::BorderTop, clsRTFCell::BorderOpenTop))
         painter.drawLine(topLine);

@@ -26,7 +26,8 @@ QString Run(const QString& program, const QStringList& args) {
 QString PdfText(const QString& file, int page = 0) {
     QStringList args{QStringLiteral("-raw")};
     if (page > 0)
-        args << QStringLiteral("-f") << QString::number(page) << QStringLiteral("-l") << QString::number(page);
+        args << QStringLiteral("-f") << QString::number(page) << QStringLiteral("-l")
+             << QString::number(page);
     return Run(QStringLiteral("pdftotext"), args << file << QStringLiteral("-"));
 }
 
@@ -84,11 +85,12 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("boldStart");
         QTest::addColumn<int>("boldLength");
-        QTest::addRow("escaped characters") << RtfMarkup(QStringLiteral(R"({\b} \par C:\x)")) << R"({\b} \par C:\x)" << -1 << 0;
+        QTest::addRow("escaped characters")
+            << RtfMarkup(QStringLiteral(R"({\b} \par C:\x)")) << R"({\b} \par C:\x)" << -1 << 0;
         QTest::addRow("scripts and emoji") << RtfMarkup(QStringLiteral("Zoë Ωμέγα Жанна שלום سلام 🎉"))
                                            << QStringLiteral("Zoë Ωμέγα Жанна שלום سلام 🎉") << -1 << 0;
-        QTest::addRow("bold in the middle") << RtfMarkup("a ") + RtfMarkup::Bold(RtfMarkup("12")) + RtfMarkup(" c")
-                                            << "a 12 c" << 2 << 2;
+        QTest::addRow("bold in the middle")
+            << RtfMarkup("a ") + RtfMarkup::Bold(RtfMarkup("12")) + RtfMarkup(" c") << "a 12 c" << 2 << 2;
         QTest::addRow("line break") << RtfMarkup("one\r\ntwo") << QStringLiteral("one\u2028two") << -1 << 0;
     }
     void markupReadsBack() {
@@ -112,9 +114,9 @@ private slots:
 
     void cellsInReadingOrder() {
         auto writer = Writer();
-        const QString file = WriteTable(*writer, {{"Name", "Table", "Meal"},
-                                                  {"Anna Smith", "Head Table", "Beef"},
-                                                  {"Ben Jones", "2", "Fish"}});
+        const QString file = WriteTable(
+            *writer,
+            {{"Name", "Table", "Meal"}, {"Anna Smith", "Head Table", "Beef"}, {"Ben Jones", "2", "Fish"}});
         QVERIFY(!file.isEmpty());
         QVERIFY(file.endsWith(QLatin1String(".pdf")));
         const QString text = PdfText(file);
@@ -122,7 +124,8 @@ private slots:
         for (const char* cell : {"Guest List", "Name", "Table", "Meal", "Anna Smith", "Head Table", "Beef",
                                  "Ben Jones", "2", "Fish", "Page 1 of 1"}) {
             const qsizetype found = text.indexOf(QLatin1String(cell), at);
-            QVERIFY2(found >= 0, qPrintable(QStringLiteral("\"%1\" after %2 in: %3").arg(cell).arg(at).arg(text)));
+            QVERIFY2(found >= 0,
+                     qPrintable(QStringLiteral("\"%1\" after %2 in: %3").arg(cell).arg(at).arg(text)));
             at = found + 1;
         }
     }
@@ -146,7 +149,9 @@ private slots:
         const QRegularExpressionMatch match =
             QRegularExpression(QStringLiteral(R"(Page size:\s+([\d.]+) x ([\d.]+) pts)")).match(info);
         QVERIFY2(match.hasMatch(), qPrintable(info));
-        QCOMPARE(QStringLiteral("%1 x %2").arg(qRound(match.captured(1).toDouble())).arg(qRound(match.captured(2).toDouble())),
+        QCOMPARE(QStringLiteral("%1 x %2")
+                     .arg(qRound(match.captured(1).toDouble()))
+                     .arg(qRound(match.captured(2).toDouble())),
                  size);
     }
 
@@ -160,11 +165,13 @@ private slots:
                                                   {"Arabic", "سلام"}});
         QVERIFY(!file.isEmpty());
         QVERIFY(mHome->Messages().Prompts.isEmpty());
-        const QStringList lines = Run(QStringLiteral("pdffonts"), {file}).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        const QStringList lines =
+            Run(QStringLiteral("pdffonts"), {file}).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         QVERIFY(lines.size() > 2); // two lines of headings, then one per font
         for (const QString& line : lines.mid(2)) {
             const QStringList columns = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-            QVERIFY2(columns.size() > 5 && columns.at(columns.size() - 5) == QLatin1String("yes"), qPrintable(line));
+            QVERIFY2(columns.size() > 5 && columns.at(columns.size() - 5) == QLatin1String("yes"),
+                     qPrintable(line));
         }
         const QString text = PdfText(file);
         for (const char* word : {"Ωμέγα", "Жанна"})
@@ -188,7 +195,8 @@ private slots:
 
     void hostileTextPrintsLiterally_data() {
         QTest::addColumn<QString>("text");
-        QTest::addRow("braces and backslashes") << QStringLiteral(R"({\rtf1 \b bold?} C:\temp\new \\par \u1234?)");
+        QTest::addRow("braces and backslashes")
+            << QStringLiteral(R"({\rtf1 \b bold?} C:\temp\new \\par \u1234?)");
     }
     // A cell longer than a page goes on over the next pages: every word once, in order.
     void longCellContinues() {
@@ -196,10 +204,12 @@ private slots:
         for (int i = 1; i <= 1500; ++i)
             words << QStringLiteral("w%1").arg(i);
         auto writer = Writer();
-        const QString file = WriteTable(*writer, {{"Notes", "After"}, {words.join(QLatin1Char(' ')), "the end"}});
+        const QString file =
+            WriteTable(*writer, {{"Notes", "After"}, {words.join(QLatin1Char(' ')), "the end"}});
         const QString printed = PdfText(file);
         QStringList found;
-        for (const QRegularExpressionMatch& match : QRegularExpression(QStringLiteral("\\bw\\d+\\b")).globalMatch(printed))
+        for (const QRegularExpressionMatch& match :
+             QRegularExpression(QStringLiteral("\\bw\\d+\\b")).globalMatch(printed))
             found << match.captured();
         QCOMPARE(found, words);
         QVERIFY(PdfText(file, 2).contains(QLatin1String("Notes")));
