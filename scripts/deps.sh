@@ -7,7 +7,7 @@ VOWREN_PACKAGES=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-svg-dev libgl-dev libglx-dev
     libsqlite3-dev libbenchmark-dev ccache lld
-    fonts-dejavu-core
+    fonts-dejavu-core poppler-utils
 )
 
 vowren_missing_packages() {

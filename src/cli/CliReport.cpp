@@ -10,8 +10,8 @@
 
 namespace {
 
-const char kUsage[] = "usage: report SECTION [--filter KEY | --custom \"Caption+Caption\"] [--format rtf|csv] "
-                      "[--portrait] [--a4] | report --list | report --all [--format rtf|csv|both]";
+const char kUsage[] = "usage: report SECTION [--filter KEY | --custom \"Caption+Caption\"] [--format rtf|csv|pdf|all] "
+                      "[--portrait] [--a4] | report --list | report --all [--format rtf|csv|pdf|both|all]";
 
 struct ReportArgs {
     QString Section;
@@ -21,6 +21,7 @@ struct ReportArgs {
     bool All = false;
     bool Rtf = true;
     bool Csv = false;
+    bool Pdf = false;
     bool FormatGiven = false;
     modReportRunner::Output Output;
 };
@@ -45,12 +46,15 @@ QString ParseArgs(const QStringList& args, ReportArgs& parsed)
             parsed.Output.A4 = true;
         } else if (arg == QLatin1String("--format")) {
             const auto format = value();
-            if (!format || (*format != QLatin1String("rtf") && *format != QLatin1String("csv") &&
-                            *format != QLatin1String("both")))
-                return QStringLiteral("--format takes rtf, csv or both");
+            static const QStringList formats = {QStringLiteral("rtf"), QStringLiteral("csv"), QStringLiteral("pdf"),
+                                                QStringLiteral("both"), QStringLiteral("all")};
+            if (!format || !formats.contains(*format))
+                return QStringLiteral("--format takes rtf, csv, pdf, both (RTF and CSV) or all");
+            const bool all = *format == QLatin1String("all");
             parsed.FormatGiven = true;
-            parsed.Rtf = *format != QLatin1String("csv");
-            parsed.Csv = *format != QLatin1String("rtf");
+            parsed.Rtf = all || *format == QLatin1String("rtf") || *format == QLatin1String("both");
+            parsed.Csv = all || *format == QLatin1String("csv") || *format == QLatin1String("both");
+            parsed.Pdf = all || *format == QLatin1String("pdf");
         } else if (arg == QLatin1String("--filter")) {
             const auto key = value();
             bool ok = false;
@@ -131,13 +135,17 @@ std::optional<clsReportRoute> CustomRoute(int section, const QString& captions, 
 QList<modReportRunner::Output> Outputs(const ReportArgs& args)
 {
     QList<modReportRunner::Output> outputs;
-    for (const bool rtf : {true, false}) {
-        if (rtf ? !args.Rtf : !args.Csv)
-            continue;
+    const auto add = [&](bool wanted, bool rtf, bool pdf) {
+        if (!wanted)
+            return;
         modReportRunner::Output output = args.Output;
         output.UseRtf = rtf;
+        output.UsePdf = pdf;
         outputs.append(output);
-    }
+    };
+    add(args.Rtf, true, false);
+    add(args.Csv, false, false);
+    add(args.Pdf, true, true);
     return outputs;
 }
 
@@ -202,9 +210,9 @@ int RunReport(const QStringList& args, QTextStream& out, QTextStream& err)
 CliCommand ReportCommand()
 {
     return {QStringLiteral("report"),
-            QStringLiteral("report SECTION [--filter KEY | --custom CAPTIONS] [--format rtf|csv] [--portrait] [--a4]"),
+            QStringLiteral("report SECTION [--filter KEY | --custom CAPTIONS] [--format rtf|csv|pdf|all] [--portrait] [--a4]"),
             QStringLiteral("Write a report into the report folder and print its path (never opens it). "
                            "--list prints the catalogue with counts; --all writes every available report "
-                           "(both dialects unless --format names one)."),
+                           "(RTF and CSV unless --format names pdf, both or all)."),
             RunReport};
 }

@@ -2,11 +2,16 @@
 #include "cli/CliCommand.h"
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
+#include "pdf/clsPdfDialect.h"
 #include "startup/modStartup.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTextStream>
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
 
 namespace {
 
@@ -19,10 +24,31 @@ void PrintHelp(QTextStream& out) {
     out << "\nThe data root is $VOWREN_HOME when set, else the per-user data folder.\n";
 }
 
+// Whether the command writes PDF, which needs fonts and painting: "--format pdf" or "--format all".
+bool WritesPdf(int argc, char** argv) {
+    for (int i = 1; i + 1 < argc; ++i) {
+        if (std::strcmp(argv[i], "--format") == 0 &&
+            (std::strcmp(argv[i + 1], "pdf") == 0 || std::strcmp(argv[i + 1], "all") == 0))
+            return true;
+    }
+    return false;
+}
+
+// A painting application on the screenless platform when PDF is wanted; else one without Gui.
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
+    if (!WritesPdf(argc, argv))
+        return std::make_unique<QCoreApplication>(argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    auto app = std::make_unique<QGuiApplication>(argc, argv);
+    clsPdfDialect::Register();
+    return app;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication app(argc, argv);
+    const std::unique_ptr<QCoreApplication> app = MakeApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vowren-cli"));
     QCoreApplication::setApplicationVersion(clsApp::MajorMinorRevision());
     QTextStream out(stdout);

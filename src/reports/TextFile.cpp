@@ -63,12 +63,7 @@ bool TextFile::OpenFile(const QString& path, int mode, Encoding encoding, clsPri
 bool TextFile::WriteLine(const QString& text, int blankLinesBefore, int blankLinesAfter) {
     if (!mOut)
         return false;
-    const auto write = [this](const char* data, qint64 size) {
-        if (mOut->Write(data, size))
-            return true;
-        Fail(mOut->ErrorString());
-        return false;
-    };
+    const auto write = [this](const char* data, qint64 size) { return WriteBytes(data, size); };
     for (int i = 0; i < blankLinesBefore; ++i)
         if (!write("\r\n", 2))
             return false;
@@ -79,6 +74,17 @@ bool TextFile::WriteLine(const QString& text, int blankLinesBefore, int blankLin
         if (!write("\r\n", 2))
             return false;
     return true;
+}
+
+bool TextFile::WriteBytes(const char* data, qint64 size) {
+    if (mOut->Write(data, size))
+        return true;
+    Fail(mOut->ErrorString());
+    return false;
+}
+
+bool TextFile::Write(const QByteArray& bytes) {
+    return mOut && WriteBytes(bytes.constData(), bytes.size());
 }
 
 bool TextFile::CloseFile() {

@@ -2,6 +2,7 @@
 
 #include "platform/clsPrivateFile.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <memory>
@@ -29,6 +30,8 @@ public:
     // Writes the text as one line; the two counts add empty lines before and after it (white space
     // only: a reader of the file's format never depends on them).
     bool WriteLine(const QString& text, int blankLinesBefore = 0, int blankLinesAfter = 0);
+    // Writes the bytes as they are (a document of another format).
+    bool Write(const QByteArray& bytes);
     // Ends the file: a file written puts itself in place now. False when anything went wrong on the way.
     bool CloseFile();
     // Every line of the file opened for reading (LF or CR LF; a UTF-8 byte-order mark is dropped).
@@ -44,6 +47,7 @@ public:
 
 private:
     void Fail(const QString& reason);
+    bool WriteBytes(const char* data, qint64 size);
 
     QString mPath;
     int mMode = 0;

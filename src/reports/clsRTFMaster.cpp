@@ -99,7 +99,9 @@ QString clsRTFMaster::FILE_NAME_WITH_EXTENSION() const {
     QString name = FILE_NAME;
     name.replace(QLatin1Char('/'), QLatin1Char('_'));
     name.replace(QLatin1Char('\\'), QLatin1Char('_'));
-    return name + (USE_RTF ? QLatin1String(".rtf") : QLatin1String(".csv"));
+    if (!USE_RTF)
+        return name + QLatin1String(".csv");
+    return name + (USE_PDF ? QLatin1String(".pdf") : QLatin1String(".rtf"));
 }
 
 QString clsRTFMaster::FULL_FILE_NAME() const {
@@ -119,6 +121,7 @@ int clsRTFMaster::TABLE_WIDTH() const {
 
 void clsRTFMaster::SetGlobalSettings() {
     USE_RTF = mSettings->USE_RTF;
+    USE_PDF = mSettings->USE_PDF;
     FONT_NAME = mSettings->FONT_NAME;
     FONT_SIZE = mSettings->FONT_SIZE;
     A4 = mSettings->A4;
@@ -167,23 +170,37 @@ bool clsRTFMaster::RTFOpen() {
     if (USE_RTF) {
         halfPoints = HalfPoints(FONT_SIZE);
         if (halfPoints == 0) {
-            ShowMessage(
-                QStringLiteral("The report \"%1\" was not written.  The font size \"%2\" is not a number "
-                               "of points.")
-                    .arg(QDir::toNativeSeparators(FULL_FILE_NAME()), FONT_SIZE),
-                Msg::OKOnly | Msg::Exclamation, ProgramTitle());
+            NotWritten(QStringLiteral("The font size \"%1\" is not a number of points.").arg(FONT_SIZE));
             return false;
         }
     }
+    if (WritesPdf() && !OpenPages())
+        return false;
     QDir().mkpath(gApp().ReportPath());
     // Each run makes a new file: a report of the same name (one started in the same second) stays.
     if (!mFile.OpenFile(FULL_FILE_NAME(), TextFile::ForWriting,
                         USE_RTF ? TextFile::Encoding::Utf8 : TextFile::Encoding::Utf8WithBom,
                         clsPrivateFile::Existing::KeepOthers))
         return false;
-    if (USE_RTF)
+    if (USE_RTF && !mPages)
         WriteHead(halfPoints);
     return !mFile.HasFailed();
+}
+
+bool clsRTFMaster::OpenPages() {
+    mxPAPER_WIDTH_PAPER_HEIGHT();
+    mPages = clsPageDialect::Make();
+    if (mPages && mPages->Begin(*this, *mSettings))
+        return true;
+    mPages.reset();
+    NotWritten(QStringLiteral("This program cannot write PDF documents here."));
+    return false;
+}
+
+void clsRTFMaster::NotWritten(const QString& reason) const {
+    ShowMessage(QStringLiteral("The report \"%1\" was not written.  %2")
+                    .arg(QDir::toNativeSeparators(FULL_FILE_NAME()), reason),
+                Msg::OKOnly | Msg::Exclamation, ProgramTitle());
 }
 
 void clsRTFMaster::WriteHead(int fontHalfPoints) {
@@ -252,8 +269,17 @@ void clsRTFMaster::WriteLogoShape() {
 bool clsRTFMaster::RTFClose() {
     if (!mFile.IsOpen())
         return false;
-    if (USE_RTF)
+    if (mPages) {
+        const QByteArray document = mPages->Finish();
+        mPages.reset();
+        if (document.isEmpty()) {
+            NotWritten(QStringLiteral("Its pages could not be painted."));
+            return false; // the file still open is dropped
+        }
+        mFile.Write(document);
+    } else if (USE_RTF) {
         WriteLine(QStringLiteral("}"));
+    }
     mWritten = mFile.CloseFile();
     if (mWritten)
         FILE_NAME = QFileInfo(mFile.FileName()).completeBaseName(); // with "_2" when the name was taken
@@ -309,7 +335,7 @@ void clsRTFMaster::SetCellsCELL_FORECOLOR(int value) {
         cell.CELL_FORECOLOR = value;
 }
 
-QString clsRTFMaster::CellTextRTF(clsRTFCell& cell) const {
+RtfMarkup clsRTFMaster::CellText(clsRTFCell& cell) {
     // The style flags are spent here: the next row of the same cells is plain unless they are set again.
     RtfMarkup text = cell.CELL_TX;
     if (cell.BOLD) {
@@ -324,7 +350,7 @@ QString clsRTFMaster::CellTextRTF(clsRTFCell& cell) const {
         text = STRIKE(text);
         cell.STRIKE = false;
     }
-    return text.Rtf();
+    return text;
 }
 
 QString clsRTFMaster::CsvRecord() const {
@@ -385,6 +411,13 @@ void clsRTFMaster::PrintCells(bool RowHeader, int RTF_HEIGHT) {
         mFile.WriteLine(CsvRecord());
         return;
     }
+    if (mPages) {
+        QList<clsRTFCell> styled = RTFCells;
+        for (qsizetype i = 0; i < styled.size(); ++i)
+            styled[i].CELL_TX = CellText(RTFCells[i]);
+        mPages->Row(styled, RowHeader, RTF_HEIGHT);
+        return;
+    }
     // The row goes to the file in one piece, its lines joined by CR LF.
     const RowLayout& layout = Layout(RowHeader, RTF_HEIGHT);
     QString out;
@@ -392,7 +425,7 @@ void clsRTFMaster::PrintCells(bool RowHeader, int RTF_HEIGHT) {
     out += layout.Definition;
     for (qsizetype i = 0; i < RTFCells.size(); ++i) {
         out += layout.CellStarts.at(i);
-        out += CellTextRTF(RTFCells[i]);
+        out += CellText(RTFCells[i]).Rtf();
         out += QLatin1String("\\cell\\pard\r\n");
     }
     out += QLatin1String("\r\n\\intbl\\row\r\n\r\n\\pard");
@@ -411,6 +444,10 @@ void clsRTFMaster::PrintBlankCells() {
 }
 
 void clsRTFMaster::PrintRaw(const RtfMarkup& rtf) {
+    if (mPages) {
+        mPages->Paragraph(rtf);
+        return;
+    }
     if (USE_RTF) {
         WriteLine(rtf.Rtf());
         return;
@@ -423,6 +460,8 @@ void clsRTFMaster::FontSize(const QString& points) {
     if (!USE_RTF)
         return;
     const int halfPoints = HalfPoints(points);
-    if (halfPoints > 0)
+    if (halfPoints > 0 && mPages)
+        mPages->SetFontHalfPoints(halfPoints);
+    else if (halfPoints > 0)
         WriteLine(QLatin1String("\\fs") + Number(halfPoints));
 }

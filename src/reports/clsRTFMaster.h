@@ -2,6 +2,7 @@
 
 #include "reports/RtfMarkup.h"
 #include "reports/TextFile.h"
+#include "reports/clsPageDialect.h"
 #include "reports/clsRTFCell.h"
 #include "reports/clsRTFMasterTemp.h"
 
@@ -10,6 +11,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <memory>
 #include <vector>
 
 // The writer of every report: a Rich Text Format document made of table rows, or a CSV file, from the
@@ -24,6 +26,9 @@
 // double quotes with inner quotes doubled, records ending in CR LF; the file is UTF-8 with a byte-order
 // mark. A cell's markup gives its plain text there, so styles vanish and line breaks stay CR LF.
 //
+// The PDF dialect lays the same rows out in pages through the clsPageDialect a painting layer
+// registered; it is a laid-out document like RTF, so USE_RTF stays true with USE_PDF.
+//
 // The file is made in a temporary file beside the report and takes its name at RTFClose: a report that
 // fails on the way leaves nothing behind, and the user is told what failed, with the path.
 class clsRTFMaster {
@@ -34,6 +39,7 @@ public:
     bool A4 = false;
     bool LANDSCAPE = true;
     bool USE_RTF = true;
+    bool USE_PDF = false; // with USE_RTF: PDF instead of RTF
     // The logo in a page header, with title and date inside that header on every page.
     bool PRINT_HEADER_ICON = true;
     // The line "As of " and the present date and time under the title.
@@ -69,7 +75,7 @@ public:
     // The cell last added (there must be one).
     clsRTFCell& RTFCell() { return RTFCells.last(); }
 
-    // FILE_NAME + ".rtf", or ".csv" in the CSV dialect. A slash or backslash in the name becomes "_",
+    // FILE_NAME + ".rtf", or ".csv" or ".pdf" in those dialects. A slash or backslash in the name becomes "_",
     // so that the file stays in the report folder.
     QString FILE_NAME_WITH_EXTENSION() const;
     // The report folder + "/" + FILE_NAME_WITH_EXTENSION.
@@ -136,7 +142,11 @@ private:
     void WriteHead(int fontHalfPoints);
     void WriteLogoShape();
     void WriteLine(const QString& text, int blankLinesBefore = 0);
-    QString CellTextRTF(clsRTFCell& cell) const;
+    bool WritesRtf() const { return USE_RTF && !USE_PDF; }
+    bool WritesPdf() const { return USE_RTF && USE_PDF; }
+    bool OpenPages();
+    void NotWritten(const QString& reason) const;
+    static RtfMarkup CellText(clsRTFCell& cell);
     QString CsvRecord() const;
     // What a table row writes before its texts, and before each cell's text, for the present cells.
     struct RowLayout {
@@ -148,6 +158,7 @@ private:
 
     const clsRTFMasterTemp* mSettings;
     TextFile mFile;
+    std::unique_ptr<clsPageDialect> mPages; // the PDF dialect's document while it is open
     bool mWritten = false;
     // Rows of one report mostly share their layout: it is made once and used until a cell changes.
     RowLayout mLayout;

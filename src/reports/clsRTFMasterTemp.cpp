@@ -7,8 +7,29 @@ void clsRTFMasterTemp::SetColors(const clsColor& header, const clsColor& subHead
 }
 
 QString clsRTFMasterTemp::RTF_COLOR_TABLE() const {
-    return mHeader.RTFColor() + mSubHeader.RTFColor() + mBorder.RTFColor() + clsColor(255, 0, 0).RTFColor() +
-           clsColor(242, 242, 242).RTFColor() + clsColor(128, 128, 128).RTFColor();
+    QString table;
+    for (int index = HeaderFill; index <= Gray; ++index)
+        table += TableColor(index).RTFColor();
+    return table;
+}
+
+clsColor clsRTFMasterTemp::TableColor(int index) const {
+    switch (index) {
+    case HeaderFill:
+        return mHeader;
+    case SubHeaderFill:
+        return mSubHeader;
+    case BorderLine:
+        return mBorder;
+    case Red:
+        return {255, 0, 0};
+    case LightGray:
+        return {242, 242, 242};
+    case Gray:
+        return {128, 128, 128};
+    default:
+        return {0, 0, 0};
+    }
 }
 
 clsRTFMasterTemp& gRTFMasterTemp() {

@@ -13,6 +13,8 @@ public:
     QString FONT_SIZE = QStringLiteral("9");
     bool LANDSCAPE = true;
     bool USE_RTF = true;
+    // With USE_RTF, the laid-out document goes out as PDF instead of RTF.
+    bool USE_PDF = false;
 
     // The three colours the user chooses: header fill, sub-header fill, borders.
     static constexpr clsColor DefaultHeaderColor() { return {170, 194, 234}; }
@@ -26,6 +28,8 @@ public:
     // The entries of a document's colour table, in index order from 1: the three chosen colours, then
     // red, light grey and grey, which are fixed.
     QString RTF_COLOR_TABLE() const;
+    // The colour of a table index from 1 (HeaderFill ... Gray); black for 0 and any other index.
+    clsColor TableColor(int index) const;
 
     // Colour-table indexes as the report classes use them.
     enum ColorIndex : int {

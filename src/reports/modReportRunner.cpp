@@ -12,6 +12,7 @@ void ApplyOutput(const Output& output)
 {
     clsRTFMasterTemp& settings = gRTFMasterTemp();
     settings.USE_RTF = output.UseRtf;
+    settings.USE_PDF = output.UsePdf;
     settings.LANDSCAPE = output.Landscape;
     settings.A4 = output.A4;
 }
@@ -49,7 +50,7 @@ int SectionKeyOf(const QString& text)
 QString Write(const clsReportRoute& route, const Output& output)
 {
     clsRTFMasterTemp& settings = gRTFMasterTemp();
-    const Output before{settings.USE_RTF, settings.LANDSCAPE, settings.A4};
+    const Output before{settings.USE_RTF, settings.USE_PDF, settings.LANDSCAPE, settings.A4};
     ApplyOutput(output);
     const QString file = clsReportClasses::Build(route);
     ApplyOutput(before);

@@ -14,6 +14,7 @@ namespace modReportRunner {
 // The dialect and paper a run writes with; the font and colours stay as the settings have them.
 struct Output {
     bool UseRtf = true;
+    bool UsePdf = false; // with UseRtf: the document as PDF
     bool Landscape = true;
     bool A4 = false;
 };

@@ -55,7 +55,7 @@ check "parse-name needs a name" 2 'takes one name' "$cli" parse-name
 
 check "report needs a section" 2 'give one of SECTION, --list or --all' "$cli" report
 check "report of no section" 2 'there is no section "Seating"' "$cli" report Seating
-check "report with a bad format" 2 '--format takes rtf, csv or both' "$cli" report Contacts --format pdf
+check "report with a bad format" 2 '--format takes rtf, csv, pdf, both' "$cli" report Contacts --format odt
 check "report with a bad filter" 2 '--filter takes the number' "$cli" report Contacts --filter x
 check "report of a missing row" 2 'no such filter row' "$cli" report Contacts --filter 77
 check "report custom filter row" 2 'takes its boxes from --custom' "$cli" report Contacts --filter 99999
@@ -71,6 +71,13 @@ check "report with a custom filter" 0 '01_Contacts_.*\.csv$' "$cli" report Conta
 check "report not yet available" 1 'not available yet' "$cli" report Gifts
 check "report needing the screen" 2 'needs the report screen' "$cli" report Tables --filter 3
 check "report all in both dialects" 0 '04_Tentcard_.*\.csv' "$cli" report --all
+check "report writes PDF" 0 "^$home/Reports/01_Contacts_[0-9_-]+\.pdf$" "$cli" report Contacts --format pdf --portrait
+check "report all formats of one" 0 '12_Wedding_Statistics_.*\.pdf$' "$cli" report "wedding statistics" --format all
+check "report all as PDF" 0 '04_Tentcard_.*\.pdf' "$cli" report --all --format pdf
+check "report files are PDF" 0 '^%PDF-' head -c 5 "$(ls "$home"/Reports/01_Contacts_*.pdf | head -1)"
+if command -v pdftotext >/dev/null; then
+    check "report PDF shows its title" 0 'Contacts' pdftotext "$(ls "$home"/Reports/01_Contacts_*.pdf | head -1)" -
+fi
 check "report files are RTF" 0 '^\{\\rtf1' head -c 6 "$(ls "$home"/Reports/12_Wedding_Statistics_*.rtf | head -1)"
 if command -v python3 >/dev/null; then
     check "every CSV reads back with Python's strict csv reader" 0 '^[0-9]+ files read$' python3 -c '
