@@ -24,6 +24,9 @@ CliCommand DemoCommand();
 CliCommand ReportCommand();
 CliCommand DeleteCommand();
 CliCommand RelabelCommand();
+CliCommand SeatCommand();
+CliCommand UnseatCommand();
+CliCommand TablesCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

@@ -37,6 +37,9 @@ const std::vector<CliCommand>& CliCommands() {
         RestoreCommand(),
         DeleteCommand(),
         RelabelCommand(),
+        SeatCommand(),
+        UnseatCommand(),
+        TablesCommand(),
     };
     return commands;
 }

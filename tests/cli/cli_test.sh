@@ -181,6 +181,23 @@ check "relabel by the kept etiquette" 0 '\(formal\)$' "$cli" relabel
 check "relabel personal" 0 '\(personal\)$' "$cli" relabel --personal
 check "personal inner envelopes" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM INVITE WHERE AUTO_UPDATE_FG = 'Y' AND INNER_ENVELOPE_TX LIKE 'Mr.%'"
 
+# Seating: all of the guests or none, in the floor plan's words.
+"$cli" demo --guests 40 --seed 5 >/dev/null
+read -ra ids <<<"$("$cli" sql "SELECT CONTACT_ID FROM CONTACT ORDER BY 1" | tail -n +2 | tr -d '"\r' | tr '\n' ' ')"
+check "unseat everybody" 0 "^Unseated: ${ids[0]} " "$cli" unseat "${ids[@]}"
+check "tables after unseating" 0 '^Table #1: 0 of 12 seats taken$' "$cli" tables
+check "seat eleven" 0 "^Seated at table #1: ${ids[0]} " "$cli" seat --table 1 "${ids[@]:0:11}"
+check "seat two at one free seat" 1 'seat: There is only 1 seat available\.$' "$cli" seat --table 1 "${ids[@]:11:2}"
+check "nobody of the two was seated" 0 '^Table #1: 11 of 12 seats taken$' "$cli" tables
+check "seat the last one" 0 "^Seated at table #1: ${ids[11]}$" "$cli" seat --table 1 "${ids[11]}"
+check "seat at a full table" 1 'Table #1 is full\. All 12 seats are taken\.$' "$cli" seat --table 1 "${ids[12]}"
+check "seat an unknown contact" 1 'no contact with the key 99999\. Nothing was changed' "$cli" seat --table 2 "${ids[12]}" 99999
+check "seat at an unknown table" 1 'there is no table #77' "$cli" seat --table 77 "${ids[12]}"
+check "seat without a table" 2 'usage: seat --table NUMBER ID' "$cli" seat "${ids[12]}"
+check "unseat needs keys" 2 'usage: unseat ID' "$cli" unseat
+check "unseat one" 0 "^Unseated: ${ids[0]}$" "$cli" unseat "${ids[0]}"
+check "tables after unseating one" 0 '^Table #1: 11 of 12 seats taken$' "$cli" tables
+
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
 check "the damaged file is untouched" 0 'not a database at all' cat "$home/Database/Vowren.quilldata"
