@@ -128,6 +128,15 @@ void MoveTable(const QString& tableId, const QPoint& topLeft) {
     tx.Commit();
 }
 
+QHash<QString, long> SeatsTakenByTable() {
+    QHash<QString, long> taken;
+    const clsRecordset rs = gDB().Execute(QStringLiteral(
+        "SELECT DINING_TABLE_ID, COUNT(*) FROM CONTACT WHERE DINING_TABLE_ID Is Not Null GROUP BY DINING_TABLE_ID"));
+    for (int row = 0; row < rs.RowCount(); ++row)
+        taken.insert(rs.Row(row).value(0), rs.Row(row).value(1).toLong());
+    return taken;
+}
+
 Seats EmptyTable(const QString& tableId) {
     clsTransaction tx(gDB());
     const Seats before = SeatsAtTables(QStringLiteral("DINING_TABLE_ID = ?"), {tableId});

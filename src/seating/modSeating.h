@@ -2,6 +2,7 @@
 
 #include "seating/clsDINING_TABLE.h"
 
+#include <QHash>
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -57,6 +58,9 @@ struct TablePlacement {
 QPoint PlaceTable(const TablePlacement& place);
 // Saves the table's position (twips).
 void MoveTable(const QString& tableId, const QPoint& topLeft);
+
+// The seats taken at each table that has guests, by table id (every contact counts, as GetTotal does).
+QHash<QString, long> SeatsTakenByTable();
 
 // Every guest of the table back to the unseated list; gives where they sat.
 Seats EmptyTable(const QString& tableId);
