@@ -2,6 +2,9 @@
 
 #include "guests/clsCONTACT.h"
 
+#include <QPoint>
+#include <sqlite3.h>
+
 const RecordTable<clsDINING_TABLE>& clsDINING_TABLE::Table() {
     static const RecordTable<clsDINING_TABLE> table{
         "DINING_TABLE",
@@ -41,13 +44,19 @@ long clsDINING_TABLE::GetTotal(int kind) const {
     return kind == SeatsTaken ? taken : SEATS_NB.toLong() - taken;
 }
 
+namespace {
+
+QString NextNumber() {
+    const QString next =
+        gDB().Execute(QStringLiteral("SELECT Max(DINING_TABLE_NB) + 1 AS MAXNB FROM DINING_TABLE")).Scalar();
+    return next.isEmpty() ? QStringLiteral("1") : next;
+}
+
+} // namespace
+
 QString clsDINING_TABLE::NEXT_NB() {
     try {
-        const QString next =
-            gDB()
-                .Execute(QStringLiteral("SELECT Max(DINING_TABLE_NB) + 1 AS MAXNB FROM DINING_TABLE"))
-                .Scalar();
-        return next.isEmpty() ? QStringLiteral("1") : next;
+        return NextNumber();
     } catch (const clsDbError& e) {
         RecordIO::Report(e);
         return {};
@@ -92,4 +101,88 @@ bool clsDINING_TABLE::Patch_6_Apply() {
 
 bool clsDINING_TABLE::Save(bool insert) {
     return RecordIO::Save(*this, Table(), insert);
+}
+
+namespace {
+
+// The table's place when it is the index-th (from 0) of a batch laid out in rows.
+QPoint FloorCell(int index) {
+    return {index % clsDINING_TABLE::TablesPerRow, index / clsDINING_TABLE::TablesPerRow};
+}
+
+QString Twips(int cell, double twipsPerPixel) {
+    return QString::number(qRound(twipsPerPixel * clsDINING_TABLE::TablePitchPixels * cell));
+}
+
+} // namespace
+
+void clsDINING_TABLE::CheckNumber(const QString& number, const QString& ownKey) {
+    bool whole = false;
+    const long long value = number.trimmed().toLongLong(&whole);
+    if (!whole || value < 1)
+        throw clsDbError(QStringLiteral("The table number must be a whole number from 1 up, such as 12."),
+                         SQLITE_MISMATCH);
+    const QString holder =
+        gDB()
+            .Execute(QStringLiteral("SELECT DINING_TABLE_ID FROM DINING_TABLE WHERE DINING_TABLE_NB = ? "
+                                    "AND DINING_TABLE_ID IS NOT ? LIMIT 1"),
+                     {value, RecordIO::ToDbValue({}, ownKey)})
+            .Scalar();
+    if (!holder.isEmpty())
+        throw clsDbError(QStringLiteral("Table number is already in use."), SQLITE_CONSTRAINT);
+}
+
+QStringList clsDINING_TABLE::AddTables(int count, const clsDINING_TABLE& model, double twipsPerPixel) {
+    QStringList keys;
+    clsTransaction tx(gDB());
+    for (int i = 0; i < count; ++i) {
+        clsDINING_TABLE table = model;
+        table.DINING_TABLE_ID.clear();
+        if (count == 1) {
+            table.DINING_TABLE_NB = model.DINING_TABLE_NB.trimmed();
+            table.DINING_TABLE_NM = model.DINING_TABLE_NM.trimmed();
+            CheckNumber(table.DINING_TABLE_NB);
+        } else {
+            table.DINING_TABLE_NB = NextNumber();
+            table.DINING_TABLE_NM.clear();
+        }
+        const QPoint cell = FloorCell(i);
+        table.POS_X = Twips(cell.x(), twipsPerPixel);
+        // The horizontal factor for both, as the floor has always placed them.
+        table.POS_Y = Twips(cell.y(), twipsPerPixel);
+        RecordIO::SaveOrThrow(table, Table(), true);
+        keys.append(table.DINING_TABLE_ID);
+    }
+    tx.Commit();
+    return keys;
+}
+
+void clsDINING_TABLE::SaveEdited() {
+    DINING_TABLE_NB = DINING_TABLE_NB.trimmed();
+    DINING_TABLE_NM = DINING_TABLE_NM.trimmed();
+    CheckNumber(DINING_TABLE_NB, DINING_TABLE_ID);
+    RecordIO::SaveOrThrow(*this, Table(), false);
+}
+
+void clsDINING_TABLE::SwapTables(const QString& firstKey, const QString& secondKey) {
+    if (firstKey == secondKey)
+        return;
+    clsTransaction tx(gDB());
+    const QList<clsDINING_TABLE> both = RecordIO::ReadAll(
+        Table(), QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_ID IN (?, ?)"),
+        {firstKey, secondKey});
+    if (both.size() != 2)
+        throw clsDbError(QStringLiteral("One of the two tables is no longer on the floor."), SQLITE_NOTFOUND);
+    for (clsDINING_TABLE table : both) {
+        table.DINING_TABLE_NM =
+            both.at(table.DINING_TABLE_ID == both.first().DINING_TABLE_ID ? 1 : 0).DINING_TABLE_NM;
+        RecordIO::SaveOrThrow(table, Table(), false);
+    }
+    const QString exchange =
+        QStringLiteral("UPDATE %1 SET DINING_TABLE_ID = CASE WHEN DINING_TABLE_ID = ?1 THEN ?2 ELSE ?1 END "
+                       "WHERE DINING_TABLE_ID IN (?1, ?2)");
+    gDB().Execute(exchange.arg(QStringLiteral("CONTACT")), {firstKey, secondKey});
+    if (gDB().TableExists(QStringLiteral("TENTCARD")))
+        gDB().Execute(exchange.arg(QStringLiteral("TENTCARD")), {firstKey, secondKey});
+    tx.Commit();
 }

@@ -41,4 +41,20 @@ public:
     // Adds the shape column to an old table; every existing table becomes shape 1.
     static bool Patch_6_Apply();
     bool Save(bool insert);
+
+    // ---- Rules of the table dialogs; each throws clsDbError with the words the user reads ----
+    // New tables stand in rows of this many, this many pixels apart, from the top left of the floor.
+    static constexpr int TablesPerRow = 12;
+    static constexpr int TablePitchPixels = 32;
+    // Refuses a number that is not a whole number above 0, or that another table (not ownKey) has.
+    static void CheckNumber(const QString& number, const QString& ownKey = QString());
+    // Adds count tables shaped, seated and (for a single table) numbered and labelled like the model;
+    // more than one take the next free numbers and no label. They go in rows across the floor, the
+    // place given in twips at twipsPerPixel. All or nothing; the new keys in order.
+    static QStringList AddTables(int count, const clsDINING_TABLE& model, double twipsPerPixel);
+    // Saves an edited table after the number check.
+    void SaveEdited();
+    // The two tables exchange their guests (and the guests' tent cards) and their labels; numbers,
+    // shapes and seats stay. No seat check: a table may end up over-full. All or nothing.
+    static void SwapTables(const QString& firstKey, const QString& secondKey);
 };

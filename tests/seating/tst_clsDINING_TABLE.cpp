@@ -2,6 +2,7 @@
 #include "seating/clsDINING_TABLE.h"
 
 #include <QtTest>
+#include <functional>
 #include <memory>
 
 class tst_clsDINING_TABLE : public QObject {
@@ -167,6 +168,141 @@ private slots:
         QVERIFY(!table.Save(true));
         QCOMPARE(db->Messages().Prompts.size(), 1);
         QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM DINING_TABLE"), QStringLiteral("0"));
+    }
+
+    static clsDINING_TABLE Model(const QString& number, const QString& label = QString()) {
+        clsDINING_TABLE model;
+        model.DINING_TABLE_NB = number;
+        model.DINING_TABLE_NM = label;
+        model.SEATS_NB = QStringLiteral("10");
+        model.DINING_TABLE_TYPE_ID = QStringLiteral("3");
+        return model;
+    }
+    static QString Refusal(const std::function<void()>& work) {
+        try {
+            work();
+        } catch (const clsDbError& e) {
+            return e.Message();
+        }
+        return {};
+    }
+
+    void numberCheck_data() {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QString>("ownKey");
+        QTest::addColumn<QString>("refusal");
+        const QString inUse = QStringLiteral("Table number is already in use.");
+        const QString notWhole =
+            QStringLiteral("The table number must be a whole number from 1 up, such as 12.");
+        QTest::newRow("free number") << "3"
+                                     << ""
+                                     << "";
+        QTest::newRow("another table's number") << "5"
+                                                << "" << inUse;
+        QTest::newRow("its own number") << "5"
+                                        << "1"
+                                        << "";
+        QTest::newRow("another's number while editing") << "5"
+                                                        << "2" << inUse;
+        QTest::newRow("blanks around a free number") << " 4 "
+                                                     << ""
+                                                     << "";
+        QTest::newRow("letters") << "A1"
+                                 << "" << notWhole;
+        QTest::newRow("a fraction") << "2.5"
+                                    << "" << notWhole;
+        QTest::newRow("zero") << "0"
+                              << "" << notWhole;
+        QTest::newRow("below zero") << "-3"
+                                    << "" << notWhole;
+        QTest::newRow("empty") << ""
+                               << "" << notWhole;
+    }
+    void numberCheck() {
+        QFETCH(QString, number);
+        QFETCH(QString, ownKey);
+        QFETCH(QString, refusal);
+        AddTable("5");
+        AddTable("6");
+        QCOMPARE(Refusal([&] { clsDINING_TABLE::CheckNumber(number, ownKey); }), refusal);
+    }
+
+    void addManyInRows_data() {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<int>("columnPixels");
+        QTest::addColumn<int>("rowPixels");
+        QTest::newRow("the first at the top left") << 13 << 0 << "3" << 0 << 0;
+        QTest::newRow("the twelfth ends the first row") << 13 << 11 << "14" << 11 * 32 << 0;
+        QTest::newRow("the thirteenth starts the second row") << 13 << 12 << "15" << 0 << 32;
+        QTest::newRow("one table takes the typed number") << 1 << 0 << "9" << 0 << 0;
+    }
+    void addManyInRows() {
+        QFETCH(int, count);
+        QFETCH(int, index);
+        QFETCH(QString, number);
+        QFETCH(int, columnPixels);
+        QFETCH(int, rowPixels);
+        AddTable("2");
+        const QStringList keys =
+            clsDINING_TABLE::AddTables(count, Model(QStringLiteral("9"), QStringLiteral("Family")), 15.0);
+        QCOMPARE(keys.size(), count);
+        clsDINING_TABLE table;
+        QVERIFY(table.OpenRecord(keys.at(index)));
+        QCOMPARE(table.DINING_TABLE_NB, number);
+        QCOMPARE(table.POS_X, QString::number(columnPixels * 15));
+        QCOMPARE(table.POS_Y, QString::number(rowPixels * 15));
+        QCOMPARE(table.SEATS_NB, QStringLiteral("10"));
+        QCOMPARE(table.DINING_TABLE_TYPE_ID, QStringLiteral("3"));
+        QCOMPARE(table.DINING_TABLE_NM, count == 1 ? QStringLiteral("Family") : QString());
+    }
+
+    void aRefusedAddLeavesNoTable() {
+        AddTable("4");
+        QCOMPARE(Refusal([] { clsDINING_TABLE::AddTables(1, Model(QStringLiteral("4")), 15.0); }),
+                 QStringLiteral("Table number is already in use."));
+        TestDatabase::Exec("CREATE TRIGGER third_fails BEFORE INSERT ON DINING_TABLE "
+                           "WHEN (SELECT COUNT(*) FROM DINING_TABLE) >= 3 "
+                           "BEGIN SELECT RAISE(ABORT, 'disk full'); END");
+        QCOMPARE(Refusal([] { clsDINING_TABLE::AddTables(5, Model(QString()), 15.0); }),
+                 QStringLiteral("disk full"));
+        QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM DINING_TABLE"), QStringLiteral("1"));
+    }
+
+    void editRefusesAnotherTablesNumber() {
+        AddTable("1");
+        clsDINING_TABLE second = AddTable("2", "8", "Old");
+        second.DINING_TABLE_NB = QStringLiteral("1");
+        second.DINING_TABLE_NM = QStringLiteral("New");
+        QCOMPARE(Refusal([&] { second.SaveEdited(); }), QStringLiteral("Table number is already in use."));
+        QCOMPARE(TestDatabase::Scalar("SELECT DINING_TABLE_NM FROM DINING_TABLE WHERE DINING_TABLE_NB = 2"),
+                 QStringLiteral("Old"));
+        second.DINING_TABLE_NB = QStringLiteral(" 7 ");
+        second.SaveEdited();
+        QCOMPARE(TestDatabase::Scalar("SELECT DINING_TABLE_NM FROM DINING_TABLE WHERE DINING_TABLE_NB = 7"),
+                 QStringLiteral("New"));
+    }
+
+    void swapExchangesGuestsAndLabels() {
+        const clsDINING_TABLE first = AddTable("1", "8", "Family");
+        const clsDINING_TABLE second = AddTable("2", "4", "");
+        const clsDINING_TABLE third = AddTable("3");
+        Seat(3, first.DINING_TABLE_ID);
+        Seat(4, first.DINING_TABLE_ID);
+        Seat(5, second.DINING_TABLE_ID);
+        Seat(6, third.DINING_TABLE_ID);
+        TestDatabase::Exec("INSERT INTO TENTCARD VALUES (1, 'Ann', 'A', ?)", {first.DINING_TABLE_ID});
+        clsDINING_TABLE::SwapTables(first.DINING_TABLE_ID, second.DINING_TABLE_ID);
+        QCOMPARE(TableOf(3), second.DINING_TABLE_ID);
+        QCOMPARE(TableOf(4), second.DINING_TABLE_ID);
+        QCOMPARE(TableOf(5), first.DINING_TABLE_ID);
+        QCOMPARE(TableOf(6), third.DINING_TABLE_ID);
+        QCOMPARE(TestDatabase::Scalar("SELECT DINING_TABLE_ID FROM TENTCARD"), second.DINING_TABLE_ID);
+        QCOMPARE(
+            TestDatabase::Scalar("SELECT GROUP_CONCAT(DINING_TABLE_NB || ':' || IFNULL(DINING_TABLE_NM, '') "
+                                 "|| ':' || SEATS_NB, ' ') FROM (SELECT * FROM DINING_TABLE ORDER BY 1)"),
+            QStringLiteral("1::8 2:Family:4 3::8"));
     }
 
     void shapePatchGivesOldTablesShapeOne() {
