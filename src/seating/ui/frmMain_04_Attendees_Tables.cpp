@@ -6,6 +6,8 @@
 #include "guests/clsCONTACT.h"
 #include "platform/clsShell.h"
 #include "reports/clsReportCatalogue.h"
+#include "seating/ui/frmTable.h"
+#include "seating/ui/frmTableSwap.h"
 #include "seating/ui/modTableShapes.h"
 #include "seating/ui/usrDiningTable.h"
 #include "shell/controls/usrHyperlink.h"
@@ -540,6 +542,17 @@ void frmMain_04_Attendees_Tables::ForgetSeat(const QString& contactId) {
     }
 }
 
+// A person the page has not loaded (made attending since it opened) is read when first seated.
+bool frmMain_04_Attendees_Tables::KnowGuest(const QString& contactId) {
+    if (mGuests.contains(contactId))
+        return true;
+    clsCONTACT c;
+    if (!RecordIO::Read([&] { return c.OpenRecord(contactId); }))
+        return false;
+    mGuests.insert(contactId, {c.LastFirstMiddleSuffix(), c.LastFirstMiddle(), GuestIcon(contactId)});
+    return true;
+}
+
 void frmMain_04_Attendees_Tables::AddListItem(const QString& contactId) {
     const Guest guest = mGuests.value(contactId);
     auto* row = new QTreeWidgetItem;
@@ -557,7 +570,7 @@ void frmMain_04_Attendees_Tables::AddListItem(const QString& contactId) {
 
 // Moves the person's row or node to where they now sit, and counts the seat.
 void frmMain_04_Attendees_Tables::ShowSeat(const QString& contactId, const QString& tableId) {
-    if (!mGuests.contains(contactId))
+    if (!KnowGuest(contactId))
         return;
     ForgetSeat(contactId);
     QTreeWidgetItem* parent = mTableNodes.value(tableId);
@@ -932,7 +945,18 @@ void frmMain_04_Attendees_Tables::mfrmTable_Updated(const QString& key) {
 void frmMain_04_Attendees_Tables::mfrmTableSwap_Swap() { Reload(); }
 
 void frmMain_04_Attendees_Tables::OpenTableEditor(const QString& key) {
-    Q_UNUSED(key);
+    if (gApp().LockTableLayout() || (!key.isEmpty() && !mTables.contains(key)))
+        return;
+    frmTable editor(key, this);
+    connect(&editor, &frmEditorBase::Added, this, &frmMain_04_Attendees_Tables::mfrmTable_Added);
+    connect(&editor, &frmEditorBase::Updated, this, &frmMain_04_Attendees_Tables::mfrmTable_Updated);
+    editor.exec();
 }
 
-void frmMain_04_Attendees_Tables::OpenTableSwap() {}
+void frmMain_04_Attendees_Tables::OpenTableSwap() {
+    if (gApp().LockTableLayout() || mTables.size() < 2)
+        return;
+    frmTableSwap swap(this);
+    connect(&swap, &frmTableSwap::Swap, this, &frmMain_04_Attendees_Tables::mfrmTableSwap_Swap);
+    swap.exec();
+}

@@ -111,6 +111,7 @@ private:
     void RemoveTable(const QString& tableId);
     void ShowSeat(const QString& contactId, const QString& tableId);
     void ForgetSeat(const QString& contactId);
+    bool KnowGuest(const QString& contactId);
     void AddListItem(const QString& contactId);
     void RefreshTable(const QString& tableId);
     void RefreshCounts();

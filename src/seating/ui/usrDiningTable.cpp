@@ -2,6 +2,7 @@
 
 #include "seating/ui/modTableShapes.h"
 
+#include <QCursor>
 #include <QGraphicsScene>
 #include <QGraphicsSceneContextMenuEvent>
 #include <QGraphicsSceneDragDropEvent>
@@ -42,7 +43,7 @@ bool Read(const QMimeData* data, QStringList* contactIds, bool* fromTable) {
 usrDiningTable::usrDiningTable(QGraphicsItem* parent) : QGraphicsObject(parent) {
     setAcceptDrops(true);
     setFlag(ItemIsFocusable);
-    setCursor(Qt::OpenHandCursor);
+    setCursor(QCursor(Qt::OpenHandCursor));
 }
 
 void usrDiningTable::setBackColor(const QColor& color) {
