@@ -1,22 +1,17 @@
 // The table layout on a 10 000-guest demo wedding, offscreen: opening the page until the list, the tree
 // and the floor are filled and painted; a drop of ten attendees on a table, saved and repainted; one
 // frame of a table being dragged; and the picture of the layout.
-#include "core/ShowMessage.h"
+#include "BenchWedding.h"
 #include "core/clsDB.h"
-#include "core/modSubMain.h"
 #include "seating/modSeating.h"
 #include "seating/ui/frmMain_04_Attendees_Tables.h"
 #include "seating/ui/usrDiningTable.h"
-#include "startup/modDemoWedding.h"
-#include "startup/modStartup.h"
 
 #include <QApplication>
 #include <QGraphicsView>
 #include <QPixmap>
-#include <QTemporaryDir>
 #include <QUndoStack>
 #include <benchmark/benchmark.h>
-#include <cstdio>
 
 namespace {
 
@@ -24,7 +19,9 @@ namespace {
 constexpr int kTables = 500;
 QString gEmptyTable;
 
-QPixmap Paint(frmMain_04_Attendees_Tables& page) { return page.FloorView()->viewport()->grab(); }
+QPixmap Paint(frmMain_04_Attendees_Tables& page) {
+    return page.FloorView()->viewport()->grab();
+}
 
 void BM_TablesPageOpen(benchmark::State& state) {
     for (auto _ : state) {
@@ -44,8 +41,10 @@ void BM_TablesDropTen(benchmark::State& state) {
     page.show();
     const QStringList ten = page.UnseatedIds().mid(0, 10);
     for (auto _ : state) {
-        if (!page.SeatGuests(gEmptyTable, ten))
+        if (!page.SeatGuests(gEmptyTable, ten)) {
             state.SkipWithError("the ten were not seated");
+            break;
+        }
         QPixmap painted = Paint(page);
         benchmark::DoNotOptimize(painted);
         state.PauseTiming();
@@ -79,28 +78,33 @@ void BM_TablesLayoutPicture(benchmark::State& state) {
 }
 BENCHMARK(BM_TablesLayoutPicture)->Unit(benchmark::kMillisecond);
 
-// An empty twelve-seat table, enough tables for a large room, and twenty attendees not yet seated.
+clsDINING_TABLE NewTable(int number, int n) {
+    clsDINING_TABLE table;
+    table.DINING_TABLE_NB = QString::number(number);
+    table.SEATS_NB = QStringLiteral("12");
+    table.POS_X = QString::number(600 + (n % 8) * 1500);
+    table.POS_Y = QString::number(1800 + (n / 8) * 1500);
+    table.DINING_TABLE_TYPE_ID = QStringLiteral("1");
+    table.Save(true);
+    return table;
+}
+
+// Enough tables for a large room, one more that is empty, and twenty attendees not yet seated.
 bool PrepareRoom(QString* message) {
     return RecordIO::Attempt([&] {
-        QList<clsDINING_TABLE> tables = clsDINING_TABLE::OpenRecords();
-        for (int n = int(tables.size()); n <= kTables; ++n) {
-            clsDINING_TABLE table;
-            table.DINING_TABLE_NB = QString::number(tables.isEmpty() ? n + 1 : tables.last().DINING_TABLE_NB.toInt() + 1);
-            table.SEATS_NB = QStringLiteral("12");
-            table.POS_X = QString::number(600 + (n % 8) * 1500);
-            table.POS_Y = QString::number(1800 + (n / 8) * 1500);
-            table.DINING_TABLE_TYPE_ID = QStringLiteral("1");
-            table.Save(true);
-            tables << table;
-        }
-        gEmptyTable = tables.last().DINING_TABLE_ID;
+        const QList<clsDINING_TABLE> demo = clsDINING_TABLE::OpenRecords();
+        int n = int(demo.size());
+        int number = demo.isEmpty() ? 0 : demo.last().DINING_TABLE_NB.toInt();
+        while (n < kTables)
+            NewTable(++number, n++);
+        gEmptyTable = NewTable(++number, n++).DINING_TABLE_ID;
         QStringList seated;
-        const clsRecordset rs = gDB().Execute(
-            QStringLiteral("SELECT CONTACT_ID FROM CONTACT WHERE DINING_TABLE_ID Is Not Null AND CONTACT_ID > 2 LIMIT 20"));
+        const clsRecordset rs = gDB().Execute(QStringLiteral(
+            "SELECT CONTACT_ID FROM CONTACT WHERE DINING_TABLE_ID Is Not Null AND CONTACT_ID > 2 LIMIT 20"));
         for (int row = 0; row < rs.RowCount(); ++row)
             seated << rs.Row(row).value(0);
         modSeating::Unseat(seated);
-        *message = QStringLiteral("%1 tables in the room").arg(tables.size());
+        *message += QStringLiteral(" The room: %1 tables, one of them empty for the drop.").arg(n);
     });
 }
 
@@ -110,23 +114,5 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QTemporaryDir home;
-    qputenv("VOWREN_HOME", home.path().toUtf8());
-    qputenv("VOWREN_NO_OPEN", "1");
-    SetMessageSink(std::make_unique<clsCapturingMessageSink>());
-    modStartup::RegisterSubsystems();
-    QString message;
-    if (!modSubMain::Start(&message) || !FillDemoWedding(10000, 1, &message)) {
-        std::fprintf(stderr, "vowren-bench-tables: %s\n", qPrintable(message));
-        return 1;
-    }
-    std::printf("%s\n", qPrintable(message));
-    if (!PrepareRoom(&message))
-        return 1;
-    std::printf("%s\n", qPrintable(message));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    gDB().CloseConnection();
-    return 0;
+    return RunOnDemoWedding(argc, argv, "vowren-bench-tables", PrepareRoom);
 }

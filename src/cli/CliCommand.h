@@ -37,6 +37,9 @@ CliCommand RestoreCommand();
 bool StartForChange(QTextStream& err);
 bool StartForReading(QTextStream& err);
 
+// Keys and numbers on the command line: whole numbers above 0, at least one of them.
+bool AreKeys(const QStringList& keys);
+
 // Every command the program knows, in the order --help lists them.
 const std::vector<CliCommand>& CliCommands();
 

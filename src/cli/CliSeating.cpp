@@ -10,15 +10,6 @@ namespace {
 const QString kSeatUsage = QStringLiteral("seat --table NUMBER ID...");
 const QString kUnseatUsage = QStringLiteral("unseat ID...");
 
-bool AreKeys(const QStringList& keys) {
-    for (const QString& key : keys) {
-        bool ok = false;
-        if (key.toLongLong(&ok) <= 0 || !ok)
-            return false;
-    }
-    return !keys.isEmpty();
-}
-
 // Runs the work, printing a refusal of the database on err; the exit status.
 int Guarded(const QString& command, QTextStream& err, const std::function<int()>& work) {
     try {
@@ -46,8 +37,8 @@ int RunSeat(const QStringList& args, QTextStream& out, QTextStream& err) {
         }
         const modSeating::SeatResult result = modSeating::SeatContacts(table.DINING_TABLE_ID, args.mid(2));
         if (!result.Seated) {
-            err << "vowren-cli: seat: " << QString(result.Message).replace(QStringLiteral("\n\n"), QStringLiteral(" "))
-                << '\n';
+            err << "vowren-cli: seat: "
+                << QString(result.Message).replace(QStringLiteral("\n\n"), QStringLiteral(" ")) << '\n';
             return kExitFailed;
         }
         out << "Seated at table #" << number << ": " << args.mid(2).join(QLatin1Char(' ')) << '\n';
@@ -86,18 +77,21 @@ int RunTables(const QStringList& args, QTextStream& out, QTextStream& err) {
 } // namespace
 
 CliCommand SeatCommand() {
-    return {QStringLiteral("seat"), kSeatUsage,
-            QStringLiteral("Seat the contacts of these keys at the table of that number: all of them, or none "
-                           "when they do not fit."),
-            RunSeat};
+    return {
+        QStringLiteral("seat"), kSeatUsage,
+        QStringLiteral("Seat the contacts of these keys at the table of that number: all of them, or none "
+                       "when they do not fit."),
+        RunSeat};
 }
 
 CliCommand UnseatCommand() {
     return {QStringLiteral("unseat"), kUnseatUsage,
-            QStringLiteral("Send the contacts of these keys back to the guests still to be seated."), RunUnseat};
+            QStringLiteral("Send the contacts of these keys back to the guests still to be seated."),
+            RunUnseat};
 }
 
 CliCommand TablesCommand() {
     return {QStringLiteral("tables"), QStringLiteral("tables"),
-            QStringLiteral("List every table with its seats taken: \"Table #n: t of s seats taken\"."), RunTables};
+            QStringLiteral("List every table with its seats taken: \"Table #n: t of s seats taken\"."),
+            RunTables};
 }

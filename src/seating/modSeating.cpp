@@ -45,7 +45,8 @@ Seats SeatsAtTables(const QString& where, const QVariantList& values = {}) {
 
 QString FullMessage(const clsDINING_TABLE& table) {
     return QStringLiteral("Table #") + table.DINING_TABLE_NB + QStringLiteral(" is full.") +
-           QStringLiteral("\n\n") + QStringLiteral("All ") + table.SEATS_NB + QStringLiteral(" seats are taken.");
+           QStringLiteral("\n\n") + QStringLiteral("All ") + table.SEATS_NB +
+           QStringLiteral(" seats are taken.");
 }
 
 QString OnlySeatsMessage(long freeSeats) {
@@ -56,7 +57,10 @@ QString OnlySeatsMessage(long freeSeats) {
 }
 
 QString StatusText(const clsDINING_TABLE& table, long taken) {
-    return QStringLiteral("Table #%1: %2 of %3 seats taken").arg(table.DINING_TABLE_NB).arg(taken).arg(table.SEATS_NB);
+    return QStringLiteral("Table #%1: %2 of %3 seats taken")
+        .arg(table.DINING_TABLE_NB)
+        .arg(taken)
+        .arg(table.SEATS_NB);
 }
 
 SeatResult SeatContacts(const QString& tableId, const QStringList& contactIds) {
@@ -130,8 +134,9 @@ void MoveTable(const QString& tableId, const QPoint& topLeft) {
 
 QHash<QString, long> SeatsTakenByTable() {
     QHash<QString, long> taken;
-    const clsRecordset rs = gDB().Execute(QStringLiteral(
-        "SELECT DINING_TABLE_ID, COUNT(*) FROM CONTACT WHERE DINING_TABLE_ID Is Not Null GROUP BY DINING_TABLE_ID"));
+    const clsRecordset rs =
+        gDB().Execute(QStringLiteral("SELECT DINING_TABLE_ID, COUNT(*) FROM CONTACT WHERE DINING_TABLE_ID Is "
+                                     "Not Null GROUP BY DINING_TABLE_ID"));
     for (int row = 0; row < rs.RowCount(); ++row)
         taken.insert(rs.Row(row).value(0), rs.Row(row).value(1).toLong());
     return taken;

@@ -46,12 +46,12 @@ void RestoreSeats(const Seats& seats);
 
 // Where a table lands, in twips, when it is dropped at a point or moved by the keys.
 struct TablePlacement {
-    int X = 0, Y = 0;             // the drop point, or the new top left for the keys
-    int GrabX = 0, GrabY = 0;     // where the table was held, from its top left
-    int Width = 0, Height = 0;    // the table
+    int X = 0, Y = 0;          // the drop point, or the new top left for the keys
+    int GrabX = 0, GrabY = 0;  // where the table was held, from its top left
+    int Width = 0, Height = 0; // the table
     int FloorWidth = 0, FloorHeight = 0;
     int ShapeType = 1;
-    bool Dropped = true;          // a drop corrects for the shape; a key step does not
+    bool Dropped = true; // a drop corrects for the shape; a key step does not
 };
 // The table's new top left: never off the floor, and for a drop moved by the shape's own margin
 // (shape 3 two pixels left, shape 4 two pixels up, never below 0).

@@ -3,8 +3,8 @@
 
 #include <QPoint>
 #include <QtTest>
-#include <sqlite3.h>
 #include <memory>
+#include <sqlite3.h>
 
 using modSeating::Seats;
 
@@ -27,8 +27,8 @@ class tst_modSeating : public QObject {
     static QStringList AddGuests(int count, int first = 3) {
         QStringList ids;
         for (int id = first; id < first + count; ++id) {
-            TestDatabase::Exec("INSERT INTO CONTACT (CONTACT_ID, LAST_NM, ATTENDING_FG) VALUES (?, 'Guest', 'Y')",
-                               {id});
+            TestDatabase::Exec(
+                "INSERT INTO CONTACT (CONTACT_ID, LAST_NM, ATTENDING_FG) VALUES (?, 'Guest', 'Y')", {id});
             ids << QString::number(id);
         }
         return ids;
@@ -37,7 +37,8 @@ class tst_modSeating : public QObject {
         return TestDatabase::Scalar("SELECT DINING_TABLE_ID FROM CONTACT WHERE CONTACT_ID = ?", {contactId});
     }
     static int SeatedAt(const QString& tableId) {
-        return TestDatabase::Scalar("SELECT COUNT(*) FROM CONTACT WHERE DINING_TABLE_ID = ?", {tableId}).toInt();
+        return TestDatabase::Scalar("SELECT COUNT(*) FROM CONTACT WHERE DINING_TABLE_ID = ?", {tableId})
+            .toInt();
     }
 
 private slots:
@@ -54,7 +55,8 @@ private slots:
         QTest::newRow("one free, two chosen") << 8 << 7 << 2 << "There is only 1 seat available.";
         QTest::newRow("three free, five chosen") << 8 << 5 << 5 << "There are only 3 seats available.";
         QTest::newRow("full") << 8 << 8 << 1 << "Table #4 is full.\n\nAll 8 seats are taken.";
-        QTest::newRow("over-full counts as full") << 2 << 3 << 1 << "Table #4 is full.\n\nAll 2 seats are taken.";
+        QTest::newRow("over-full counts as full")
+            << 2 << 3 << 1 << "Table #4 is full.\n\nAll 2 seats are taken.";
     }
     void seatAllOrNone() {
         QFETCH(int, seats);
@@ -144,15 +146,21 @@ private slots:
         QTest::addColumn<int>("shape");
         QTest::addColumn<bool>("dropped");
         QTest::addColumn<QPoint>("topLeft");
-        QTest::newRow("held by the middle of a cell") << 3000 << 4500 << 240 << 1 << true << QPoint(2760, 4260);
+        QTest::newRow("held by the middle of a cell")
+            << 3000 << 4500 << 240 << 1 << true << QPoint(2760, 4260);
         QTest::newRow("off the left and top") << 100 << 50 << 240 << 1 << true << QPoint(0, 0);
         QTest::newRow("off the right edge") << 14900 << 600 << 240 << 1 << true << QPoint(14040, 360);
         QTest::newRow("off the bottom edge") << 600 << 13000 << 240 << 2 << true << QPoint(360, 11040);
-        QTest::newRow("shape 3 dropped two pixels left") << 3000 << 3000 << 240 << 3 << true << QPoint(2730, 2760);
-        QTest::newRow("shape 4 dropped two pixels up") << 3000 << 3000 << 240 << 4 << true << QPoint(2760, 2730);
-        QTest::newRow("shape 3 at the left edge stays on it") << 10 << 3000 << 0 << 3 << true << QPoint(0, 3000);
-        QTest::newRow("shape 4 moved by a key keeps its top") << 3000 << 3000 << 0 << 4 << false << QPoint(3000, 3000);
-        QTest::newRow("a key step beyond the right edge") << 14055 << 0 << 0 << 1 << false << QPoint(14040, 0);
+        QTest::newRow("shape 3 dropped two pixels left")
+            << 3000 << 3000 << 240 << 3 << true << QPoint(2730, 2760);
+        QTest::newRow("shape 4 dropped two pixels up")
+            << 3000 << 3000 << 240 << 4 << true << QPoint(2760, 2730);
+        QTest::newRow("shape 3 at the left edge stays on it")
+            << 10 << 3000 << 0 << 3 << true << QPoint(0, 3000);
+        QTest::newRow("shape 4 moved by a key keeps its top")
+            << 3000 << 3000 << 0 << 4 << false << QPoint(3000, 3000);
+        QTest::newRow("a key step beyond the right edge")
+            << 14055 << 0 << 0 << 1 << false << QPoint(14040, 0);
     }
     void placeTable() {
         QFETCH(int, x);
@@ -176,8 +184,8 @@ private slots:
     void moveTableSavesTwips() {
         const QString table = AddTable("1", 8);
         modSeating::MoveTable(table, QPoint(1500, 45));
-        QCOMPARE(TestDatabase::Scalar("SELECT POS_X || ',' || POS_Y FROM DINING_TABLE WHERE DINING_TABLE_ID = ?",
-                                      {table}),
+        QCOMPARE(TestDatabase::Scalar(
+                     "SELECT POS_X || ',' || POS_Y FROM DINING_TABLE WHERE DINING_TABLE_ID = ?", {table}),
                  "1500,45");
     }
 

@@ -52,7 +52,9 @@ const QSizeF kMinimumFloor(1600, 1200);
 // The picture of the layout, scaled to fit; the PNG has twice as many pixels each way.
 const QSize kPictureSize(960, 720);
 
-QString Plural(long count, const QString& one, const QString& many) { return count == 1 ? one : many; }
+QString Plural(long count, const QString& one, const QString& many) {
+    return count == 1 ? one : many;
+}
 
 // The floor: its colour and, while "Show Grid" is ticked, the lines of the 32-pixel cells.
 class clsFloorScene : public QGraphicsScene {
@@ -189,8 +191,8 @@ private:
 class clsTableMoveCommand : public QUndoCommand {
 public:
     clsTableMoveCommand(frmMain_04_Attendees_Tables* page, QString tableId, QPoint before, QPoint after)
-        : QUndoCommand(QStringLiteral("Move table")), mPage(page), mTable(std::move(tableId)), mBefore(before),
-          mAfter(after) {}
+        : QUndoCommand(QStringLiteral("Move table")), mPage(page), mTable(std::move(tableId)),
+          mBefore(before), mAfter(after) {}
     void undo() override { mPage->ApplyTablePosition(mTable, mBefore); }
     void redo() override {
         if (!mFirst)
@@ -212,7 +214,8 @@ QIcon TableIcon(int shapeType, bool selected) {
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    PaintTableShape(painter, QRectF(0, 0, 32, 32), shapeType == RoundTable ? RoundTable : SquareTable, selected);
+    PaintTableShape(painter, QRectF(0, 0, 32, 32), shapeType == RoundTable ? RoundTable : SquareTable,
+                    selected);
     return QIcon(pixmap);
 }
 
@@ -222,15 +225,33 @@ QIcon NodeIcon(const QString& shapeType, bool selected) {
     return icons[shapeType == QLatin1String("1") ? 0 : 1][selected ? 1 : 0];
 }
 
+// A small padlock, shown while the tables can't be moved.
+QPixmap LockPicture() {
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor metal(0x8a, 0x3c, 0x63);
+    painter.setPen(QPen(metal, 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(4.5, 1.5, 7, 9), 3.5, 3.5);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(metal);
+    painter.drawRoundedRect(QRectF(2, 7, 12, 8), 1.5, 1.5);
+    return pixmap;
+}
+
 QString NodeText(const clsDINING_TABLE& table) {
-    return table.DINING_TABLE_NM.isEmpty() ? table.DINING_TABLE_NB
-                                           : table.DINING_TABLE_NB + QStringLiteral(" - ") + table.DINING_TABLE_NM;
+    return table.DINING_TABLE_NM.isEmpty()
+               ? table.DINING_TABLE_NB
+               : table.DINING_TABLE_NB + QStringLiteral(" - ") + table.DINING_TABLE_NM;
 }
 
 QIcon GuestIcon(const QString& contactId) {
     if (contactId == QLatin1String("1") || contactId == QLatin1String("2"))
         return modBrideGroomIcons::StoredIcon(contactId == QLatin1String("1"));
-    return mdiMain::ShellIcon(QStringLiteral("contacts"));
+    static const QIcon guest = mdiMain::ShellIcon(QStringLiteral("contacts"));
+    return guest;
 }
 
 } // namespace
@@ -263,8 +284,15 @@ frmMain_04_Attendees_Tables::frmMain_04_Attendees_Tables(QWidget* parent) : usrP
     picFloor->installEventFilter(this);
     picFloor->setViewportUpdateMode(QGraphicsView::SmartViewportUpdate);
     connect(picFloor, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
-        if (!picFloor->itemAt(at))
-            ShowFloorMenu(picFloor->viewport()->mapToGlobal(at));
+        const QPoint global = picFloor->viewport()->mapToGlobal(at);
+        QGraphicsItem* item = picFloor->itemAt(at);
+        auto* table = item ? qobject_cast<usrDiningTable*>(item->toGraphicsObject()) : nullptr;
+        if (!table) {
+            ShowFloorMenu(global);
+            return;
+        }
+        SelectTable(table->DINING_TABLE.DINING_TABLE_ID);
+        ShowTableMenu(global);
     });
 
     auto* split = new QSplitter(this);
@@ -375,7 +403,7 @@ void frmMain_04_Attendees_Tables::BuildLinks(QVBoxLayout* column) {
             auto* row = new QHBoxLayout;
             imgLock = new QLabel(this);
             imgLock->setObjectName(QStringLiteral("imgLock"));
-            imgLock->setText(QStringLiteral("\U0001F512"));
+            imgLock->setPixmap(LockPicture());
             row->addWidget(link);
             row->addWidget(imgLock);
             row->addStretch(1);
@@ -394,22 +422,27 @@ void frmMain_04_Attendees_Tables::BuildMenus() {
             menu->addAction(caption, this, run);
         return menu;
     };
-    mnuHiddenTableRoot = menuOf("mnuHiddenTableRoot", {{QStringLiteral("Edit table"), [this] { OpenTableEditor(mSelected); }},
-                                                       {QStringLiteral("Delete table"), [this] { DeleteSelectedTable(); }},
-                                                       {QStringLiteral("Empty table"), [this] { EmptySelectedTable(); }},
-                                                       {QStringLiteral("Swap tables"), [this] { OpenTableSwap(); }}});
+    mnuHiddenTableRoot =
+        menuOf("mnuHiddenTableRoot", {{QStringLiteral("Edit table"), [this] { OpenTableEditor(mSelected); }},
+                                      {QStringLiteral("Delete table"), [this] { DeleteSelectedTable(); }},
+                                      {QStringLiteral("Empty table"), [this] { EmptySelectedTable(); }},
+                                      {QStringLiteral("Swap tables"), [this] { OpenTableSwap(); }}});
     mnuHiddenTableLayoutRoot =
-        menuOf("mnuHiddenTableLayoutRoot", {{QStringLiteral("Add new table"), [this] { OpenTableEditor(QString()); }}});
+        menuOf("mnuHiddenTableLayoutRoot",
+               {{QStringLiteral("Add new table"), [this] { OpenTableEditor(QString()); }}});
     mnuHiddenTableLayoutRoot->addSeparator();
-    mnuHiddenTableLayoutRoot->addAction(QStringLiteral("Empty all tables"), this, [this] { EmptyAllTables(); });
-    mnuHiddenTableLayoutRoot->addAction(QStringLiteral("Delete all tables"), this, [this] { DeleteAllTables(); });
-    mnuHiddenSeatedAttendeeRoot = menuOf("mnuHiddenSeatedAttendeeRoot", {{QStringLiteral("Remove Attendee"), [this] {
-                                                                              QStringList ids;
-                                                                              for (QTreeWidgetItem* item : tvw->selectedItems())
-                                                                                  if (!item->data(0, kIsTableRole).toBool())
-                                                                                      ids << item->data(0, kIdRole).toString();
-                                                                              UnseatGuests(ids);
-                                                                          }}});
+    mnuHiddenTableLayoutRoot->addAction(QStringLiteral("Empty all tables"), this,
+                                        [this] { EmptyAllTables(); });
+    mnuHiddenTableLayoutRoot->addAction(QStringLiteral("Delete all tables"), this,
+                                        [this] { DeleteAllTables(); });
+    mnuHiddenSeatedAttendeeRoot =
+        menuOf("mnuHiddenSeatedAttendeeRoot", {{QStringLiteral("Remove Attendee"), [this] {
+                                                    QStringList ids;
+                                                    for (QTreeWidgetItem* item : tvw->selectedItems())
+                                                        if (!item->data(0, kIsTableRole).toBool())
+                                                            ids << item->data(0, kIdRole).toString();
+                                                    UnseatGuests(ids);
+                                                }}});
 }
 
 void frmMain_04_Attendees_Tables::showEvent(QShowEvent* event) {
@@ -420,7 +453,9 @@ void frmMain_04_Attendees_Tables::showEvent(QShowEvent* event) {
     emit Breadcrumb(QStringLiteral("Attendees>Table layout"));
 }
 
-void frmMain_04_Attendees_Tables::Leaving() { WriteLayoutPicture(); }
+void frmMain_04_Attendees_Tables::Leaving() {
+    WriteLayoutPicture();
+}
 
 // ---- Loading ------------------------------------------------------------------------------------------
 
@@ -449,7 +484,8 @@ void frmMain_04_Attendees_Tables::LoadTables() {
     for (const clsDINING_TABLE& table : tables) {
         usrDiningTable* item = AddTableItem(table);
         const QRectF box = item->sceneBoundingRect();
-        needed = needed.expandedTo(QSizeF(box.right() + modSeating::kCellPixels, box.bottom() + modSeating::kCellPixels));
+        needed = needed.expandedTo(
+            QSizeF(box.right() + modSeating::kCellPixels, box.bottom() + modSeating::kCellPixels));
         nodes << AddTableNode(table);
     }
     tvw->addTopLevelItems(nodes);
@@ -464,11 +500,12 @@ usrDiningTable* frmMain_04_Attendees_Tables::AddTableItem(const clsDINING_TABLE&
     item->SetMovable(!gApp().LockTableLayout());
     mFloor->addItem(item);
     mTables.insert(table.DINING_TABLE_ID, item);
-    connect(item, &usrDiningTable::Clicked, this, [this](usrDiningTable* t) { SelectTable(t->DINING_TABLE.DINING_TABLE_ID); });
-    connect(item, &usrDiningTable::ContextMenu, this, [this](usrDiningTable*, const QPoint& at) { ShowTableMenu(at); });
-    connect(item, &usrDiningTable::Dropped, this, [this](usrDiningTable* t, const QPointF& at, const QPointF& grab) {
-        DropTable(t->DINING_TABLE.DINING_TABLE_ID, at, grab);
-    });
+    connect(item, &usrDiningTable::Clicked, this,
+            [this](usrDiningTable* t) { SelectTable(t->DINING_TABLE.DINING_TABLE_ID); });
+    connect(item, &usrDiningTable::Dropped, this,
+            [this](usrDiningTable* t, const QPointF& at, const QPointF& grab) {
+                DropTable(t->DINING_TABLE.DINING_TABLE_ID, at, grab);
+            });
     connect(item, &usrDiningTable::GuestsDropped, this, &frmMain_04_Attendees_Tables::OnGuestsDroppedOnTable);
     RefreshTable(table.DINING_TABLE_ID);
     return item;
@@ -489,12 +526,14 @@ void frmMain_04_Attendees_Tables::LoadGuests() {
     lvw->clear();
     mUnseated.clear();
     mGuests.clear();
-    const QList<clsCONTACT> seated = RecordIO::Read([] { return clsCONTACT::OpenRecords(ContactFilter::Seated); });
+    const QList<clsCONTACT> seated =
+        RecordIO::Read([] { return clsCONTACT::OpenRecords(ContactFilter::Seated); });
     const QList<clsCONTACT> unseated =
         RecordIO::Read([] { return clsCONTACT::OpenRecords(ContactFilter::ToBeSeated); });
     QHash<QString, QList<QTreeWidgetItem*>> children;
     for (const clsCONTACT& c : seated) {
-        mGuests.insert(c.CONTACT_ID, {c.LastFirstMiddleSuffix(), c.LastFirstMiddle(), GuestIcon(c.CONTACT_ID)});
+        mGuests.insert(c.CONTACT_ID,
+                       {c.LastFirstMiddleSuffix(), c.LastFirstMiddle(), GuestIcon(c.CONTACT_ID)});
         if (!mTableNodes.contains(c.DINING_TABLE_ID))
             continue;
         auto* node = new QTreeWidgetItem;
@@ -508,7 +547,8 @@ void frmMain_04_Attendees_Tables::LoadGuests() {
         mTableNodes[it.key()]->addChildren(it.value());
     QList<QTreeWidgetItem*> rows;
     for (const clsCONTACT& c : unseated) {
-        mGuests.insert(c.CONTACT_ID, {c.LastFirstMiddleSuffix(), c.LastFirstMiddle(), GuestIcon(c.CONTACT_ID)});
+        mGuests.insert(c.CONTACT_ID,
+                       {c.LastFirstMiddleSuffix(), c.LastFirstMiddle(), GuestIcon(c.CONTACT_ID)});
         auto* row = new QTreeWidgetItem;
         row->setText(0, c.LastFirstMiddleSuffix());
         row->setIcon(0, mGuests[c.CONTACT_ID].Icon);
@@ -522,14 +562,17 @@ void frmMain_04_Attendees_Tables::LoadGuests() {
 // ---- The views, item by item ----------------------------------------------------------------------------
 
 QPointF frmMain_04_Attendees_Tables::PixelsOf(const clsDINING_TABLE& table) const {
-    return {table.POS_X.toDouble() / modSeating::kTwipsPerPixel, table.POS_Y.toDouble() / modSeating::kTwipsPerPixel};
+    return {table.POS_X.toDouble() / modSeating::kTwipsPerPixel,
+            table.POS_Y.toDouble() / modSeating::kTwipsPerPixel};
 }
 
 QPoint frmMain_04_Attendees_Tables::TwipsOf(const QPointF& pixels) const {
     return {qRound(pixels.x() * modSeating::kTwipsPerPixel), qRound(pixels.y() * modSeating::kTwipsPerPixel)};
 }
 
-QSizeF frmMain_04_Attendees_Tables::FloorSize() const { return mFloorSize; }
+QSizeF frmMain_04_Attendees_Tables::FloorSize() const {
+    return mFloorSize;
+}
 
 void frmMain_04_Attendees_Tables::ForgetSeat(const QString& contactId) {
     if (QTreeWidgetItem* row = mUnseated.take(contactId))
@@ -596,7 +639,8 @@ void frmMain_04_Attendees_Tables::RefreshTable(const QString& tableId) {
     const long free = item->DINING_TABLE.SEATS_NB.toLong() - mTaken.value(tableId);
     const clsColor green = clsColor::GreenHighlight();
     const bool reveal = chkReveal && chkReveal->isChecked();
-    item->setBackColor(reveal && free > 0 ? QColor(green.RedPart(), green.GreenPart(), green.BluePart()) : QColor());
+    item->setBackColor(reveal && free > 0 ? QColor(green.RedPart(), green.GreenPart(), green.BluePart())
+                                          : QColor());
     if (tableId == mSelected)
         lblTable->setText(StatusLine());
 }
@@ -615,7 +659,8 @@ void frmMain_04_Attendees_Tables::RefreshCounts() {
 
 void frmMain_04_Attendees_Tables::UpdateTableNodeIcon(const QString& tableId) {
     if (QTreeWidgetItem* node = mTableNodes.value(tableId))
-        node->setIcon(0, NodeIcon(mTables.value(tableId)->DINING_TABLE.DINING_TABLE_TYPE_ID, tableId == mSelected));
+        node->setIcon(
+            0, NodeIcon(mTables.value(tableId)->DINING_TABLE.DINING_TABLE_TYPE_ID, tableId == mSelected));
 }
 
 void frmMain_04_Attendees_Tables::SelectTable(const QString& tableId) {
@@ -721,7 +766,8 @@ bool frmMain_04_Attendees_Tables::ApplySeats(const modSeating::Seats& seats) {
     return true;
 }
 
-void frmMain_04_Attendees_Tables::OnGuestsDroppedOnTable(usrDiningTable* table, const QStringList& ids, bool) {
+void frmMain_04_Attendees_Tables::OnGuestsDroppedOnTable(usrDiningTable* table, const QStringList& ids,
+                                                         bool) {
     SeatGuests(table->DINING_TABLE.DINING_TABLE_ID, ids);
 }
 
@@ -734,31 +780,45 @@ void frmMain_04_Attendees_Tables::OnTreeClicked(QTreeWidgetItem* item) {
         SelectTable(TableOfNode(item));
 }
 
-bool frmMain_04_Attendees_Tables::DropTable(const QString& tableId, const QPointF& scenePos, const QPointF& grab) {
-    usrDiningTable* item = mTables.value(tableId);
-    if (!item || gApp().LockTableLayout())
-        return false;
-    const QRectF box = item->boundingRect();
+// The table, its size and the floor's, in twips, for working out where it lands.
+modSeating::TablePlacement frmMain_04_Attendees_Tables::PlacementOf(const usrDiningTable* item) const {
     modSeating::TablePlacement place;
-    const QPoint at = TwipsOf(scenePos), held = TwipsOf(grab), size = TwipsOf(box.bottomRight()),
-                 floor = TwipsOf(QPointF(mFloorSize.width(), mFloorSize.height()));
-    place.X = at.x();
-    place.Y = at.y();
-    place.GrabX = held.x();
-    place.GrabY = held.y();
+    const QPoint size = TwipsOf(item->boundingRect().bottomRight());
+    const QPoint floor = TwipsOf(QPointF(mFloorSize.width(), mFloorSize.height()));
     place.Width = size.x();
     place.Height = size.y();
     place.FloorWidth = floor.x();
     place.FloorHeight = floor.y();
     place.ShapeType = item->DINING_TABLE.DINING_TABLE_TYPE_ID.toInt();
+    return place;
+}
+
+// Saves the table where the placement puts it and keeps the move as a step.
+bool frmMain_04_Attendees_Tables::PlaceTable(usrDiningTable* item, const modSeating::TablePlacement& place) {
+    const QString id = item->DINING_TABLE.DINING_TABLE_ID;
     const QPoint before(item->DINING_TABLE.POS_X.toInt(), item->DINING_TABLE.POS_Y.toInt());
     const QPoint after = modSeating::PlaceTable(place);
-    if (!ApplyTablePosition(tableId, after)) {
+    if (!ApplyTablePosition(id, after)) {
         item->setPos(PixelsOf(item->DINING_TABLE));
         return false;
     }
-    mUndo->push(new clsTableMoveCommand(this, tableId, before, after));
+    if (after != before)
+        mUndo->push(new clsTableMoveCommand(this, id, before, after));
     return true;
+}
+
+bool frmMain_04_Attendees_Tables::DropTable(const QString& tableId, const QPointF& scenePos,
+                                            const QPointF& grab) {
+    usrDiningTable* item = mTables.value(tableId);
+    if (!item || gApp().LockTableLayout())
+        return false;
+    modSeating::TablePlacement place = PlacementOf(item);
+    const QPoint at = TwipsOf(scenePos), held = TwipsOf(grab);
+    place.X = at.x();
+    place.Y = at.y();
+    place.GrabX = held.x();
+    place.GrabY = held.y();
+    return PlaceTable(item, place);
 }
 
 bool frmMain_04_Attendees_Tables::StepSelectedTable(int dx, int dy) {
@@ -766,25 +826,12 @@ bool frmMain_04_Attendees_Tables::StepSelectedTable(int dx, int dy) {
     if (!item || gApp().LockTableLayout())
         return false;
     // A key step is a drop held at the top left, one pixel on, with no shape correction.
-    const QPointF from = PixelsOf(item->DINING_TABLE);
-    const QPointF to = from + QPointF(dx, dy);
-    const QRectF box = item->boundingRect();
-    modSeating::TablePlacement place;
-    const QPoint at = TwipsOf(to), size = TwipsOf(box.bottomRight()),
-                 floor = TwipsOf(QPointF(mFloorSize.width(), mFloorSize.height()));
+    modSeating::TablePlacement place = PlacementOf(item);
+    const QPoint at = TwipsOf(PixelsOf(item->DINING_TABLE) + QPointF(dx, dy));
     place.X = at.x();
     place.Y = at.y();
-    place.Width = size.x();
-    place.Height = size.y();
-    place.FloorWidth = floor.x();
-    place.FloorHeight = floor.y();
     place.Dropped = false;
-    const QPoint before(item->DINING_TABLE.POS_X.toInt(), item->DINING_TABLE.POS_Y.toInt());
-    const QPoint after = modSeating::PlaceTable(place);
-    if (after == before || !ApplyTablePosition(mSelected, after))
-        return false;
-    mUndo->push(new clsTableMoveCommand(this, mSelected, before, after));
-    return true;
+    return PlaceTable(item, place);
 }
 
 bool frmMain_04_Attendees_Tables::ApplyTablePosition(const QString& tableId, const QPoint& twips) {
@@ -893,12 +940,15 @@ bool frmMain_04_Attendees_Tables::WriteLayoutPicture() {
         painter.setRenderHint(QPainter::TextAntialiasing);
         mFloor->render(&painter, QRectF(picture.rect()), floor, Qt::KeepAspectRatio);
         painter.end();
-        written = picture.save(base + (scale == 1 ? QStringLiteral(".bmp") : QStringLiteral(".png"))) && written;
+        written =
+            picture.save(base + (scale == 1 ? QStringLiteral(".bmp") : QStringLiteral(".png"))) && written;
     }
     return written;
 }
 
-void frmMain_04_Attendees_Tables::ZoomToFit() { picFloor->fitInView(mFloor->sceneRect(), Qt::KeepAspectRatio); }
+void frmMain_04_Attendees_Tables::ZoomToFit() {
+    picFloor->fitInView(mFloor->sceneRect(), Qt::KeepAspectRatio);
+}
 
 void frmMain_04_Attendees_Tables::ShowTableMenu(const QPoint& screenPos) {
     const bool locked = gApp().LockTableLayout();
@@ -913,7 +963,8 @@ void frmMain_04_Attendees_Tables::ShowFloorMenu(const QPoint& screenPos) {
     mnuHiddenTableLayoutRoot->popup(screenPos);
 }
 
-// ---- The table dialogs --------------------------------------------------------------------------------------
+// ---- The table dialogs
+// --------------------------------------------------------------------------------------
 
 void frmMain_04_Attendees_Tables::mfrmTable_Added(const QString& key) {
     clsDINING_TABLE table;
@@ -922,7 +973,8 @@ void frmMain_04_Attendees_Tables::mfrmTable_Added(const QString& key) {
     AddTableItem(table);
     tvw->addTopLevelItem(AddTableNode(table));
     const QRectF box = mTables[key]->sceneBoundingRect();
-    mFloorSize = mFloorSize.expandedTo(QSizeF(box.right() + modSeating::kCellPixels, box.bottom() + modSeating::kCellPixels));
+    mFloorSize = mFloorSize.expandedTo(
+        QSizeF(box.right() + modSeating::kCellPixels, box.bottom() + modSeating::kCellPixels));
     mFloor->setSceneRect(QRectF(QPointF(0, 0), mFloorSize));
     RefreshCounts();
     UpdateLinks();
@@ -942,7 +994,9 @@ void frmMain_04_Attendees_Tables::mfrmTable_Updated(const QString& key) {
     RefreshTable(key);
 }
 
-void frmMain_04_Attendees_Tables::mfrmTableSwap_Swap() { Reload(); }
+void frmMain_04_Attendees_Tables::mfrmTableSwap_Swap() {
+    Reload();
+}
 
 void frmMain_04_Attendees_Tables::OpenTableEditor(const QString& key) {
     if (gApp().LockTableLayout() || (!key.isEmpty() && !mTables.contains(key)))

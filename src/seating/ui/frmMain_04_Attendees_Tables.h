@@ -127,6 +127,8 @@ private:
     void ZoomToFit();
     QString TableOfNode(QTreeWidgetItem* item) const;
     QPoint TwipsOf(const QPointF& pixels) const;
+    modSeating::TablePlacement PlacementOf(const usrDiningTable* item) const;
+    bool PlaceTable(usrDiningTable* item, const modSeating::TablePlacement& place);
     QPointF PixelsOf(const clsDINING_TABLE& table) const;
     bool Ask(const QString& question) const;
 
@@ -152,7 +154,7 @@ private:
     QHash<QString, QTreeWidgetItem*> mSeated;     // contact id -> its node under a table
     QHash<QString, QTreeWidgetItem*> mUnseated;   // contact id -> its row in the list
     QHash<QString, Guest> mGuests;
-    QHash<QString, long> mTaken;                  // table id -> seats taken
+    QHash<QString, long> mTaken; // table id -> seats taken
     QString mSelected;
     QSizeF mFloorSize;
     bool mShown = false;

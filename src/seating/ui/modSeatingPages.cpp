@@ -1,15 +1,16 @@
 #include "seating/ui/modSeatingPages.h"
 
-#include "seating/ui/frmMain_04_Attendees_Tables.h"
 #include "core/clsApp.h"
+#include "seating/ui/frmMain_04_Attendees_Tables.h"
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
 
 void RegisterSeatingPages() {
     // Each seating screen adds its line here as it joins the program; until then the attendees page
     // and Home show its links disabled ("Not available yet").
-    modPages::RegisterSubPage(modPages::TablesSubPage(),
-                              [](QWidget* parent) -> usrPage* { return new frmMain_04_Attendees_Tables(parent); });
+    modPages::RegisterSubPage(modPages::TablesSubPage(), [](QWidget* parent) -> usrPage* {
+        return new frmMain_04_Attendees_Tables(parent);
+    });
     // The floor of the demo wedding with the status of every table shown and the first one selected.
     modScreenshots::Register(modPages::TablesSubPage(), []() -> QWidget* {
         gApp().SetRevealTableStatus(1);

@@ -4,7 +4,6 @@
 
 #include <QCursor>
 #include <QGraphicsScene>
-#include <QGraphicsSceneContextMenuEvent>
 #include <QGraphicsSceneDragDropEvent>
 #include <QGraphicsSceneMouseEvent>
 #include <QMimeData>
@@ -24,7 +23,8 @@ namespace GuestDrag {
 
 QMimeData* Make(const QStringList& contactIds, bool fromTable) {
     auto* data = new QMimeData;
-    const QString text = (fromTable ? QStringLiteral("T:") : QStringLiteral("L:")) + contactIds.join(QLatin1Char(','));
+    const QString text =
+        (fromTable ? QStringLiteral("T:") : QStringLiteral("L:")) + contactIds.join(QLatin1Char(','));
     data->setData(kGuestsMime, text.toUtf8());
     return data;
 }
@@ -53,9 +53,13 @@ void usrDiningTable::setBackColor(const QColor& color) {
     update();
 }
 
-void usrDiningTable::Highlight() { SetLook(true); }
+void usrDiningTable::Highlight() {
+    SetLook(true);
+}
 
-void usrDiningTable::LoseFocus() { SetLook(false); }
+void usrDiningTable::LoseFocus() {
+    SetLook(false);
+}
 
 void usrDiningTable::SetLook(bool highlighted) {
     if (highlighted == mHighlighted)
@@ -73,7 +77,9 @@ void usrDiningTable::SetDINING_TABLE(const clsDINING_TABLE& table) {
     LoseFocus();
 }
 
-QSizeF usrDiningTable::ShapeSize() const { return TableShapeSize(DINING_TABLE.DINING_TABLE_TYPE_ID.toInt()); }
+QSizeF usrDiningTable::ShapeSize() const {
+    return TableShapeSize(DINING_TABLE.DINING_TABLE_TYPE_ID.toInt());
+}
 
 QRectF usrDiningTable::boundingRect() const {
     const QSizeF shape = ShapeSize();
@@ -127,11 +133,6 @@ void usrDiningTable::mouseReleaseEvent(QGraphicsSceneMouseEvent* event) {
     if (mDragging && mMovable)
         emit Dropped(this, event->scenePos(), mGrab);
     mDragging = false;
-}
-
-void usrDiningTable::contextMenuEvent(QGraphicsSceneContextMenuEvent* event) {
-    emit Clicked(this);
-    emit ContextMenu(this, event->screenPos());
 }
 
 void usrDiningTable::dragEnterEvent(QGraphicsSceneDragDropEvent* event) {

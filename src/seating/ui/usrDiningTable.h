@@ -45,7 +45,6 @@ public:
 
 signals:
     void Clicked(usrDiningTable* table);
-    void ContextMenu(usrDiningTable* table, const QPoint& screenPos);
     // The mouse let go of the table after moving it: where, on the floor, and where it was held.
     void Dropped(usrDiningTable* table, const QPointF& scenePos, const QPointF& grab);
     void GuestsDropped(usrDiningTable* table, const QStringList& contactIds, bool fromTable);
@@ -54,7 +53,6 @@ protected:
     void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent* event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
-    void contextMenuEvent(QGraphicsSceneContextMenuEvent* event) override;
     void dragEnterEvent(QGraphicsSceneDragDropEvent* event) override;
     void dropEvent(QGraphicsSceneDragDropEvent* event) override;
 

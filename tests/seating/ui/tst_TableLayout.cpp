@@ -7,11 +7,11 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QLabel>
 #include <QDir>
 #include <QFile>
 #include <QGraphicsView>
 #include <QImage>
+#include <QLabel>
 #include <QMimeData>
 #include <QTreeWidget>
 #include <QUndoStack>
@@ -36,8 +36,9 @@ QString AddTable(const QString& number, int seats, int x = 0, int y = 0, const Q
 QStringList AddGuests(int count, int first = 10) {
     QStringList ids;
     for (int id = first; id < first + count; ++id) {
-        TestDatabase::Exec("INSERT INTO CONTACT (CONTACT_ID, FIRST_NM, LAST_NM, ATTENDING_FG) VALUES (?, 'Ann', ?, 'Y')",
-                           {id, QStringLiteral("Guest%1").arg(id, 4, 10, QLatin1Char('0'))});
+        TestDatabase::Exec(
+            "INSERT INTO CONTACT (CONTACT_ID, FIRST_NM, LAST_NM, ATTENDING_FG) VALUES (?, 'Ann', ?, 'Y')",
+            {id, QStringLiteral("Guest%1").arg(id, 4, 10, QLatin1Char('0'))});
         ids << QString::number(id);
     }
     return ids;
@@ -63,16 +64,17 @@ QStringList SeatedInDb(const QString& table) {
 
 QStringList UnseatedInDb() {
     QStringList ids;
-    const clsRecordset rs = gDB().Execute(
-        "SELECT CONTACT_ID FROM CONTACT WHERE ATTENDING_FG = 'Y' AND DINING_TABLE_ID Is Null "
-        "ORDER BY LAST_NM COLLATE NOCASE, FIRST_NM COLLATE NOCASE");
+    const clsRecordset rs =
+        gDB().Execute("SELECT CONTACT_ID FROM CONTACT WHERE ATTENDING_FG = 'Y' AND DINING_TABLE_ID Is Null "
+                      "ORDER BY LAST_NM COLLATE NOCASE, FIRST_NM COLLATE NOCASE");
     for (int row = 0; row < rs.RowCount(); ++row)
         ids << rs.Row(row).value(0);
     return ids;
 }
 
 QString PositionInDb(const QString& table) {
-    return TestDatabase::Scalar("SELECT POS_X || ',' || POS_Y FROM DINING_TABLE WHERE DINING_TABLE_ID = ?", {table});
+    return TestDatabase::Scalar("SELECT POS_X || ',' || POS_Y FROM DINING_TABLE WHERE DINING_TABLE_ID = ?",
+                                {table});
 }
 
 } // namespace
@@ -135,7 +137,8 @@ private slots:
             return;
         }
         QCOMPARE(page.SelectedTableId(), table);
-        QCOMPARE(page.StatusLine(), QStringLiteral("Table #3: %1 of 8 seats taken").arg(alreadySeated + selected));
+        QCOMPARE(page.StatusLine(),
+                 QStringLiteral("Table #3: %1 of 8 seats taken").arg(alreadySeated + selected));
         page.UndoStack()->undo();
         QCOMPARE(SeatedInDb(table).size(), alreadySeated);
         AgreeWithDatabase(page, {table});
@@ -296,9 +299,12 @@ private slots:
         QTest::addColumn<int>("command");
         QTest::addColumn<QString>("question");
         QTest::addColumn<QString>("tablesLeft");
-        QTest::newRow("empty one") << 0 << "Empty table# 1 of all its seated attendees?" << "2";
-        QTest::newRow("empty all") << 1 << "Empty all tables?" << "2";
-        QTest::newRow("delete all") << 2 << "Delete All Tables?" << "0";
+        QTest::newRow("empty one") << 0 << "Empty table# 1 of all its seated attendees?"
+                                   << "2";
+        QTest::newRow("empty all") << 1 << "Empty all tables?"
+                                   << "2";
+        QTest::newRow("delete all") << 2 << "Delete All Tables?"
+                                    << "0";
     }
     void emptyAndDeleteAll() {
         QFETCH(int, command);
