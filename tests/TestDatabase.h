@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <functional>
 
 // A test's own data root with a fresh database in its current shape (tables and seed rows), opened
 // through the global gateway. The shape is built once per test program into a template file, and each
@@ -47,3 +48,13 @@ private:
         return file;
     }
 };
+
+// The message of the clsDbError the work throws; "" when it runs through.
+inline QString ErrorOf(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const clsDbError& e) {
+        return e.Message();
+    }
+    return {};
+}

@@ -19,28 +19,25 @@ const RecordTable<clsDINING_TABLE>& clsDINING_TABLE::Table() {
     return table;
 }
 
-bool clsDINING_TABLE::Delete(const QString& key) {
-    try {
-        clsTransaction tx(gDB());
-        clsCONTACT::Update_DINING_TABLE_ID_TO_NULL(key);
-        if (gDB().TableExists(QStringLiteral("TENTCARD")))
-            gDB().Execute(QStringLiteral("DELETE FROM TENTCARD WHERE DINING_TABLE_ID = ?"), {key});
-        gDB().Execute(QStringLiteral("DELETE FROM DINING_TABLE WHERE DINING_TABLE_ID = ?"), {key});
-        tx.Commit();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
+void clsDINING_TABLE::Delete(const QString& key) {
+    clsTransaction tx(gDB());
+    clsCONTACT::Update_DINING_TABLE_ID_TO_NULL(key);
+    if (gDB().TableExists(QStringLiteral("TENTCARD")))
+        gDB().Execute(QStringLiteral("DELETE FROM TENTCARD WHERE DINING_TABLE_ID = ?"), {key});
+    gDB().Execute(QStringLiteral("DELETE FROM DINING_TABLE WHERE DINING_TABLE_ID = ?"), {key});
+    tx.Commit();
 }
 
 long clsDINING_TABLE::GetTotal(int kind) const {
     if (kind == TotalTables)
-        return RecordIO::Count(QStringLiteral("SELECT COUNT(*) AS CNT FROM DINING_TABLE"));
+        return gDB().Execute(QStringLiteral("SELECT COUNT(*) AS CNT FROM DINING_TABLE")).Scalar().toLong();
     if (kind != SeatsFree && kind != SeatsTaken)
         return 0;
-    const long taken = RecordIO::Count(
-        QStringLiteral("SELECT COUNT(*) AS CNT FROM CONTACT WHERE DINING_TABLE_ID = ?"), {DINING_TABLE_ID});
+    const long taken = gDB()
+                           .Execute(QStringLiteral("SELECT COUNT(*) AS CNT FROM CONTACT WHERE DINING_TABLE_ID = ?"),
+                                    {DINING_TABLE_ID})
+                           .Scalar()
+                           .toLong();
     return kind == SeatsTaken ? taken : SEATS_NB.toLong() - taken;
 }
 
@@ -55,26 +52,26 @@ QString NextNumber() {
 } // namespace
 
 QString clsDINING_TABLE::NEXT_NB() {
-    try {
-        return NextNumber();
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return {};
-    }
+    return RecordIO::NextID(QStringLiteral("DINING_TABLE"), QStringLiteral("DINING_TABLE_NB"));
 }
 
 bool clsDINING_TABLE::OpenRecord(const QString& key, const QString& number) {
-    if (!key.isEmpty())
-        return RecordIO::OpenRecord(*this, Table(), key);
-    if (number.isEmpty())
+    const bool byKey = !key.isEmpty();
+    if (!byKey && number.isEmpty())
         return false;
-    return RecordIO::OpenFirst(
-        *this, Table(), QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_NB = ?"), {number});
+    const QList<clsDINING_TABLE> found = RecordIO::ReadAll(
+        Table(),
+        byKey ? QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_ID = ?")
+              : QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_NB = ?"),
+        {byKey ? key : number});
+    if (found.isEmpty())
+        return false;
+    *this = found.first();
+    return true;
 }
 
 QList<clsDINING_TABLE> clsDINING_TABLE::OpenRecords() {
-    return RecordIO::OpenRecords(Table(),
-                                 QStringLiteral("SELECT * FROM DINING_TABLE ORDER BY DINING_TABLE_NB"));
+    return RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM DINING_TABLE ORDER BY DINING_TABLE_NB"));
 }
 
 bool clsDINING_TABLE::Patch_Field_Exists(const QString& column) {
@@ -99,8 +96,8 @@ bool clsDINING_TABLE::Patch_6_Apply() {
     return true;
 }
 
-bool clsDINING_TABLE::Save(bool insert) {
-    return RecordIO::Save(*this, Table(), insert);
+void clsDINING_TABLE::Save(bool insert) {
+    RecordIO::SaveOrThrow(*this, Table(), insert);
 }
 
 namespace {

@@ -26,13 +26,14 @@ public:
     static const RecordTable<clsDINING_TABLE>& Table();
 
     // The guests seated at the table go back to the unseated list, its tent cards (which only describe
-    // that seating) go, then the table itself; all or nothing.
-    bool Delete(const QString& key);
+    // that seating) go, then the table itself; all or nothing. Like every operation here, throws
+    // clsDbError on a failure.
+    void Delete(const QString& key);
     // Reads DINING_TABLE_ID and SEATS_NB of this object for the per-table kinds.
     long GetTotal(int kind) const;
     // The highest table number + 1 ("1" for an empty room); gaps left by deletes stay.
     static QString NEXT_NB();
-    // By key, else by table number; with both empty nothing happens.
+    // By key, else by table number; with both empty nothing happens. False when there is no such table.
     bool OpenRecord(const QString& key, const QString& number = QString());
     // Every table in number order.
     static QList<clsDINING_TABLE> OpenRecords();
@@ -40,7 +41,7 @@ public:
     static bool Patch_Field_Exists(const QString& column);
     // Adds the shape column to an old table; every existing table becomes shape 1.
     static bool Patch_6_Apply();
-    bool Save(bool insert);
+    void Save(bool insert);
 
     // ---- Rules of the table dialogs; each throws clsDbError with the words the user reads ----
     // New tables stand in rows of this many, this many pixels apart, from the top left of the floor.

@@ -40,48 +40,43 @@ bool clsFLIGHT::CreateTable() {
     return modSchema::CreateTableIfMissing(gDB(), QStringLiteral("FLIGHT"));
 }
 
-bool clsFLIGHT::Delete(const QString& key) {
-    try {
-        clsTransaction tx(gDB());
-        clsCONTACT::Update_FLIGHT_ID_TO_NULL(key);
-        gDB().Execute(QStringLiteral("DELETE FROM FLIGHT WHERE FLIGHT_ID = ?"), {key});
-        tx.Commit();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
+void clsFLIGHT::Delete(const QString& key) {
+    clsTransaction tx(gDB());
+    clsCONTACT::Update_FLIGHT_ID_TO_NULL(key);
+    gDB().Execute(QStringLiteral("DELETE FROM FLIGHT WHERE FLIGHT_ID = ?"), {key});
+    tx.Commit();
 }
 
 QString clsFLIGHT::NEXT_NB() {
-    try {
-        const QString next = gDB().Execute(QStringLiteral("SELECT Max(FLIGHT_NB) + 1 FROM FLIGHT")).Scalar();
-        return next.isEmpty() ? QStringLiteral("1") : next;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return {};
-    }
+    return RecordIO::NextID(QStringLiteral("FLIGHT"), QStringLiteral("FLIGHT_NB"));
 }
 
 bool clsFLIGHT::OpenRecord(const QString& key) {
-    return RecordIO::OpenRecord(*this, Table(), key);
+    const QList<clsFLIGHT> found =
+        RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM FLIGHT WHERE FLIGHT_ID = ?"), {key});
+    if (found.isEmpty())
+        return false;
+    *this = found.first();
+    return true;
 }
 
 QList<clsFLIGHT> clsFLIGHT::OpenRecords() {
-    return RecordIO::OpenRecords(Table(), QStringLiteral("SELECT * FROM FLIGHT ORDER BY FLIGHT_NB"));
+    return RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM FLIGHT ORDER BY FLIGHT_NB"));
 }
 
-bool clsFLIGHT::Save(bool insert) {
-    return RecordIO::Save(*this, Table(), insert);
+void clsFLIGHT::Save(bool insert) {
+    RecordIO::SaveOrThrow(*this, Table(), insert);
 }
 
 long clsFLIGHT::Total() {
-    return RecordIO::Count(QStringLiteral("SELECT COUNT(*) FROM FLIGHT"));
+    return gDB().Execute(QStringLiteral("SELECT COUNT(*) FROM FLIGHT")).Scalar().toLong();
 }
 
 long clsFLIGHT::TotalPassengers(const QString& flightID) {
-    return RecordIO::Count(
-        QStringLiteral("SELECT COUNT(*) FROM FLIGHT INNER JOIN CONTACT ON FLIGHT.FLIGHT_ID = "
-                       "CONTACT.FLIGHT_ID WHERE FLIGHT.FLIGHT_ID = ?"),
-        {flightID});
+    return gDB()
+        .Execute(QStringLiteral("SELECT COUNT(*) FROM FLIGHT INNER JOIN CONTACT ON FLIGHT.FLIGHT_ID = "
+                                "CONTACT.FLIGHT_ID WHERE FLIGHT.FLIGHT_ID = ?"),
+                 {flightID})
+        .Scalar()
+        .toLong();
 }

@@ -26,13 +26,13 @@ public:
     QString ARRIVES_DT_DateTimeFormat() const;
     static bool CreateTable();
     // The passengers go back to the list of guests without a flight, then the flight goes; all or nothing.
-    bool Delete(const QString& key);
+    void Delete(const QString& key);
     // The highest flight number + 1, or "1".
     static QString NEXT_NB();
     bool OpenRecord(const QString& key);
     // Every flight in number order.
     static QList<clsFLIGHT> OpenRecords();
-    bool Save(bool insert);
+    void Save(bool insert);
     static long Total();
     static long TotalPassengers(const QString& flightID);
 };

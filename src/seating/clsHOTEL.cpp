@@ -54,8 +54,8 @@ bool clsHOTEL::Patch_7_Apply() {
     return true;
 }
 
-bool clsHOTEL::Delete(const QString& key) {
-    return RecordIO::Delete(QStringLiteral("HOTEL"), QStringLiteral("HOTEL_ID"), key);
+void clsHOTEL::Delete(const QString& key) {
+    gDB().Execute(QStringLiteral("DELETE FROM HOTEL WHERE HOTEL_ID = ?"), {key});
 }
 
 QString clsHOTEL::MapURL(int countryIndex) const {
@@ -63,33 +63,35 @@ QString clsHOTEL::MapURL(int countryIndex) const {
 }
 
 QString clsHOTEL::NEXT_NB() {
-    try {
-        const QString next = gDB().Execute(QStringLiteral("SELECT Max(HOTEL_NB) + 1 FROM HOTEL")).Scalar();
-        return next.isEmpty() ? QStringLiteral("1") : next;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return {};
-    }
+    return RecordIO::NextID(QStringLiteral("HOTEL"), QStringLiteral("HOTEL_NB"));
 }
 
 bool clsHOTEL::OpenRecord(const QString& key) {
-    return RecordIO::OpenRecord(*this, Table(), key);
+    const QList<clsHOTEL> found =
+        RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM HOTEL WHERE HOTEL_ID = ?"), {key});
+    if (found.isEmpty())
+        return false;
+    *this = found.first();
+    return true;
 }
 
 QList<clsHOTEL> clsHOTEL::OpenRecords() {
-    return RecordIO::OpenRecords(Table(), QStringLiteral("SELECT * FROM HOTEL ORDER BY HOTEL_NB"));
+    return RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM HOTEL ORDER BY HOTEL_NB"));
 }
 
-bool clsHOTEL::Save(bool insert) {
-    return RecordIO::Save(*this, Table(), insert);
+void clsHOTEL::Save(bool insert) {
+    RecordIO::SaveOrThrow(*this, Table(), insert);
 }
 
 long clsHOTEL::Total() {
-    return RecordIO::Count(QStringLiteral("SELECT COUNT(*) FROM HOTEL"));
+    return gDB().Execute(QStringLiteral("SELECT COUNT(*) FROM HOTEL")).Scalar().toLong();
 }
 
 long clsHOTEL::TotalOccupants(const QString& hotelID) {
-    return RecordIO::Count(QStringLiteral("SELECT COUNT(*) FROM HOTEL INNER JOIN CONTACT ON HOTEL.HOTEL_ID = "
-                                          "CONTACT.HOTEL_ID WHERE HOTEL.HOTEL_ID = ?"),
-                           {hotelID});
+    return gDB()
+        .Execute(QStringLiteral("SELECT COUNT(*) FROM HOTEL INNER JOIN CONTACT ON HOTEL.HOTEL_ID = "
+                                "CONTACT.HOTEL_ID WHERE HOTEL.HOTEL_ID = ?"),
+                 {hotelID})
+        .Scalar()
+        .toLong();
 }

@@ -30,7 +30,7 @@ public:
     // Makes the address and the contact name of an old table optional.
     static bool Patch_7_Apply();
     // Deletes the hotel alone: a hotel that still houses guests is refused by the database.
-    bool Delete(const QString& key);
+    void Delete(const QString& key);
     // The map link of the address for a country index.
     QString MapURL(int countryIndex) const;
     // The highest hotel number + 1, or "1".
@@ -38,7 +38,7 @@ public:
     bool OpenRecord(const QString& key);
     // Every hotel in number order.
     static QList<clsHOTEL> OpenRecords();
-    bool Save(bool insert);
+    void Save(bool insert);
     static long Total();
     // Guests housed in that hotel.
     static long TotalOccupants(const QString& hotelID);

@@ -150,12 +150,12 @@ bool clsTENTCARD::CreateTable() {
     return true;
 }
 
-bool clsTENTCARD::Delete(const QString& tentcardId) {
-    return RecordIO::Delete(QStringLiteral("TENTCARD"), QStringLiteral("TENTCARD_ID"), tentcardId);
+void clsTENTCARD::Delete(const QString& tentcardId) {
+    gDB().Execute(QStringLiteral("DELETE FROM TENTCARD WHERE TENTCARD_ID = ?"), {tentcardId});
 }
 
-bool clsTENTCARD::DeleteAll() {
-    return RecordIO::Run(QStringLiteral("DELETE FROM TENTCARD"));
+void clsTENTCARD::DeleteAll() {
+    gDB().Execute(QStringLiteral("DELETE FROM TENTCARD"));
 }
 
 bool clsTENTCARD::EtiquetteIsFormal() {
@@ -163,12 +163,7 @@ bool clsTENTCARD::EtiquetteIsFormal() {
 }
 
 QString clsTENTCARD::GetTENTCARD_TX(const QList<clsCONTACT>& group) {
-    try {
-        return GetTENTCARD_TX(group, EtiquetteIsFormal());
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return GetTENTCARD_TX(group, false);
-    }
+    return GetTENTCARD_TX(group, EtiquetteIsFormal());
 }
 
 QString clsTENTCARD::GetTENTCARD_TX(const QList<clsCONTACT>& group, bool formal) {
@@ -185,15 +180,18 @@ QString clsTENTCARD::GetTENTCARD_TX(const QList<clsCONTACT>& group, bool formal)
 bool clsTENTCARD::OpenRecord(const QString& tentcardId) {
     if (tentcardId.isEmpty())
         return false;
-    return RecordIO::OpenFirst(*this, ReadTable(),
-                               SelectSQL() + QStringLiteral("WHERE TENTCARD.TENTCARD_ID = ?"), {tentcardId});
+    const QList<clsTENTCARD> found =
+        RecordIO::ReadAll(ReadTable(), SelectSQL() + QStringLiteral("WHERE TENTCARD.TENTCARD_ID = ?"), {tentcardId});
+    if (found.isEmpty())
+        return false;
+    *this = found.first();
+    return true;
 }
 
 QList<clsTENTCARD> clsTENTCARD::OpenRecords() {
-    return RecordIO::OpenRecords(ReadTable(),
-                                 SelectSQL() + QStringLiteral("ORDER BY DINING_TABLE.DINING_TABLE_NB, "
-                                                              "TENTCARD.TENTCARD_SORT_TX COLLATE NOCASE, "
-                                                              "TENTCARD.TENTCARD_ID"));
+    return RecordIO::ReadAll(ReadTable(), SelectSQL() + QStringLiteral("ORDER BY DINING_TABLE.DINING_TABLE_NB, "
+                                                                       "TENTCARD.TENTCARD_SORT_TX COLLATE NOCASE, "
+                                                                       "TENTCARD.TENTCARD_ID"));
 }
 
 void clsTENTCARD::RefreshTentcards() {
@@ -240,14 +238,16 @@ void clsTENTCARD::RefreshTentcards() {
     tx.Commit();
 }
 
-bool clsTENTCARD::Save(bool Add) {
+void clsTENTCARD::Save(bool Add) {
     const clsTENTCARD before = *this;
-    if (RecordIO::Save(*this, Table(), Add))
-        return true;
-    *this = before;
-    return false;
+    try {
+        RecordIO::SaveOrThrow(*this, Table(), Add);
+    } catch (...) {
+        *this = before; // an insert that failed keeps no key it never got
+        throw;
+    }
 }
 
 long clsTENTCARD::Total() {
-    return RecordIO::Count(QStringLiteral("SELECT COUNT(*) FROM TENTCARD"));
+    return gDB().Execute(QStringLiteral("SELECT COUNT(*) FROM TENTCARD")).Scalar().toLong();
 }

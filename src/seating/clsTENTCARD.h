@@ -23,8 +23,9 @@ public:
 
     // Creates the table when it is missing and fills it from the seating.
     static bool CreateTable();
-    static bool Delete(const QString& tentcardId);
-    static bool DeleteAll();
+    // Like every operation here, these throw clsDbError on a failure.
+    static void Delete(const QString& tentcardId);
+    static void DeleteAll();
     // The wording for the people of one card, in the etiquette chosen for tent cards.
     static QString GetTENTCARD_TX(const QList<clsCONTACT>& group);
     static QString GetTENTCARD_TX(const QList<clsCONTACT>& group, bool formal);
@@ -33,7 +34,7 @@ public:
     static QList<clsTENTCARD> OpenRecords();
     // Rebuilds every card from who sits where: all or nothing. Throws on a failure.
     static void RefreshTentcards();
-    bool Save(bool Add);
+    void Save(bool Add);
     static long Total();
 
     // The etiquette of tent cards kept with the data (formal or personal).

@@ -159,18 +159,6 @@ private slots:
         QFETCH(bool, married);
         QCOMPARE(clsApp::Married(wedding, now), married);
     }
-
-    void coreInformationNeedsAllFive() {
-        QVERIFY(clsApp::CoreInformationGathered("Ann", "Lee", "Bo", "Kim", "05-Jun-2027"));
-        QVERIFY(!clsApp::CoreInformationGathered("Ann", "", "Bo", "Kim", "05-Jun-2027"));
-        QVERIFY(!clsApp::CoreInformationGathered("Ann", "Lee", "Bo", "Kim", ""));
-    }
-
-    void screenSize() {
-        QVERIFY(clsApp::Screen_800_x_600(800, 600));
-        QVERIFY(!clsApp::Screen_800_x_600(1024, 600));
-        QVERIFY(!clsApp::Screen_800_x_600(800, 601));
-    }
 };
 
 QTEST_GUILESS_MAIN(tst_clsApp)

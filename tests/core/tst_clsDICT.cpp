@@ -254,47 +254,6 @@ private slots:
         QVERIFY(!row.Save(true));
         QCOMPARE(Messages().size(), 3);
     }
-
-    void createTableMakesAndSeedsAMissingTable_data() {
-        QTest::addColumn<QString>("table");
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<QString>("firstById");
-        QTest::newRow("songlist") << "SONGLIST_DICT" << 8 << 2 << "Ceremony";
-        QTest::newRow("title") << "TITLE_DICT" << 4 << 12 << "Dr.";
-    }
-    void createTableMakesAndSeedsAMissingTable() {
-        QFETCH(QString, table);
-        QFETCH(int, kind);
-        QFETCH(int, rows);
-        QFETCH(QString, firstById);
-        auto create = [&] {
-            if (table == QLatin1String("PAID_BY_DICT"))
-                return clsDICT::CreateTable_PAID_BY_DICT();
-            if (table == QLatin1String("SONGLIST_DICT"))
-                return clsDICT::CreateTable_SONGLIST_DICT();
-            if (table == QLatin1String("TITLE_DICT"))
-                return clsDICT::CreateTable_TITLE_DICT();
-            return clsDICT::CreateTable_VENDOR_CATEGORY_DICT();
-        };
-        // A current database: nothing changes, even a row of the user's stays.
-        TestDatabase::Exec(QStringLiteral("INSERT INTO %1 VALUES (%2)")
-                               .arg(table, kind == clsDICT::Songlist ? "50, 'Mine', 50" : "50, 'Mine'"));
-        QVERIFY(!create());
-        QCOMPARE(Count(table), QString::number(rows + 1));
-
-        TestDatabase::Exec(QStringLiteral("DROP TABLE %1").arg(table));
-        QVERIFY(!gDB().TableExists(table));
-        QVERIFY(create());
-        QCOMPARE(clsDICT::GetTotal(kind), long(rows));
-        clsDICT first(kind);
-        QVERIFY(first.OpenRecord("1"));
-        QCOMPARE(first.TX, firstById);
-        QVERIFY(!create());
-        QCOMPARE(clsDICT::GetTotal(kind), long(rows));
-        QVERIFY(Messages().isEmpty());
-    }
-
     void recreatedTitlesKeepTheirUniqueIndex() {
         TestDatabase::Exec("DROP TABLE TITLE_DICT");
         QVERIFY(clsDICT::CreateTable_TITLE_DICT());
@@ -302,20 +261,6 @@ private slots:
         title.TX = QStringLiteral("dr.");
         QVERIFY(!title.Save(true));
         QCOMPARE(Messages(), QStringList({"Duplicate value.  Ensure that entry is unique."}));
-    }
-
-    void mealPricePatchAddsTheColumnOnce() {
-        TestDatabase::Exec("ALTER TABLE MEAL_DICT DROP COLUMN PRICE_NB");
-        QVERIFY(!gDB().FieldExists("MEAL_DICT", "PRICE_NB"));
-        QVERIFY(clsDICT::Patch_MEAL_DICT_Add_PRICE_NB());
-        QCOMPARE(Count("MEAL_DICT WHERE PRICE_NB = 0"), QStringLiteral("6"));
-        TestDatabase::Exec("UPDATE MEAL_DICT SET PRICE_NB = 17.5 WHERE MEAL_ID = 1");
-        QVERIFY(!clsDICT::Patch_MEAL_DICT_Add_PRICE_NB());
-        QCOMPARE(TestDatabase::Scalar("SELECT PRICE_NB FROM MEAL_DICT WHERE MEAL_ID = 1"),
-                 QStringLiteral("17.5"));
-        clsDICT meal(clsDICT::Meal);
-        QVERIFY(meal.OpenRecord("2"));
-        QCOMPARE(meal.PRICE_NB, QStringLiteral("0"));
     }
 };
 

@@ -24,65 +24,11 @@ private slots:
     void init() { db = std::make_unique<TestDatabase>(); }
     void cleanup() { db.reset(); }
 
-    void patchesAddWhatAnOlderTableLacks_data() {
-        QTest::addColumn<int>("rowsBefore");
-        QTest::addColumn<bool>("patch6");
-        QTest::addColumn<bool>("patch7");
-        QTest::addColumn<QStringList>("idsAfter");
-        const QStringList all = {"1", "2", "3", "4", "5", "6", "7", "8", "9"};
-        QTest::newRow("rows 1 to 3 get 4 to 9 in one go") << 3 << true << true << all;
-        QTest::newRow("rows 1 to 6 get 7 to 9") << 6 << false << true << all;
-        QTest::newRow("rows 1 to 5 get neither")
-            << 5 << false << false << QStringList({"1", "2", "3", "4", "5"});
-        QTest::newRow("a current table stays") << 9 << false << false << all;
-    }
-    void patchesAddWhatAnOlderTableLacks() {
-        QFETCH(int, rowsBefore);
-        QFETCH(bool, patch6);
-        QFETCH(bool, patch7);
-        QFETCH(QStringList, idsAfter);
-        gApp().SetEtiquetteIsFormal(true);
-        gRegistry().SaveSetting(clsApp::RootKey(), "GoogleMapIndex", "3");
-        TestDatabase::Exec("DELETE FROM VOWREN WHERE VOWREN_ID > ?", {rowsBefore});
-        TestDatabase::Exec("UPDATE VOWREN SET VOWREN_TX = 'old' WHERE VOWREN_ID > 3");
-
-        QCOMPARE(clsVOWREN::Patch_6_Apply(), patch6);
-        QCOMPARE(clsVOWREN::Patch_7_Apply(), patch7);
-        QCOMPARE(Ids(), idsAfter);
-        if (patch6) {
-            QCOMPARE(Stored(4), QString::number(170 + 256 * 194 + 65536 * 234));
-            QCOMPARE(Stored(5), QString::number(221 + 256 * 231 + 65536 * 247));
-            QCOMPARE(Stored(6), QString::number(200 + 256 * 200 + 65536 * 200));
-        }
-        if (patch7) {
-            QCOMPARE(Stored(7), QStringLiteral("True"));
-            QCOMPARE(Stored(8), QStringLiteral("True"));
-            QCOMPARE(Stored(9), QStringLiteral("3"));
-        }
-        if (!patch6 && rowsBefore >= 4)
-            QCOMPARE(Stored(4), QStringLiteral("old"));
-        QVERIFY(db->Messages().Prompts.isEmpty());
-    }
-
     void etiquettePatchCopiesAnInformalSetting() {
         TestDatabase::Exec("DELETE FROM VOWREN WHERE VOWREN_ID > 6");
         QVERIFY(clsVOWREN::Patch_7_Apply());
         QCOMPARE(Stored(7), QStringLiteral("False"));
         QCOMPARE(Stored(9), QStringLiteral("0"));
-    }
-
-    void createTableMakesAndSeedsAMissingTable() {
-        TestDatabase::Exec("INSERT INTO VOWREN VALUES (10, 'mine')");
-        QVERIFY(!clsVOWREN::CreateTable());
-        QCOMPARE(Ids().size(), 10);
-        TestDatabase::Exec("DROP TABLE VOWREN");
-        QVERIFY(clsVOWREN::CreateTable());
-        QCOMPARE(Ids().mid(0, 3), QStringList({"1", "2", "3"}));
-        QCOMPARE(Stored(1), QStringLiteral("1"));
-        QCOMPARE(Stored(3), QStringLiteral("0"));
-        clsVOWREN::Patch_6_Apply();
-        clsVOWREN::Patch_7_Apply();
-        QCOMPARE(Ids().size(), 9);
     }
 
     void valuesAreReadFromMemory() {

@@ -272,25 +272,6 @@ private slots:
         f.close();
         QVERIFY(FileExists(home->File("here.txt")));
     }
-
-    // An editor with changes asks before it closes; one without simply closes.
-    void closingAnEditorAsksOnlyWhenDirty_data() {
-        QTest::addColumn<bool>("dirty");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<int>("choice");
-        QTest::newRow("clean") << false << int(Msg::Yes) << int(CloseChoice::Discard);
-        QTest::newRow("yes saves") << true << int(Msg::Yes) << int(CloseChoice::Save);
-        QTest::newRow("no discards") << true << int(Msg::No) << int(CloseChoice::Discard);
-        QTest::newRow("cancel stays") << true << int(Msg::Cancel) << int(CloseChoice::Stay);
-    }
-    void closingAnEditorAsksOnlyWhenDirty() {
-        QFETCH(bool, dirty);
-        QFETCH(int, answer);
-        QFETCH(int, choice);
-        home->Messages().NextAnswer = answer;
-        QCOMPARE(int(AskBeforeClose(dirty, QStringLiteral("Create Invitation?"))), choice);
-        QCOMPARE(home->Messages().Prompts, dirty ? QStringList{QStringLiteral("Create Invitation?")} : QStringList());
-    }
 };
 
 QTEST_GUILESS_MAIN(tst_modGeneral)

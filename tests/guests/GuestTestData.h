@@ -34,6 +34,18 @@ inline QString AddContact(const QVariantMap& values) {
     return Insert(QStringLiteral("CONTACT"), QStringLiteral("CONTACT_ID"), row);
 }
 
+// People as a table: the columns named once, then one row of values per person; an empty value leaves
+// the column to AddContact's default.
+inline void AddContacts(const QStringList& columns, const QList<QVariantList>& rows) {
+    for (const QVariantList& values : rows) {
+        QVariantMap row;
+        for (qsizetype i = 0; i < columns.size(); ++i)
+            if (values.value(i).isValid())
+                row.insert(columns[i], values[i]);
+        AddContact(row);
+    }
+}
+
 inline QString AddInvite(const QVariantMap& values) {
     QVariantMap row{{"INVITE_SENT_FG", "N"}, {"RSVP_RECEIVED_FG", "N"}, {"AUTO_UPDATE_FG", "Y"}};
     for (auto it = values.begin(); it != values.end(); ++it)

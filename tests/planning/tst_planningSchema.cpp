@@ -55,41 +55,6 @@ private slots:
     void init() { db = std::make_unique<PlanningDatabase>(); }
     void cleanup() { db.reset(); }
 
-    void aCurrentDatabaseIsLeftAlone() {
-        PlanningDatabase::SetWeddingDate("05-Jun-2027");
-        const QString schema = Schema();
-        const QString tasks =
-            TestDatabase::Scalar("SELECT group_concat(TASK_ID || ':' || SORT_ORDER_NB) FROM TASK");
-        RunAllPlanningSteps();
-        RunAllPlanningSteps();
-        QCOMPARE(Schema(), schema);
-        QCOMPARE(TestDatabase::Scalar("SELECT group_concat(TASK_ID || ':' || SORT_ORDER_NB) FROM TASK"),
-                 tasks);
-        QCOMPARE(PlanningDatabase::Count("BUDGET_CATEGORY_DICT"), QStringLiteral("10"));
-        QVERIFY(db->Messages().Prompts.isEmpty());
-    }
-
-    void missingTablesAreCreated() {
-        TestDatabase::Exec("DROP TABLE TIMELINE");
-        TestDatabase::Exec("DROP TABLE NOTEBOOK");
-        TestDatabase::Exec("DROP TABLE BUDGET");
-        TestDatabase::Exec("DROP TABLE BUDGET_CATEGORY_DICT");
-        clsTIMELINE::CreateTable();
-        clsNOTEBOOK::CreateTable();
-        clsBUDGET_CATEGORY_DICT::CreateTable();
-        QVERIFY(gDB().TableExists("TIMELINE"));
-        QVERIFY(gDB().ForeignKeyExists("TIMELINE", "TIMELINE_TO_EVENT_FK"));
-        QVERIFY(gDB().TableExists("NOTEBOOK"));
-        QStringList names;
-        for (const clsBUDGET_CATEGORY_DICT& category : clsBUDGET_CATEGORY_DICT().OpenRecords()) {
-            names << category.BUDGET_CATEGORY_ID + QLatin1Char(' ') + category.BUDGET_CATEGORY_TX;
-            QCOMPARE(category.ESTIMATE_AMOUNT_NB_DOUBLE(), 0.0);
-        }
-        QCOMPARE(names, QStringList({"3 Ceremony", "2 Fashion", "5 Flowers", "9 Honeymoon",
-                                     "8 Hotels/Transportation", "10 Miscellaneous", "6 Music",
-                                     "7 Photography/Videography", "4 Reception", "1 Stationery"}));
-    }
-
     void tasksGetTheirSortOrder() {
         TestDatabase::Exec("DROP TABLE TASK");
         TestDatabase::Exec("CREATE TABLE TASK (TASK_ID INTEGER NOT NULL PRIMARY KEY, TASK_NM TEXT, "
@@ -179,30 +144,6 @@ private slots:
         clsBUDGET::Patch_7_Apply();
         QCOMPARE(Column("BUDGET", "DUE_DT", "notnull"), QStringLiteral("1"));
         QCOMPARE(PlanningDatabase::Count("BUDGET"), QStringLiteral("2"));
-    }
-
-    void anOldVendorTableGetsFilesAndCategory() {
-        TestDatabase::Exec("DROP TABLE VENDOR");
-        TestDatabase::Exec(
-            "CREATE TABLE VENDOR (VENDOR_ID INTEGER NOT NULL PRIMARY KEY, VENDOR_NM TEXT, "
-            "ADDRESS_TX TEXT, CITY_TX TEXT, STATE_TX TEXT, ZIP_TX TEXT, COUNTRY_TX TEXT, CONTACT_NM TEXT, "
-            "EMAIL_TX TEXT, PHONE_TX TEXT, FAX_TX TEXT, WEB_SITE_TX TEXT, NOTES_TX TEXT)");
-        TestDatabase::Exec("INSERT INTO VENDOR (VENDOR_ID, VENDOR_NM) VALUES (1, 'Bloom'), (2, 'Crumbs')");
-        clsVENDOR::Patch_Add_FILE_PATH_TX();
-        clsVENDOR::Patch_Add_VENDOR_CATEGORY_ID();
-        QVERIFY(gDB().ForeignKeyExists("VENDOR", "VENDOR_TO_VENDOR_CATEGORY_FK"));
-        const QList<clsVENDOR> vendors = clsVENDOR().OpenRecords();
-        QCOMPARE(vendors.size(), 2);
-        for (const clsVENDOR& vendor : vendors) {
-            QCOMPARE(vendor.VENDOR_CATEGORY_TX, QStringLiteral("Miscellaneous"));
-            QVERIFY(vendor.FILE_PATH_TX.isEmpty());
-        }
-        clsVENDOR bloom = vendors.first();
-        bloom.SetFilePaths({"/a.pdf"});
-        QVERIFY(bloom.Save(false));
-        // A category that does not exist is refused now.
-        bloom.VENDOR_CATEGORY_ID = QStringLiteral("99");
-        QVERIFY(!bloom.Save(false));
     }
 
     void anOldGiftTableIsWidenedAndDated() {

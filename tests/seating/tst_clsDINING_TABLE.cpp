@@ -19,8 +19,7 @@ class tst_clsDINING_TABLE : public QObject {
         table.POS_X = QStringLiteral("0");
         table.POS_Y = QStringLiteral("0");
         table.DINING_TABLE_TYPE_ID = QStringLiteral("1");
-        if (!table.Save(true))
-            qFatal("table not saved");
+        table.Save(true);
         return table;
     }
     // Guests 3, 4, ... seated at the table; the couple are contacts 1 and 2.
@@ -59,7 +58,7 @@ private slots:
         for (const QString& number : deleteNumbers) {
             clsDINING_TABLE table;
             QVERIFY(table.OpenRecord(QString(), number));
-            QVERIFY(table.Delete(table.DINING_TABLE_ID));
+            table.Delete(table.DINING_TABLE_ID);
         }
         QCOMPARE(clsDINING_TABLE::NEXT_NB(), next);
         QVERIFY(db->Messages().Prompts.isEmpty());
@@ -77,7 +76,7 @@ private slots:
                            {first.DINING_TABLE_ID, second.DINING_TABLE_ID});
 
         clsDINING_TABLE table;
-        QVERIFY(table.Delete(first.DINING_TABLE_ID));
+        table.Delete(first.DINING_TABLE_ID);
         QVERIFY(db->Messages().Prompts.isEmpty());
         QCOMPARE(TableOf(1), QString());
         QCOMPARE(TableOf(2), QString());
@@ -93,8 +92,7 @@ private slots:
         TestDatabase::Exec("CREATE TRIGGER keep_tables BEFORE DELETE ON DINING_TABLE "
                            "BEGIN SELECT RAISE(ABORT, 'tables are kept'); END");
         clsDINING_TABLE table;
-        QVERIFY(!table.Delete(first.DINING_TABLE_ID));
-        QCOMPARE(db->Messages().Prompts, QStringList({"tables are kept"}));
+        QCOMPARE(ErrorOf([&] { table.Delete(first.DINING_TABLE_ID); }), QStringLiteral("tables are kept"));
         QCOMPARE(TableOf(3), first.DINING_TABLE_ID);
     }
 
@@ -165,8 +163,7 @@ private slots:
         clsDINING_TABLE table;
         table.DINING_TABLE_NB = QStringLiteral("A1");
         table.SEATS_NB = QStringLiteral("8");
-        QVERIFY(!table.Save(true));
-        QCOMPARE(db->Messages().Prompts.size(), 1);
+        QVERIFY_THROWS_EXCEPTION(clsDbError, table.Save(true));
         QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM DINING_TABLE"), QStringLiteral("0"));
     }
 

@@ -1,13 +1,11 @@
 #include "platform/clsRegistry.h"
 #include "shell/grid/clsGridProxy.h"
 #include "shell/grid/frmCustomizeColumns.h"
-#include "shell/grid/modGradient.h"
 #include "shell/grid/modGrid.h"
 #include "shell/grid/modListView.h"
 #include "shell/grid/usrGrid.h"
 
 #include <QAbstractItemModelTester>
-#include <QPainter>
 #include <QHeaderView>
 #include <QListWidget>
 #include <QPushButton>
@@ -423,30 +421,6 @@ private slots:
         for (const QString& key : Shown(grid).mid(1)) keys << key.toLongLong();
         QTEST(keys, "ascending");
     }
-
-    void gradient_data() {
-        QTest::addColumn<int>("scheme");
-        QTest::addColumn<QColor>("from");
-        QTest::addColumn<QColor>("to");
-        QTest::newRow("scheme 0") << 0 << QColor(41, 89, 169) << QColor(89, 135, 214);
-        QTest::newRow("beyond 7 is 0") << 8 << QColor(41, 89, 169) << QColor(89, 135, 214);
-    }
-    void gradient() {
-        QFETCH(int, scheme);
-        QFETCH(QColor, from);
-        QFETCH(QColor, to);
-        QColor left, right;
-        SetGradient(scheme, left, right);
-        QCOMPARE(left, from);
-        QCOMPARE(right, to);
-        QImage header(200, 10, QImage::Format_RGB32);
-        QPainter painter(&header);
-        PaintGradient(painter, header.rect(), left, right);
-        painter.end();
-        QCOMPARE(QColor(header.pixel(0, 5)), from);
-        QVERIFY(qAbs(QColor(header.pixel(199, 5)).blue() - to.blue()) <= 1);
-    }
-
     void listViewHelpers() {
         QTreeWidget from, to;
         from.setSelectionMode(QAbstractItemView::ExtendedSelection);

@@ -1,9 +1,9 @@
 // The pages of invitations, replies and attendees driven like a person would, checked against the
 // database: marking as sent, deleting, a reply that reaches the attendees, and changes to many.
 #include "TestDatabase.h"
+#include "UiTestTools.h"
 #include "core/clsApp.h"
 #include "core/clsDICT.h"
-#include "startup/modDemoWedding.h"
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
 #include "guests/ui/frmAttendee.h"
@@ -15,11 +15,14 @@
 #include "shell/controls/usrDropdown.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/modPages.h"
+#include "startup/modDemoWedding.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QMenu>
 #include <QtTest>
+
+using UiTestTools::SelectRecords;
 
 namespace {
 
@@ -29,15 +32,6 @@ QString Text(const QWidget* page, const QString& label) {
 
 usrHyperlink* Link(const QWidget* page, const QString& name) {
     return page->findChild<usrHyperlink*>(name);
-}
-
-void Select(usrGrid* grid, const QStringList& ids) {
-    grid->clearSelection();
-    for (const QString& id : ids) {
-        const QModelIndex row = grid->FromSource(grid->Model()->FindRecord(id.toLongLong()));
-        QVERIFY2(row.isValid(), qPrintable(id));
-        grid->selectionModel()->select(row, QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    }
 }
 
 QString Cell(usrGrid* grid, const QString& id, const QString& column) {
@@ -84,37 +78,6 @@ private slots:
         QVERIFY2(FillDemoWedding(60, 5, &message), qPrintable(message));
     }
     void cleanup() { mDatabase.reset(); }
-
-    // Every entry of a panel: its count is what the grid shows once it is chosen.
-    void panelCountIsTheGrid_data() {
-        QTest::addColumn<int>("page");
-        QTest::addColumn<int>("filter");
-        QTest::newRow("invitations, all") << 2 << 0;
-        QTest::newRow("invitations, unsent") << 2 << 2;
-        QTest::newRow("RSVPs, no reply") << 3 << 4;
-        QTest::newRow("attendees, seated") << 4 << 21;
-        QTest::newRow("attendees, first meal") << 4 << frmMain_04_Attendees::FirstMeal;
-        QTest::newRow("attendees, no meal") << 4 << frmMain_04_Attendees::NoMeal;
-    }
-    void panelCountIsTheGrid() {
-        QFETCH(int, page);
-        QFETCH(int, filter);
-        // A few attendees without a meal, so that the entry has rows.
-        TestDatabase::Exec("UPDATE CONTACT SET MEAL_ID = NULL WHERE CONTACT_ID IN "
-                           "(SELECT CONTACT_ID FROM CONTACT WHERE ATTENDING_FG = 'Y' LIMIT 3)");
-        std::unique_ptr<usrListPage> list(qobject_cast<usrListPage*>(modPages::CreatePage(page, nullptr)));
-        QVERIFY(list);
-        list->resize(1280, 720);
-        list->LoadNow();
-        QTest::mouseClick(Link(list.get(), QStringLiteral("linkFilter_%1").arg(filter)), Qt::LeftButton);
-        QCOMPARE(list->CurrentFilter(), filter);
-        const QString count = Text(list.get(), QStringLiteral("lblStat_%1").arg(filter));
-        QVERIFY(count.toInt() > 0);
-        QCOMPARE(QString::number(list->Grid()->Model()->FlatRowCount()), count);
-        QVERIFY(
-            Text(list.get(), QStringLiteral("lblCount")).startsWith(count + QStringLiteral(" of ") + count));
-    }
-
     // Of three envelopes one has no address: it is never changed, and marking as sent says why.
     void markSentSkipsNoAddress_data() {
         QTest::addColumn<bool>("sent");
@@ -136,7 +99,7 @@ private slots:
         ClearAddress(ids[1]);
         frmMain_02_Invitations page;
         page.LoadNow();
-        Select(page.Grid(), ids);
+        SelectRecords(page.Grid(), ids);
         const int shownBefore = static_cast<int>(mDatabase->Messages().Prompts.size());
 
         QCOMPARE(page.MarkSelectedSent(sent), 2);
@@ -163,7 +126,7 @@ private slots:
             TestDatabase::Scalar("SELECT CONTACT_ID FROM CONTACT WHERE INVITE_ID = ?", {ids[1]});
         frmMain_02_Invitations page;
         page.LoadNow();
-        Select(page.Grid(), ids);
+        SelectRecords(page.Grid(), ids);
         QCOMPARE(Link(&page, "linkAction_2")->Caption(), QStringLiteral("Delete invitations (3)"));
         mDatabase->Messages().NextAnswer = Msg::Yes;
 
@@ -291,7 +254,7 @@ private slots:
         for (const clsCONTACT& c : clsCONTACT::OpenRecords(14, {}, {}, false))
             if (ids.size() < 4)
                 ids.append(c.CONTACT_ID);
-        Select(page.Grid(), ids);
+        SelectRecords(page.Grid(), ids);
         const QList<clsDICT> meals = clsDICT().OpenRecords(clsDICT::Meal);
         const int last = static_cast<int>(meals.size()) - 1;
         QAction* item = page.ContextMenu()->findChild<QAction*>(QStringLiteral("mnuMeal_%1").arg(last));

@@ -1,6 +1,7 @@
 // The contact editor driven like a person would: typing, tabbing, the buttons and Esc, checked against
 // the database and the messages shown.
 #include "TestDatabase.h"
+#include "UiTestTools.h"
 #include "core/clsApp.h"
 #include "guests/clsCONTACT.h"
 #include "guests/ui/frmCheckName.h"
@@ -20,6 +21,8 @@
 #include <QTimer>
 #include <QtTest>
 
+using namespace UiTestTools;
+
 namespace {
 
 const QString kAndRefused =
@@ -31,13 +34,6 @@ const QString kAmpersandRefused =
                    "record represent "
                    "one individual.\n\nPlease edit the title so that it represents one individual.");
 const QString kNamesRequired = QStringLiteral("First and Last names are required.");
-
-template <typename T> T* Child(QWidget* form, const QString& name) {
-    T* child = form->findChild<T*>(name);
-    if (!child)
-        qFatal("no child %s", qPrintable(name));
-    return child;
-}
 
 // Replaces the text of a box by typing, as a person would after selecting all of it.
 void Type(QWidget* box, const QString& text) {
@@ -68,12 +64,6 @@ void TypeLines(QPlainTextEdit* box, const QStringList& lines) {
 
 void Click(frmContact& form, const char* button) {
     QTest::mouseClick(Child<QPushButton>(&form, button), Qt::LeftButton);
-}
-
-void ShowActive(QWidget& form) {
-    form.show();
-    QApplication::setActiveWindow(&form);
-    QVERIFY(QTest::qWaitForWindowActive(&form));
 }
 
 QString ContactCount() {
@@ -274,41 +264,6 @@ private slots:
         QCOMPARE(Child<QComboBox>(&form, "cbo_0")->currentText(), QStringLiteral("Ms."));
         QVERIFY(Child<QRadioButton>(&form, "optGender_1")->isChecked());
     }
-
-    // Esc with unsaved changes asks "Save Changes?"; the answer decides whether the form saves, closes
-    // or stays.
-    void escapeAfterAChangeAsks_data() {
-        QTest::addColumn<bool>("change");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("staysOpen");
-        QTest::addColumn<QString>("savedNick");
-        QTest::newRow("nothing changed") << false << int(Msg::Yes) << false << "Jack";
-        QTest::newRow("yes saves") << true << int(Msg::Yes) << false << "Johnny";
-        QTest::newRow("no drops") << true << int(Msg::No) << false << "Jack";
-        QTest::newRow("cancel stays") << true << int(Msg::Cancel) << true << "Jack";
-    }
-    void escapeAfterAChangeAsks() {
-        QFETCH(bool, change);
-        QFETCH(int, answer);
-        QFETCH(bool, staysOpen);
-        QFETCH(QString, savedNick);
-        const QString smith = SaveSmith();
-        frmContact form(smith);
-        ShowActive(form);
-        QSignalSpy updated(&form, &frmContact::Updated);
-        QCOMPARE(form.windowTitle(), QStringLiteral("Edit Contact"));
-        if (change)
-            Type(Child<QLineEdit>(&form, "txt_3"), QStringLiteral("Johnny"));
-        mDatabase->Messages().NextAnswer = answer;
-        QTest::keyClick(&form, Qt::Key_Escape);
-
-        QCOMPARE(mDatabase->Messages().Prompts,
-                 change ? QStringList{QStringLiteral("Save Changes?")} : QStringList{});
-        QCOMPARE(form.isVisible(), staysOpen);
-        QCOMPARE(Saved(smith).NICK_NM, savedNick);
-        QCOMPARE(updated.count(), savedNick == QLatin1String("Jack") ? 0 : 1);
-    }
-
     // A copy is another person of the household: the placeholder is selected so that typing replaces
     // it, and the new contact shares the address but not the role.
     void copyKeepsTheHouseholdAndAsksForTheFirstName() {

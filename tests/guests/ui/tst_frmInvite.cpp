@@ -1,4 +1,5 @@
 #include "TestDatabase.h"
+#include "UiTestTools.h"
 #include "guests/GuestTestData.h"
 #include "guests/ui/frmContact.h"
 #include "guests/ui/frmInvite.h"
@@ -18,18 +19,12 @@
 #include <memory>
 
 using namespace GuestTestData;
+using namespace UiTestTools;
 
 namespace {
 
 const QString kAddressNeeded =
     QStringLiteral("Primary Address Needed before Invitation can be marked as 'Sent'.");
-
-template <class T> T* Child(QWidget* form, const char* name) {
-    T* child = form->findChild<T*>(QString::fromLatin1(name));
-    if (!child)
-        qFatal("no child %s", name);
-    return child;
-}
 
 QString Plain(const QString& caption) {
     return QString(caption).remove(QLatin1Char('&'));
@@ -68,12 +63,6 @@ void DoubleClickRow(usrGuestList* list, const QString& key) {
     const QPoint at = list->visualItemRect(item).center();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
-}
-
-// A check box toggled from the keyboard, as a user does with Space.
-void Toggle(QCheckBox* box) {
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_Space);
 }
 
 QStringList Names(usrGuestList* list) {
@@ -350,32 +339,6 @@ private slots:
                  QStringLiteral("The Smith FamilyNSmith, John and Mary"));
         Toggle(autoUpdate);
         QCOMPARE(outer->text(), QStringLiteral("Mr. and Mrs. John Smith"));
-    }
-
-    // Closing with changes asks first; "No" leaves the database alone, "Cancel" keeps the editor open.
-    void closingAsksFirst_data() {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("open");
-        QTest::addColumn<QString>("invites");
-        QTest::newRow("yes") << int(Msg::Yes) << false << "1";
-        QTest::newRow("no") << int(Msg::No) << false << "0";
-        QTest::newRow("cancel") << int(Msg::Cancel) << true << "0";
-    }
-    void closingAsksFirst() {
-        QFETCH(int, answer);
-        QFETCH(bool, open);
-        QFETCH(QString, invites);
-        auto form = Open();
-        QTest::keyClick(form.get(), Qt::Key_Escape);
-        QVERIFY(!form->isVisible()); // nothing changed: no question
-        QVERIFY(db->Messages().Prompts.isEmpty());
-        form = Open();
-        form->AddPeople({ann});
-        db->Messages().NextAnswer = answer;
-        QTest::keyClick(form.get(), Qt::Key_Escape);
-        QCOMPARE(db->Messages().Prompts, QStringList{"Create Invitation?"});
-        QCOMPARE(form->isVisible(), open);
-        QCOMPARE(Scalar("SELECT COUNT(*) FROM INVITE"), invites);
     }
 };
 

@@ -1,35 +1,28 @@
 // The Contacts page driven like a person would: filters, search, selection, bulk changes and deletes,
 // checked against the database.
 #include "TestDatabase.h"
+#include "UiTestTools.h"
 #include "core/clsApp.h"
 #include "guests/GuestTestData.h"
-#include "startup/modDemoWedding.h"
 #include "guests/clsCONTACT.h"
 #include "guests/ui/frmMain_01_Contacts.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/controls/usrSearch.h"
 #include "shell/grid/clsGridProxy.h"
 #include "shell/grid/modGrid.h"
+#include "startup/modDemoWedding.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QtTest>
 
+using UiTestTools::SelectRecords;
+
 namespace {
 
 QString Text(const QWidget* page, const QString& label) {
     return page->findChild<QLabel*>(label)->text();
-}
-
-// Selects the rows of these contacts, and only those.
-void Select(usrGrid* grid, const QList<QString>& ids) {
-    grid->clearSelection();
-    for (const QString& id : ids) {
-        const QModelIndex row = grid->FromSource(grid->Model()->FindRecord(id.toLongLong()));
-        QVERIFY2(row.isValid(), qPrintable(id));
-        grid->selectionModel()->select(row, QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    }
 }
 
 QString Ids(int filter, int count, bool skipCouple = true) {
@@ -98,35 +91,9 @@ private slots:
         QVERIFY(Text(mPage.get(), QStringLiteral("lblCount")).startsWith(QString::number(shown) + QStringLiteral(" of ")));
     }
 
-    void captionsFollowTheSelection() {
-        const QStringList ids = Ids(0, 3).split(QLatin1Char(','));
-        Select(mPage->Grid(), ids.mid(0, 1));
-        QCOMPARE(mPage->findChild<usrHyperlink*>("linkAction_2")->Caption(), QStringLiteral("Delete contact"));
-        QVERIFY(mPage->findChild<usrHyperlink*>("linkAction_1")->isEnabled());
-        Select(mPage->Grid(), ids);
-        QCOMPARE(mPage->findChild<usrHyperlink*>("linkAction_2")->Caption(), QStringLiteral("Delete contacts (3)"));
-        QCOMPARE(mPage->findChild<usrHyperlink*>("linkAction_3")->Caption(), QStringLiteral("E-mail contacts (3)"));
-        QVERIFY(!mPage->findChild<usrHyperlink*>("linkAction_1")->isEnabled());
-    }
-
-    void deleteLeavesTheCouple() {
-        const QStringList others = Ids(0, 2).split(QLatin1Char(','));
-        const long before = clsCONTACT::GetTotal(0);
-        Select(mPage->Grid(), QStringList{QStringLiteral("1"), QStringLiteral("2")} + others);
-        mDatabase->Messages().NextAnswer = Msg::Yes;
-        const int deleted = mPage->DeleteSelected();
-        QCOMPARE(mDatabase->Messages().Prompts.last(), QStringLiteral("Delete 4 Contacts?"));
-        QCOMPARE(deleted, 2);
-        QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM CONTACT WHERE CONTACT_ID IN (1, 2)"), QStringLiteral("2"));
-        for (const QString& id : others)
-            QVERIFY(!mPage->Grid()->Model()->FindRecord(id.toLongLong()).isValid());
-        QVERIFY(clsCONTACT::GetTotal(0) <= before - 2);
-        QCOMPARE(mPage->Grid()->Model()->FlatRowCount(), int(clsCONTACT::GetTotal(0)));
-    }
-
     void deleteAnsweredNoKeepsEveryone() {
         const QString one = Ids(0, 1);
-        Select(mPage->Grid(), {one});
+        SelectRecords(mPage->Grid(), {one});
         mDatabase->Messages().NextAnswer = Msg::No;
         QCOMPARE(mPage->DeleteSelected(), 0);
         QVERIFY(mDatabase->Messages().Prompts.last().startsWith(QStringLiteral("Delete '")));
@@ -155,7 +122,7 @@ private slots:
         TestDatabase::Exec("UPDATE ROLE_DICT SET ROLE_TX = 'Partner' WHERE ROLE_ID IN (1, 2)");
         const QStringList contacts = GuestTestData::Dump("CONTACT");
         mPage->Reload();
-        Select(mPage->Grid(), {"1", ids[0], ids[1], "2"});
+        SelectRecords(mPage->Grid(), {"1", ids[0], ids[1], "2"});
         mDatabase->Messages().NextAnswer = Msg::Yes;
 
         QTest::mouseClick(mPage->findChild<usrHyperlink*>("linkAction_2"), Qt::LeftButton);
@@ -195,7 +162,7 @@ private slots:
         QFETCH(QString, column);
         QFETCH(QString, value);
         const QString ids = Ids(0, 3);
-        Select(mPage->Grid(), ids.split(QLatin1Char(',')));
+        SelectRecords(mPage->Grid(), ids.split(QLatin1Char(',')));
         QAction* action = mPage->ContextMenu()->findChild<QAction*>(item);
         QVERIFY(action);
         action->trigger();

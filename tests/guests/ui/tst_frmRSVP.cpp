@@ -1,4 +1,5 @@
 #include "TestDatabase.h"
+#include "UiTestTools.h"
 #include "core/clsApp.h"
 #include "guests/GuestTestData.h"
 #include "guests/ui/frmAttendee.h"
@@ -16,33 +17,15 @@
 #include <memory>
 
 using namespace GuestTestData;
+using namespace UiTestTools;
 
 namespace {
-
-template <class T> T* Child(QWidget* form, const QString& name) {
-    T* child = form->findChild<T*>(name);
-    if (!child)
-        qFatal("no child %s", qPrintable(name));
-    return child;
-}
-
-void Toggle(QCheckBox* box) {
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_Space);
-}
 
 // Chooses a meal the way a user does: the list gets the focus and the first letters are typed.
 void ChooseMeal(usrDropdown* meal, const QString& text) {
     QComboBox* list = meal->ComboBox();
     list->setFocus();
     QTest::keyClicks(list, text);
-}
-
-void Show(QWidget* form) {
-    form->show();
-    QApplication::setActiveWindow(form);
-    if (!QTest::qWaitForWindowActive(form))
-        qWarning("the dialog did not become active");
 }
 
 QString MealId(const QString& text) {
@@ -98,7 +81,7 @@ private slots:
                           QVariantMap{{"INVITE_RSVP_ID", "90"}, {"DISPLAY_AS_TX", name}});
 
         frmInviteRSVPIDs form;
-        Show(&form);
+        ShowActive(&form);
         QSignalSpy changed(&form, &frmInviteRSVPIDs::RSVPIDsChanged);
         QTest::mouseClick(Child<QPushButton>(&form, "cmdSort"), Qt::LeftButton);
         QCOMPARE(changed.count(), 1);
@@ -118,7 +101,7 @@ private slots:
         AddInvitation({"Mr.|X||Adams|||"}, {{"INVITE_RSVP_ID", "9"}, {"DISPLAY_AS_TX", "Adams"}});
         gApp().SetLockRSVPIDs(true);
         frmInviteRSVPIDs form;
-        Show(&form);
+        ShowActive(&form);
         QVERIFY(!Child<QPushButton>(&form, "cmdSort")->isEnabled());
         QVERIFY(Child<QLabel>(&form, "lblLocked")->isVisible());
         QVERIFY(!form.SortRSVPIDs());
@@ -131,7 +114,7 @@ private slots:
         QStringList ids;
         const QString inviteId = SentCouple(&ids);
         frmRSVP form(inviteId);
-        Show(&form);
+        ShowActive(&form);
         QCOMPARE(form.windowTitle(), QStringLiteral("Open RSVP"));
         QCOMPARE(Child<QLabel>(&form, "lblRSVPID")->text(), QStringLiteral("# 7"));
         auto* received = Child<QCheckBox>(&form, "chkRSVP_RECEIVED_FG");
@@ -175,7 +158,7 @@ private slots:
         const QStringList contacts = Dump("CONTACT"), invites = Dump("INVITE");
         FailOn("UPDATE", "CONTACT", "NEW.CONTACT_ID = " + ids[1]);
         frmRSVP form(inviteId);
-        Show(&form);
+        ShowActive(&form);
         Toggle(Child<QCheckBox>(&form, "chkRSVP_RECEIVED_FG"));
         Toggle(Child<QCheckBox>(&form, "chkATTENDING_FG_0"));
         QSignalSpy updated(&form, &frmRSVP::RSVPUpdated);
@@ -192,7 +175,7 @@ private slots:
         QStringList ids;
         SentCouple(&ids);
         frmAttendee form(ids[1]);
-        Show(&form);
+        ShowActive(&form);
         QCOMPARE(form.windowTitle(), QStringLiteral("Attendee"));
         QCOMPARE(Child<QLabel>(&form, "lblTop")->text(), QStringLiteral("Mrs. Mary Smith"));
         auto* meal = Child<usrDropdown>(&form, "usrMEAL_DICT");
@@ -207,31 +190,6 @@ private slots:
                    "WHERE CONTACT_ID = ?",
                    {ids[1]}),
             QStringLiteral("N--"));
-    }
-
-    // Cancel on a changed attendee asks first: Cancel stays, No leaves the row as it was, Yes saves.
-    void attendeeClosedWithChanges_data() {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("open");
-        QTest::addColumn<QString>("stored");
-        QTest::newRow("cancel stays") << int(Msg::Cancel) << true << "Y";
-        QTest::newRow("no discards") << int(Msg::No) << false << "Y";
-        QTest::newRow("yes saves") << int(Msg::Yes) << false << "N";
-    }
-    void attendeeClosedWithChanges() {
-        QFETCH(int, answer);
-        QFETCH(bool, open);
-        QFETCH(QString, stored);
-        QStringList ids;
-        SentCouple(&ids);
-        frmAttendee form(ids[1]);
-        Show(&form);
-        Toggle(Child<QCheckBox>(&form, "chkATTENDING_FG"));
-        db->Messages().NextAnswer = answer;
-        QTest::mouseClick(Child<QPushButton>(&form, "cmdCancel"), Qt::LeftButton);
-        QCOMPARE(db->Messages().Prompts, QStringList{QStringLiteral("Save Changes?")});
-        QCOMPARE(form.isVisible(), open);
-        QCOMPARE(Scalar("SELECT ATTENDING_FG FROM CONTACT WHERE CONTACT_ID = ?", {ids[1]}), stored);
     }
 };
 

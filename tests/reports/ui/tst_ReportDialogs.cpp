@@ -1,4 +1,5 @@
 #include "TestDatabase.h"
+#include "UiTestTools.h"
 #include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
 #include "guests/GuestTestData.h"
@@ -24,6 +25,7 @@
 #include <memory>
 
 using C = clsReportCatalogue;
+using namespace UiTestTools;
 
 namespace {
 
@@ -60,13 +62,6 @@ void Tick(QWidget& form, const QString& name) {
     auto* box = form.findChild<QCheckBox*>(name);
     QVERIFY2(box, qPrintable(name));
     QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->height() / 2, box->height() / 2));
-}
-
-template <typename T> T* Child(QWidget& parent, const QString& name) {
-    T* child = parent.findChild<T*>(name);
-    if (!child)
-        qFatal("no control %s", qPrintable(name));
-    return child;
 }
 
 QTreeWidgetItem* RowCaptioned(QTreeWidget* grid, const QString& caption) {
@@ -121,44 +116,6 @@ private slots:
         ReportDialogs::Unregister(QStringLiteral("frmReportsLabels"));
         mDb.reset();
     }
-
-    void sectionShowsItsRowsWithCounts_data() {
-        QTest::addColumn<QString>("section");
-        QTest::addColumn<QString>("row");
-        QTest::addColumn<QString>("countSql"); // what the count must be, asked of the tables directly
-        QTest::addColumn<bool>("bold");
-        QTest::addColumn<int>("indent");
-        QTest::addColumn<QString>("notes");
-        QTest::addColumn<bool>("enabled");
-        const QString contacts = QStringLiteral("SELECT COUNT(*) FROM CONTACT");
-        QTest::newRow("head") << "Contacts"
-                              << "All Contacts" << contacts << true << 0 << "" << true;
-        QTest::newRow("note") << "Attendees"
-                              << "Meals"
-                              << "SELECT COUNT(*) FROM MEAL_DICT" << true << 0 << "For Caterer" << true;
-        QTest::newRow("class missing") << "Attendees"
-                                       << "Tabula Rasa" << contacts + " WHERE ATTENDING_FG = 'Y'" << true << 0
-                                       << "Not available yet" << false;
-    }
-    void sectionShowsItsRowsWithCounts() {
-        QFETCH(QString, section);
-        QFETCH(QString, row);
-        auto form = OpenReports(C::Vendors, 0);
-        auto* gridReport = Child<QTreeWidget>(*form, QStringLiteral("gridReport"));
-        auto* gridFilter = Child<QTreeWidget>(*form, QStringLiteral("gridFilter"));
-        ClickRow(gridReport, RowCaptioned(gridReport, section));
-        QCOMPARE(form->SectionKey(), C::Sections().at(C::SectionIndex(form->SectionKey())).Key);
-        QTreeWidgetItem* item = RowCaptioned(gridFilter, row);
-        QVERIFY2(item, qPrintable(row));
-        QFETCH(QString, countSql);
-        QCOMPARE(item->text(1), TestDatabase::Scalar(countSql));
-        QTEST(item->font(0).bold(), "bold");
-        QTEST(item->data(0, Qt::UserRole + 1).toInt(), "indent");
-        QTEST(item->text(2), "notes");
-        QTEST(bool(item->flags() & Qt::ItemIsEnabled), "enabled");
-        QCOMPARE(gridFilter->topLevelItemCount(), C::FilterRows(form->SectionKey()).size());
-    }
-
     void sectionWithoutClassesCannotRun() {
         auto form = OpenReports(C::Budget, 0);
         auto* gridFilter = Child<QTreeWidget>(*form, QStringLiteral("gridFilter"));
@@ -166,26 +123,6 @@ private slots:
         QCOMPARE(form->FilterRowIndex(), -1);
         QVERIFY(!Child<QPushButton>(*form, QStringLiteral("cmdRun"))->isEnabled());
     }
-
-    void opensOnTheGivenSectionAndRow_data() {
-        QTest::addColumn<int>("section");
-        QTest::addColumn<int>("filterKey");
-        QTest::addColumn<QString>("sectionCaption");
-        QTest::addColumn<QString>("rowCaption");
-        QTest::newRow("attendees meals") << int(C::Attendees) << 98 << "Attendees"
-                                         << "Meals";
-        QTest::newRow("unknown section") << 77 << 38 << "Contacts"
-                                         << "All Contacts";
-    }
-    void opensOnTheGivenSectionAndRow() {
-        QFETCH(int, section);
-        QFETCH(int, filterKey);
-        auto form = OpenReports(section, filterKey);
-        QTEST(Child<QTreeWidget>(*form, QStringLiteral("gridReport"))->currentItem()->text(0),
-              "sectionCaption");
-        QTEST(Child<QTreeWidget>(*form, QStringLiteral("gridFilter"))->currentItem()->text(0), "rowCaption");
-    }
-
     void labelsFollowTheirRuleAndFallBack() {
         QList<clsReportRoute> labelRoutes;
         ReportDialogs::Register(QStringLiteral("frmReportsLabels"),
