@@ -1,4 +1,5 @@
 #include "TestDatabase.h"
+#include "seating/SeatingTestData.h"
 #include "seating/modSeating.h"
 
 #include <QPoint>
@@ -7,39 +8,14 @@
 #include <sqlite3.h>
 
 using modSeating::Seats;
+using namespace SeatingTestData;
 
 class tst_modSeating : public QObject {
     Q_OBJECT
 
     std::unique_ptr<TestDatabase> db;
 
-    static QString AddTable(const QString& number, int seats) {
-        clsDINING_TABLE table;
-        table.DINING_TABLE_NB = number;
-        table.SEATS_NB = QString::number(seats);
-        table.POS_X = QStringLiteral("0");
-        table.POS_Y = QStringLiteral("0");
-        table.DINING_TABLE_TYPE_ID = QStringLiteral("1");
-        table.Save(true);
-        return table.DINING_TABLE_ID;
-    }
-    // Guests 3, 4, ...; the couple are contacts 1 and 2.
-    static QStringList AddGuests(int count, int first = 3) {
-        QStringList ids;
-        for (int id = first; id < first + count; ++id) {
-            TestDatabase::Exec(
-                "INSERT INTO CONTACT (CONTACT_ID, LAST_NM, ATTENDING_FG) VALUES (?, 'Guest', 'Y')", {id});
-            ids << QString::number(id);
-        }
-        return ids;
-    }
-    static QString TableOf(const QString& contactId) {
-        return TestDatabase::Scalar("SELECT DINING_TABLE_ID FROM CONTACT WHERE CONTACT_ID = ?", {contactId});
-    }
-    static int SeatedAt(const QString& tableId) {
-        return TestDatabase::Scalar("SELECT COUNT(*) FROM CONTACT WHERE DINING_TABLE_ID = ?", {tableId})
-            .toInt();
-    }
+    static int SeatedAt(const QString& table) { return int(SeatedInDb(table).size()); }
 
 private slots:
     void init() { db = std::make_unique<TestDatabase>(); }

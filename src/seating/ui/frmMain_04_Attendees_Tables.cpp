@@ -51,6 +51,8 @@ const QColor kGridColor(226, 218, 208);
 const QSizeF kMinimumFloor(1600, 1200);
 // The picture of the layout, scaled to fit; the PNG has twice as many pixels each way.
 const QSize kPictureSize(960, 720);
+// The report of the tables section that carries the picture.
+constexpr int kTableOverviewRow = 2;
 
 QString Plural(long count, const QString& one, const QString& many) {
     return count == 1 ? one : many;
@@ -921,7 +923,8 @@ void frmMain_04_Attendees_Tables::ToggleLock() {
 
 void frmMain_04_Attendees_Tables::PrintLayout() {
     WriteLayoutPicture();
-    modPages::OpenReports(this, clsReportCatalogue::Tables, 3);
+    // The table overview, which places the picture.
+    modPages::OpenReports(this, clsReportCatalogue::Tables, kTableOverviewRow);
 }
 
 bool frmMain_04_Attendees_Tables::WriteLayoutPicture() {

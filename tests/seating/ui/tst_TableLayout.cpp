@@ -1,5 +1,7 @@
 #include "TestDatabase.h"
+#include "UiTestTools.h"
 #include "core/ShowMessage.h"
+#include "seating/SeatingTestData.h"
 #include "seating/modSeating.h"
 #include "seating/ui/frmMain_04_Attendees_Tables.h"
 #include "seating/ui/usrDiningTable.h"
@@ -19,48 +21,10 @@
 #include <memory>
 #include <sqlite3.h>
 
+using namespace SeatingTestData;
+using UiTestTools::Child;
+
 namespace {
-
-QString AddTable(const QString& number, int seats, int x = 0, int y = 0, const QString& shape = "1") {
-    clsDINING_TABLE table;
-    table.DINING_TABLE_NB = number;
-    table.SEATS_NB = QString::number(seats);
-    table.POS_X = QString::number(x);
-    table.POS_Y = QString::number(y);
-    table.DINING_TABLE_TYPE_ID = shape;
-    table.Save(true);
-    return table.DINING_TABLE_ID;
-}
-
-// Attending guests from key 10 on, named so that the list keeps them in key order.
-QStringList AddGuests(int count, int first = 10) {
-    QStringList ids;
-    for (int id = first; id < first + count; ++id) {
-        TestDatabase::Exec(
-            "INSERT INTO CONTACT (CONTACT_ID, FIRST_NM, LAST_NM, ATTENDING_FG) VALUES (?, 'Ann', ?, 'Y')",
-            {id, QStringLiteral("Guest%1").arg(id, 4, 10, QLatin1Char('0'))});
-        ids << QString::number(id);
-    }
-    return ids;
-}
-
-void SeatInDb(const QStringList& ids, const QString& table) {
-    for (const QString& id : ids)
-        TestDatabase::Exec("UPDATE CONTACT SET DINING_TABLE_ID = ? WHERE CONTACT_ID = ?", {table, id});
-}
-
-QString TableOf(const QString& contactId) {
-    return TestDatabase::Scalar("SELECT DINING_TABLE_ID FROM CONTACT WHERE CONTACT_ID = ?", {contactId});
-}
-
-QStringList SeatedInDb(const QString& table) {
-    QStringList ids;
-    const clsRecordset rs =
-        gDB().Execute("SELECT CONTACT_ID FROM CONTACT WHERE DINING_TABLE_ID = ? ORDER BY LAST_NM", {table});
-    for (int row = 0; row < rs.RowCount(); ++row)
-        ids << rs.Row(row).value(0);
-    return ids;
-}
 
 QStringList UnseatedInDb() {
     QStringList ids;
@@ -157,7 +121,7 @@ private slots:
         frmMain_04_Attendees_Tables page;
         page.resize(1200, 800);
         page.show();
-        auto* tree = page.findChild<QTreeWidget*>("tvw");
+        auto* tree = Child<QTreeWidget>(page, "tvw");
         QTreeWidgetItem* target = tree->topLevelItem(1);
         QCOMPARE(target->text(0), QStringLiteral("2"));
         std::unique_ptr<QMimeData> data(GuestDrag::Make({guests[0]}, true));
@@ -200,7 +164,7 @@ private slots:
         QVERIFY(page.UnseatGuests({guests[0], guests[2]}));
         QCOMPARE(SeatedInDb(a), QStringList{guests[1]});
         AgreeWithDatabase(page, {a});
-        QCOMPARE(page.findChild<QLabel*>("lblAttendees")->text(),
+        QCOMPARE(Child<QLabel>(page, "lblAttendees")->text(),
                  QStringLiteral("Attendees to be seated (%1)").arg(UnseatedInDb().size()));
         page.UndoStack()->undo();
         QCOMPARE(SeatedInDb(a), guests);
@@ -291,8 +255,8 @@ private slots:
         QVERIFY(!page.TableItem(a));
         QVERIFY(page.UnseatedIds().contains(guests[0]) && page.UnseatedIds().contains(guests[1]));
         AgreeWithDatabase(page, {b});
-        QCOMPARE(page.findChild<QLabel*>("lblCount")->text(), QStringLiteral("1"));
-        QCOMPARE(page.findChild<QLabel*>("lblDiningTables")->text(), QStringLiteral("Dining Table"));
+        QCOMPARE(Child<QLabel>(page, "lblCount")->text(), QStringLiteral("1"));
+        QCOMPARE(Child<QLabel>(page, "lblDiningTables")->text(), QStringLiteral("Dining Table"));
     }
 
     void emptyAndDeleteAll_data() {
@@ -363,7 +327,7 @@ private slots:
         QVERIFY(!page.TableItem(free)->BackColor().isValid());
         page.UndoStack()->undo();
         QVERIFY(page.TableItem(free)->BackColor().isValid());
-        page.findChild<QCheckBox*>("chkReveal")->setChecked(false);
+        UiTestTools::Toggle(Child<QCheckBox>(page, "chkReveal"));
         QVERIFY(!page.TableItem(free)->BackColor().isValid());
         QCOMPARE(gApp().RevealTableStatus(), 0);
     }
