@@ -1,11 +1,13 @@
 #include "TestDatabase.h"
 #include "UiTestTools.h"
 #include "core/ShowMessage.h"
+#include "reports/clsReportCatalogue.h"
 #include "seating/SeatingTestData.h"
 #include "seating/modSeating.h"
 #include "seating/ui/frmMain_04_Attendees_Tables.h"
 #include "seating/ui/usrDiningTable.h"
 #include "shell/controls/usrHyperlink.h"
+#include "shell/modPages.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -25,6 +27,17 @@ using namespace SeatingTestData;
 using UiTestTools::Child;
 
 namespace {
+
+// Guests dragged onto a widget at a point, the way the mouse does it: enter, move, drop.
+void DropGuests(QWidget* target, const QPoint& at, const QStringList& ids, bool fromTable) {
+    std::unique_ptr<QMimeData> data(GuestDrag::Make(ids, fromTable));
+    QDragEnterEvent enter(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    QDragMoveEvent move(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &move);
+    QDropEvent drop(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+}
 
 QStringList UnseatedInDb() {
     QStringList ids;
@@ -124,14 +137,7 @@ private slots:
         auto* tree = Child<QTreeWidget>(page, "tvw");
         QTreeWidgetItem* target = tree->topLevelItem(1);
         QCOMPARE(target->text(0), QStringLiteral("2"));
-        std::unique_ptr<QMimeData> data(GuestDrag::Make({guests[0]}, true));
-        const QPoint at = tree->visualItemRect(target).center();
-        QDragEnterEvent enter(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(tree->viewport(), &enter);
-        QDragMoveEvent move(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(tree->viewport(), &move);
-        QDropEvent drop(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(tree->viewport(), &drop);
+        DropGuests(tree->viewport(), tree->visualItemRect(target).center(), {guests[0]}, true);
 
         QCOMPARE(TableOf(guests[0]), b);
         AgreeWithDatabase(page, {a, b});
@@ -141,6 +147,41 @@ private slots:
         page.UndoStack()->redo();
         QCOMPARE(TableOf(guests[0]), b);
         AgreeWithDatabase(page, {a, b});
+    }
+
+    // From the list onto a table on the floor, and from the tree back onto the list.
+    void dropOnTheFloorAndBack() {
+        const QString a = AddTable("1", 8, 1500, 1500);
+        const QStringList guests = AddGuests(2);
+        frmMain_04_Attendees_Tables page;
+        page.resize(1200, 800);
+        page.show();
+        QGraphicsView* floor = page.FloorView();
+        const QPoint at = floor->mapFromScene(page.TableItem(a)->sceneBoundingRect().center());
+        DropGuests(floor->viewport(), at, guests, false);
+        QCOMPARE(SeatedInDb(a), guests);
+        AgreeWithDatabase(page, {a});
+        auto* list = Child<QTreeWidget>(page, "lvw");
+        DropGuests(list->viewport(), QPoint(10, 10), {guests[1]}, true);
+        QCOMPARE(SeatedInDb(a), QStringList{guests[0]});
+        AgreeWithDatabase(page, {a});
+    }
+
+    void printReportsWritesThePictureFirst() {
+        AddTable("1", 8);
+        int section = 0, row = 0;
+        bool pictureThere = false;
+        modPages::RegisterReports([&](QWidget*, int s, int r) {
+            section = s;
+            row = r;
+            pictureThere = QFile::exists(gApp().ReportPath() + "/TableLayout.bmp");
+        });
+        frmMain_04_Attendees_Tables page;
+        page.PrintLayout();
+        modPages::RegisterReports(nullptr);
+        QCOMPARE(section, int(clsReportCatalogue::Tables));
+        QCOMPARE(row, 2);
+        QVERIFY(pictureThere);
     }
 
     void moveToAFullTableIsRefused() {
