@@ -10,6 +10,7 @@
 #include "seating/ui/frmTableSwap.h"
 #include "seating/ui/modTableShapes.h"
 #include "seating/ui/usrDiningTable.h"
+#include "seating/ui/usrFloorPlan.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/mdiMain.h"
 #include "shell/modPages.h"
@@ -18,8 +19,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDir>
-#include <QDrag>
-#include <QDragMoveEvent>
 #include <QGraphicsScene>
 #include <QGraphicsView>
 #include <QHBoxLayout>
@@ -28,25 +27,19 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
-#include <QMimeData>
 #include <QPainter>
 #include <QSplitter>
 #include <QTreeWidget>
 #include <QUndoCommand>
 #include <QUndoStack>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 #include <algorithm>
-#include <cmath>
 #include <functional>
-#include <optional>
 
 namespace {
 
-constexpr int kIdRole = Qt::UserRole;
-constexpr int kIsTableRole = Qt::UserRole + 1;
-const QColor kFloorColor(252, 249, 244);
-const QColor kGridColor(226, 218, 208);
+using FloorPlan::IdRole;
+using FloorPlan::IsTableRole;
 // The smallest floor; a larger wedding's tables make it grow to hold them all with a cell to spare.
 const QSizeF kMinimumFloor(1600, 1200);
 // The picture of the layout, scaled to fit; the PNG has twice as many pixels each way.
@@ -57,117 +50,6 @@ constexpr int kTableOverviewRow = 2;
 QString Plural(long count, const QString& one, const QString& many) {
     return count == 1 ? one : many;
 }
-
-// The floor: its colour and, while "Show Grid" is ticked, the lines of the 32-pixel cells.
-class clsFloorScene : public QGraphicsScene {
-public:
-    using QGraphicsScene::QGraphicsScene;
-    bool Grid = true;
-
-protected:
-    void drawBackground(QPainter* painter, const QRectF& exposed) override {
-        const QRectF floor = sceneRect();
-        painter->fillRect(exposed.intersected(floor), kFloorColor);
-        if (!Grid)
-            return;
-        const QRectF area = exposed.intersected(floor);
-        const int cell = modSeating::kCellPixels;
-        painter->setPen(QPen(kGridColor, 0));
-        QVector<QLineF> lines;
-        for (qreal x = std::ceil(area.left() / cell) * cell; x <= area.right(); x += cell)
-            lines.append(QLineF(x, area.top(), x, area.bottom()));
-        for (qreal y = std::ceil(area.top() / cell) * cell; y <= area.bottom(); y += cell)
-            lines.append(QLineF(area.left(), y, area.right(), y));
-        painter->drawLines(lines);
-    }
-};
-
-// The floor's view: Ctrl with the wheel zooms; the wheel alone scrolls.
-class usrFloorView : public QGraphicsView {
-public:
-    using QGraphicsView::QGraphicsView;
-
-protected:
-    void wheelEvent(QWheelEvent* event) override {
-        if (!(event->modifiers() & Qt::ControlModifier)) {
-            QGraphicsView::wheelEvent(event);
-            return;
-        }
-        const qreal factor = event->angleDelta().y() > 0 ? 1.15 : 1 / 1.15;
-        const qreal zoom = transform().m11() * factor;
-        if (zoom > 0.05 && zoom < 8)
-            scale(factor, factor);
-        event->accept();
-    }
-};
-
-// The list of those still to be seated and the tree of the tables: both hand out the guests they
-// carry and take guests dropped on them. Only guest rows can be dragged.
-class usrGuestTree : public QTreeWidget {
-public:
-    usrGuestTree(bool fromTable, QWidget* parent) : QTreeWidget(parent), mFromTable(fromTable) {
-        setDragEnabled(true);
-        setAcceptDrops(true);
-        setDragDropMode(QAbstractItemView::DragDrop);
-        setSelectionMode(QAbstractItemView::ExtendedSelection);
-        setUniformRowHeights(true);
-    }
-    // The guests, where they came from, and the table of the row they were dropped on ("" for none).
-    std::function<void(const QStringList&, bool, const QString&)> OnDrop;
-    std::function<QString(QTreeWidgetItem*)> TableOfRow;
-
-protected:
-    QStringList mimeTypes() const override { return {QStringLiteral("application/x-vowren-guests")}; }
-    QMimeData* mimeData(const QList<QTreeWidgetItem*>& items) const override {
-        QStringList ids;
-        for (QTreeWidgetItem* item : items) {
-            if (!item->data(0, kIsTableRole).toBool())
-                ids << item->data(0, kIdRole).toString();
-        }
-        return GuestDrag::Make(ids, mFromTable);
-    }
-    Qt::DropActions supportedDropActions() const override { return Qt::CopyAction; }
-    // The page moves the rows itself once the seats are saved: the drag only carries the keys.
-    void startDrag(Qt::DropActions) override {
-        QMimeData* data = mimeData(selectedItems());
-        auto* drag = new QDrag(this);
-        drag->setMimeData(data);
-        drag->exec(Qt::CopyAction);
-    }
-    void dragEnterEvent(QDragEnterEvent* event) override {
-        QStringList ids;
-        bool fromTable = false;
-        event->setAccepted(GuestDrag::Read(event->mimeData(), &ids, &fromTable));
-    }
-    void dragMoveEvent(QDragMoveEvent* event) override { event->setAccepted(Target(event).has_value()); }
-    void dropEvent(QDropEvent* event) override {
-        const std::optional<QString> table = Target(event);
-        QStringList ids;
-        bool fromTable = false;
-        if (!table || !GuestDrag::Read(event->mimeData(), &ids, &fromTable))
-            return;
-        event->setDropAction(Qt::CopyAction);
-        event->accept();
-        if (OnDrop)
-            OnDrop(ids, fromTable, *table);
-    }
-
-private:
-    // Where a drop would go: the tree takes guests on a table's row or a guest's, the list takes guests
-    // coming back from the tables anywhere.
-    std::optional<QString> Target(QDropEvent* event) const {
-        QStringList ids;
-        bool fromTable = false;
-        if (!GuestDrag::Read(event->mimeData(), &ids, &fromTable))
-            return std::nullopt;
-        if (!mFromTable)
-            return fromTable ? std::optional<QString>(QString()) : std::nullopt;
-        const QString table = TableOfRow ? TableOfRow(itemAt(event->position().toPoint())) : QString();
-        return table.isEmpty() ? std::nullopt : std::optional<QString>(table);
-    }
-
-    bool mFromTable;
-};
 
 // One step of seating: where the people sat before and where they sit after. The change is made before
 // the step is kept, so its first redo does nothing.
@@ -368,7 +250,7 @@ QWidget* frmMain_04_Attendees_Tables::BuildLeft() {
             return;
         OnTreeClicked(item);
         const QPoint global = tvw->viewport()->mapToGlobal(at);
-        if (item->data(0, kIsTableRole).toBool())
+        if (item->data(0, IsTableRole).toBool())
             ShowTableMenu(global);
         else
             mnuHiddenSeatedAttendeeRoot->popup(global);
@@ -441,8 +323,8 @@ void frmMain_04_Attendees_Tables::BuildMenus() {
         menuOf("mnuHiddenSeatedAttendeeRoot", {{QStringLiteral("Remove Attendee"), [this] {
                                                     QStringList ids;
                                                     for (QTreeWidgetItem* item : tvw->selectedItems())
-                                                        if (!item->data(0, kIsTableRole).toBool())
-                                                            ids << item->data(0, kIdRole).toString();
+                                                        if (!item->data(0, IsTableRole).toBool())
+                                                            ids << item->data(0, IdRole).toString();
                                                     UnseatGuests(ids);
                                                 }}});
 }
@@ -517,8 +399,8 @@ QTreeWidgetItem* frmMain_04_Attendees_Tables::AddTableNode(const clsDINING_TABLE
     auto* node = new QTreeWidgetItem;
     node->setText(0, NodeText(table));
     node->setIcon(0, NodeIcon(table.DINING_TABLE_TYPE_ID, false));
-    node->setData(0, kIdRole, table.DINING_TABLE_ID);
-    node->setData(0, kIsTableRole, true);
+    node->setData(0, IdRole, table.DINING_TABLE_ID);
+    node->setData(0, IsTableRole, true);
     node->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDropEnabled);
     mTableNodes.insert(table.DINING_TABLE_ID, node);
     return node;
@@ -541,7 +423,7 @@ void frmMain_04_Attendees_Tables::LoadGuests() {
         auto* node = new QTreeWidgetItem;
         node->setText(0, c.LastFirstMiddle());
         node->setIcon(0, mGuests[c.CONTACT_ID].Icon);
-        node->setData(0, kIdRole, c.CONTACT_ID);
+        node->setData(0, IdRole, c.CONTACT_ID);
         mSeated.insert(c.CONTACT_ID, node);
         children[c.DINING_TABLE_ID] << node;
     }
@@ -554,7 +436,7 @@ void frmMain_04_Attendees_Tables::LoadGuests() {
         auto* row = new QTreeWidgetItem;
         row->setText(0, c.LastFirstMiddleSuffix());
         row->setIcon(0, mGuests[c.CONTACT_ID].Icon);
-        row->setData(0, kIdRole, c.CONTACT_ID);
+        row->setData(0, IdRole, c.CONTACT_ID);
         mUnseated.insert(c.CONTACT_ID, row);
         rows << row;
     }
@@ -603,7 +485,7 @@ void frmMain_04_Attendees_Tables::AddListItem(const QString& contactId) {
     auto* row = new QTreeWidgetItem;
     row->setText(0, guest.ListName);
     row->setIcon(0, guest.Icon);
-    row->setData(0, kIdRole, contactId);
+    row->setData(0, IdRole, contactId);
     mUnseated.insert(contactId, row);
     // Kept in name order, as it was loaded.
     int at = 0;
@@ -626,7 +508,7 @@ void frmMain_04_Attendees_Tables::ShowSeat(const QString& contactId, const QStri
     auto* node = new QTreeWidgetItem(parent);
     node->setText(0, mGuests[contactId].TreeName);
     node->setIcon(0, mGuests[contactId].Icon);
-    node->setData(0, kIdRole, contactId);
+    node->setData(0, IdRole, contactId);
     mSeated.insert(contactId, node);
     parent->sortChildren(0, Qt::AscendingOrder);
     ++mTaken[tableId];
@@ -698,7 +580,7 @@ void frmMain_04_Attendees_Tables::UpdateLinks() {
 QStringList frmMain_04_Attendees_Tables::UnseatedIds() const {
     QStringList ids;
     for (int i = 0; i < lvw->topLevelItemCount(); ++i)
-        ids << lvw->topLevelItem(i)->data(0, kIdRole).toString();
+        ids << lvw->topLevelItem(i)->data(0, IdRole).toString();
     return ids;
 }
 
@@ -706,7 +588,7 @@ QStringList frmMain_04_Attendees_Tables::GuestsAt(const QString& tableId) const 
     QStringList ids;
     if (const QTreeWidgetItem* node = mTableNodes.value(tableId)) {
         for (int i = 0; i < node->childCount(); ++i)
-            ids << node->child(i)->data(0, kIdRole).toString();
+            ids << node->child(i)->data(0, IdRole).toString();
     }
     return ids;
 }
@@ -714,9 +596,9 @@ QStringList frmMain_04_Attendees_Tables::GuestsAt(const QString& tableId) const 
 QString frmMain_04_Attendees_Tables::TableOfNode(QTreeWidgetItem* item) const {
     if (!item)
         return {};
-    if (!item->data(0, kIsTableRole).toBool())
+    if (!item->data(0, IsTableRole).toBool())
         item = item->parent();
-    return item ? item->data(0, kIdRole).toString() : QString();
+    return item ? item->data(0, IdRole).toString() : QString();
 }
 
 // ---- Drops ----------------------------------------------------------------------------------------------
@@ -778,7 +660,7 @@ void frmMain_04_Attendees_Tables::OnTreeDrop(const QStringList& ids, bool, const
 }
 
 void frmMain_04_Attendees_Tables::OnTreeClicked(QTreeWidgetItem* item) {
-    if (item && item->data(0, kIsTableRole).toBool())
+    if (item && item->data(0, IsTableRole).toBool())
         SelectTable(TableOfNode(item));
 }
 
@@ -937,7 +819,7 @@ bool frmMain_04_Attendees_Tables::WriteLayoutPicture() {
     bool written = true;
     for (int scale : {1, 2}) {
         QImage picture(size * scale, QImage::Format_RGB32);
-        picture.fill(kFloorColor);
+        picture.fill(FloorPlan::FloorColor);
         QPainter painter(&picture);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setRenderHint(QPainter::TextAntialiasing);
