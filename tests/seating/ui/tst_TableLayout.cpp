@@ -214,6 +214,20 @@ private slots:
         QCOMPARE(SeatedInDb(a), QStringList{guests[1]});
     }
 
+    // The keys of the page take a step back and forward again.
+    void undoAndRedoKeys() {
+        const QString a = AddTable("1", 8);
+        const QStringList guests = AddGuests(1);
+        frmMain_04_Attendees_Tables page;
+        UiTestTools::ShowActive(page);
+        QVERIFY(page.SeatGuests(a, guests));
+        QTest::keyClick(page.FloorView(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(TableOf(guests[0]), QString());
+        QTest::keyClick(page.FloorView(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(TableOf(guests[0]), a);
+        AgreeWithDatabase(page, {a});
+    }
+
     // Locked: tables stay where they are and the five table commands are off, but guests are seated.
     void lockKeepsTablesButNotGuests() {
         const QString a = AddTable("1", 8, 300, 300);
