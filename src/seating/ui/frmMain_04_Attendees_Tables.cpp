@@ -416,34 +416,36 @@ void frmMain_04_Attendees_Tables::LoadGuests() {
         RecordIO::Read([] { return clsCONTACT::OpenRecords(ContactFilter::ToBeSeated); });
     QHash<QString, QList<QTreeWidgetItem*>> children;
     for (const clsCONTACT& c : seated) {
-        mGuests.insert(c.CONTACT_ID,
-                       {c.LastFirstMiddleSuffix(), c.LastFirstMiddle(), GuestIcon(c.CONTACT_ID)});
-        if (!mTableNodes.contains(c.DINING_TABLE_ID))
-            continue;
-        auto* node = new QTreeWidgetItem;
-        node->setText(0, c.LastFirstMiddle());
-        node->setIcon(0, mGuests[c.CONTACT_ID].Icon);
-        node->setData(0, IdRole, c.CONTACT_ID);
-        mSeated.insert(c.CONTACT_ID, node);
-        children[c.DINING_TABLE_ID] << node;
+        Remember(c);
+        if (mTableNodes.contains(c.DINING_TABLE_ID))
+            children[c.DINING_TABLE_ID] << GuestRow(c.CONTACT_ID, true);
     }
     for (auto it = children.cbegin(); it != children.cend(); ++it)
         mTableNodes[it.key()]->addChildren(it.value());
     QList<QTreeWidgetItem*> rows;
     for (const clsCONTACT& c : unseated) {
-        mGuests.insert(c.CONTACT_ID,
-                       {c.LastFirstMiddleSuffix(), c.LastFirstMiddle(), GuestIcon(c.CONTACT_ID)});
-        auto* row = new QTreeWidgetItem;
-        row->setText(0, c.LastFirstMiddleSuffix());
-        row->setIcon(0, mGuests[c.CONTACT_ID].Icon);
-        row->setData(0, IdRole, c.CONTACT_ID);
-        mUnseated.insert(c.CONTACT_ID, row);
-        rows << row;
+        Remember(c);
+        rows << GuestRow(c.CONTACT_ID, false);
     }
     lvw->addTopLevelItems(rows);
 }
 
 // ---- The views, item by item ----------------------------------------------------------------------------
+
+void frmMain_04_Attendees_Tables::Remember(const clsCONTACT& c) {
+    mGuests.insert(c.CONTACT_ID, {c.LastFirstMiddleSuffix(), c.LastFirstMiddle(), GuestIcon(c.CONTACT_ID)});
+}
+
+// The person's node under a table (seated) or row in the list, counted among those shown.
+QTreeWidgetItem* frmMain_04_Attendees_Tables::GuestRow(const QString& contactId, bool seated) {
+    const Guest& guest = mGuests[contactId];
+    auto* row = new QTreeWidgetItem;
+    row->setText(0, seated ? guest.TreeName : guest.ListName);
+    row->setIcon(0, guest.Icon);
+    row->setData(0, IdRole, contactId);
+    (seated ? mSeated : mUnseated).insert(contactId, row);
+    return row;
+}
 
 QPointF frmMain_04_Attendees_Tables::PixelsOf(const clsDINING_TABLE& table) const {
     return {table.POS_X.toDouble() / modSeating::kTwipsPerPixel,
@@ -476,21 +478,17 @@ bool frmMain_04_Attendees_Tables::KnowGuest(const QString& contactId) {
     clsCONTACT c;
     if (!RecordIO::Read([&] { return c.OpenRecord(contactId); }))
         return false;
-    mGuests.insert(contactId, {c.LastFirstMiddleSuffix(), c.LastFirstMiddle(), GuestIcon(contactId)});
+    Remember(c);
     return true;
 }
 
 void frmMain_04_Attendees_Tables::AddListItem(const QString& contactId) {
-    const Guest guest = mGuests.value(contactId);
-    auto* row = new QTreeWidgetItem;
-    row->setText(0, guest.ListName);
-    row->setIcon(0, guest.Icon);
-    row->setData(0, IdRole, contactId);
-    mUnseated.insert(contactId, row);
+    QTreeWidgetItem* row = GuestRow(contactId, false);
+    const QString name = row->text(0);
     // Kept in name order, as it was loaded.
     int at = 0;
     while (at < lvw->topLevelItemCount() &&
-           QString::localeAwareCompare(lvw->topLevelItem(at)->text(0), guest.ListName) <= 0)
+           QString::localeAwareCompare(lvw->topLevelItem(at)->text(0), name) <= 0)
         ++at;
     lvw->insertTopLevelItem(at, row);
 }
@@ -505,11 +503,7 @@ void frmMain_04_Attendees_Tables::ShowSeat(const QString& contactId, const QStri
         AddListItem(contactId);
         return;
     }
-    auto* node = new QTreeWidgetItem(parent);
-    node->setText(0, mGuests[contactId].TreeName);
-    node->setIcon(0, mGuests[contactId].Icon);
-    node->setData(0, IdRole, contactId);
-    mSeated.insert(contactId, node);
+    parent->addChild(GuestRow(contactId, true));
     parent->sortChildren(0, Qt::AscendingOrder);
     ++mTaken[tableId];
     RefreshTable(tableId);

@@ -8,6 +8,7 @@
 #include <QPoint>
 
 class QCheckBox;
+class clsCONTACT;
 class QGraphicsScene;
 class QGraphicsView;
 class QLabel;
@@ -112,6 +113,8 @@ private:
     void ShowSeat(const QString& contactId, const QString& tableId);
     void ForgetSeat(const QString& contactId);
     bool KnowGuest(const QString& contactId);
+    void Remember(const clsCONTACT& contact);
+    QTreeWidgetItem* GuestRow(const QString& contactId, bool seated);
     void AddListItem(const QString& contactId);
     void RefreshTable(const QString& tableId);
     void RefreshCounts();
