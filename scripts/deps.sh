@@ -6,7 +6,7 @@ set -euo pipefail
 VOWREN_PACKAGES=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-svg-dev libgl-dev libglx-dev
-    libsqlite3-dev libbenchmark-dev ccache
+    libsqlite3-dev libbenchmark-dev ccache lld
     fonts-dejavu-core
 )
 

@@ -27,6 +27,7 @@ CliCommand RelabelCommand();
 CliCommand SeatCommand();
 CliCommand UnseatCommand();
 CliCommand TablesCommand();
+CliCommand TentcardsCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();
@@ -36,6 +37,9 @@ CliCommand RestoreCommand();
 // run beside another program.
 bool StartForChange(QTextStream& err);
 bool StartForReading(QTextStream& err);
+
+// Prints every table with its seats taken, "Table #n: t of s seats taken"; the exit status.
+int ListTables(QTextStream& out, QTextStream& err);
 
 // Keys and numbers on the command line: whole numbers above 0, at least one of them.
 bool AreKeys(const QStringList& keys);

@@ -40,6 +40,7 @@ const std::vector<CliCommand>& CliCommands() {
         SeatCommand(),
         UnseatCommand(),
         TablesCommand(),
+        TentcardsCommand(),
     };
     return commands;
 }

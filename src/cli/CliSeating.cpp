@@ -1,97 +1,142 @@
-// Seating guests from a script: the same all-or-none rule and the same words as the floor plan.
+// Commands of the seating: adding and swapping tables, rebuilding the tent cards.
 #include "cli/CliCommand.h"
 
 #include "core/ShowMessage.h"
-#include "core/clsDB.h"
-#include "seating/modSeating.h"
+#include "seating/clsDINING_TABLE.h"
+#include "seating/clsTENTCARD.h"
+
+#include <climits>
+#include <optional>
 
 namespace {
 
-const QString kSeatUsage = QStringLiteral("seat --table NUMBER ID...");
-const QString kUnseatUsage = QStringLiteral("unseat ID...");
+const QString kTablesUsage = QStringLiteral("tables [--add N [--seats S] [--shape K] | --swap A B]");
+// Twips of one pixel on the usual screen of 96 dots an inch.
+constexpr double kTwipsPerPixel = 15.0;
 
-// Runs the work, printing a refusal of the database on err; the exit status.
-int Guarded(const QString& command, QTextStream& err, const std::function<int()>& work) {
+// A whole number from `lowest` to `highest`, or nothing.
+std::optional<int> WholeNumber(const QString& text, int lowest, int highest) {
+    bool ok = false;
+    const int value = text.toInt(&ok);
+    if (!ok || value < lowest || value > highest)
+        return std::nullopt;
+    return value;
+}
+
+int Usage(QTextStream& err, const QString& why) {
+    err << "vowren-cli: tables: " << why << " (usage: " << kTablesUsage << ")\n";
+    return kExitUsage;
+}
+
+int Failed(QTextStream& err, const QString& command, const clsDbError& e) {
+    err << "vowren-cli: " << command << ": nothing was changed: " << TranslateEngineMessage(e.Message())
+        << '\n';
+    return kExitFailed;
+}
+
+int AddTables(const QStringList& args, QTextStream& out, QTextStream& err) {
+    const std::optional<int> count = WholeNumber(args.value(1), 1, 500);
+    if (!count)
+        return Usage(err, QStringLiteral("--add takes a count from 1 to 500"));
+    clsDINING_TABLE model;
+    model.SEATS_NB = QStringLiteral("8");
+    model.DINING_TABLE_TYPE_ID = QStringLiteral("1");
+    for (qsizetype i = 2; i < args.size(); i += 2) {
+        const QString option = args.at(i);
+        const bool seats = option == QLatin1String("--seats");
+        if (!seats && option != QLatin1String("--shape"))
+            return Usage(err, QStringLiteral("unknown option \"%1\"").arg(option));
+        const std::optional<int> value = WholeNumber(args.value(i + 1), 1, seats ? 999 : 4);
+        if (!value)
+            return Usage(err, seats
+                                  ? QStringLiteral("--seats takes a number from 1 to 999")
+                                  : QStringLiteral("--shape takes 1 (round), 2 (square), 3 or 4 (banquet)"));
+        (seats ? model.SEATS_NB : model.DINING_TABLE_TYPE_ID) = QString::number(*value);
+    }
+    if (!StartForChange(err))
+        return kExitFailed;
     try {
-        return work();
+        model.DINING_TABLE_NB = clsDINING_TABLE::NEXT_NB();
+        const QStringList keys = clsDINING_TABLE::AddTables(*count, model, kTwipsPerPixel);
+        QStringList numbers;
+        for (const QString& key : keys) {
+            clsDINING_TABLE table;
+            table.OpenRecord(key);
+            numbers << table.DINING_TABLE_NB;
+        }
+        out << "Added " << keys.size() << (keys.size() == 1 ? " table: #" : " tables: #")
+            << numbers.join(QStringLiteral(", #")) << '\n';
+        return kExitOk;
     } catch (const clsDbError& e) {
-        err << "vowren-cli: " << command << ": " << TranslateEngineMessage(e.Message())
-            << " Nothing was changed.\n";
-        return kExitFailed;
+        return Failed(err, QStringLiteral("tables --add"), e);
     }
 }
 
-int RunSeat(const QStringList& args, QTextStream& out, QTextStream& err) {
-    const QString number = args.value(1);
-    if (args.value(0) != QLatin1String("--table") || !AreKeys({number}) || !AreKeys(args.mid(2))) {
-        err << "vowren-cli: seat: usage: " << kSeatUsage << " (numbers and keys are whole numbers above 0)\n";
-        return kExitUsage;
-    }
+int SwapTables(const QStringList& args, QTextStream& out, QTextStream& err) {
+    if (args.size() != 3 || !WholeNumber(args.at(1), 1, INT_MAX) || !WholeNumber(args.at(2), 1, INT_MAX))
+        return Usage(err, QStringLiteral("--swap takes two table numbers"));
     if (!StartForChange(err))
         return kExitFailed;
-    return Guarded(QStringLiteral("seat"), err, [&] {
-        clsDINING_TABLE table;
-        if (!table.OpenRecord(QString(), number)) {
-            err << "vowren-cli: seat: there is no table #" << number << ".\n";
-            return kExitFailed;
+    try {
+        clsDINING_TABLE first;
+        clsDINING_TABLE second;
+        for (auto [table, number] : {std::pair{&first, args.at(1)}, std::pair{&second, args.at(2)}}) {
+            if (!table->OpenRecord(QString(), number)) {
+                err << "vowren-cli: tables --swap: there is no table #" << number
+                    << ". Nothing was changed.\n";
+                return kExitFailed;
+            }
         }
-        const modSeating::SeatResult result = modSeating::SeatContacts(table.DINING_TABLE_ID, args.mid(2));
-        if (!result.Seated) {
-            err << "vowren-cli: seat: "
-                << QString(result.Message).replace(QStringLiteral("\n\n"), QStringLiteral(" ")) << '\n';
-            return kExitFailed;
-        }
-        out << "Seated at table #" << number << ": " << args.mid(2).join(QLatin1Char(' ')) << '\n';
+        clsDINING_TABLE::SwapTables(first.DINING_TABLE_ID, second.DINING_TABLE_ID);
+        out << "Swapped the guests and labels of tables #" << args.at(1) << " and #" << args.at(2) << '\n';
         return kExitOk;
-    });
-}
-
-int RunUnseat(const QStringList& args, QTextStream& out, QTextStream& err) {
-    if (!AreKeys(args)) {
-        err << "vowren-cli: unseat: usage: " << kUnseatUsage << " (keys are whole numbers above 0)\n";
-        return kExitUsage;
+    } catch (const clsDbError& e) {
+        return Failed(err, QStringLiteral("tables --swap"), e);
     }
-    if (!StartForChange(err))
-        return kExitFailed;
-    return Guarded(QStringLiteral("unseat"), err, [&] {
-        modSeating::Unseat(args);
-        out << "Unseated: " << args.join(QLatin1Char(' ')) << '\n';
-        return kExitOk;
-    });
 }
 
 int RunTables(const QStringList& args, QTextStream& out, QTextStream& err) {
-    if (!args.isEmpty()) {
-        err << "vowren-cli: tables takes no arguments (got \"" << args.first() << "\")\n";
+    if (args.isEmpty())
+        return ListTables(out, err);
+    if (args.value(0) == QLatin1String("--add"))
+        return AddTables(args, out, err);
+    if (args.value(0) == QLatin1String("--swap"))
+        return SwapTables(args, out, err);
+    return Usage(err, QStringLiteral("tell --add or --swap, or nothing to list them"));
+}
+
+int RunTentcards(const QStringList& args, QTextStream& out, QTextStream& err) {
+    if (args != QStringList{QStringLiteral("--refresh")}) {
+        err << "vowren-cli: tentcards: usage: tentcards --refresh\n";
         return kExitUsage;
     }
-    if (!StartForReading(err))
+    if (!StartForChange(err))
         return kExitFailed;
-    return Guarded(QStringLiteral("tables"), err, [&] {
-        for (const clsDINING_TABLE& table : clsDINING_TABLE::OpenRecords())
-            out << modSeating::StatusText(table, table.GetTotal(clsDINING_TABLE::SeatsTaken)) << '\n';
+    try {
+        clsTENTCARD::RefreshTentcards();
+        const long count = clsTENTCARD::Total();
+        out << "Refreshed " << count << (count == 1 ? " tentcard (" : " tentcards (")
+            << (clsTENTCARD::EtiquetteIsFormal() ? "formal" : "personal") << ")\n";
         return kExitOk;
-    });
+    } catch (const clsDbError& e) {
+        return Failed(err, QStringLiteral("tentcards"), e);
+    }
 }
 
 } // namespace
 
-CliCommand SeatCommand() {
-    return {
-        QStringLiteral("seat"), kSeatUsage,
-        QStringLiteral("Seat the contacts of these keys at the table of that number: all of them, or none "
-                       "when they do not fit."),
-        RunSeat};
-}
-
-CliCommand UnseatCommand() {
-    return {QStringLiteral("unseat"), kUnseatUsage,
-            QStringLiteral("Send the contacts of these keys back to the guests still to be seated."),
-            RunUnseat};
-}
-
 CliCommand TablesCommand() {
-    return {QStringLiteral("tables"), QStringLiteral("tables"),
-            QStringLiteral("List every table with its seats taken: \"Table #n: t of s seats taken\"."),
-            RunTables};
+    return {
+        QStringLiteral("tables"), kTablesUsage,
+        QStringLiteral("List every table with its seats taken (\"Table #n: t of s seats taken\"); add N tables in rows of 12 across the floor (the next numbers, 8 seats and round "
+                       "unless told), or swap the guests and labels of the tables numbered A and B; all or "
+                       "nothing."),
+        RunTables};
+}
+
+CliCommand TentcardsCommand() {
+    return {QStringLiteral("tentcards"), QStringLiteral("tentcards --refresh"),
+            QStringLiteral("Make every tent card anew from the seating, in the etiquette kept with the data, "
+                           "and print how many there are; hand-edited wording is replaced."),
+            RunTentcards};
 }

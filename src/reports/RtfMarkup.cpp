@@ -133,6 +133,24 @@ RtfMarkup RtfMarkup::Control(RtfControl words) {
     return RtfMarkup(QString::fromLatin1(words.Words()), QString());
 }
 
+RtfMarkup RtfMarkup::Picture(PictureKind kind, const QByteArray& bytes, int widthPixels, int heightPixels,
+                             int widthTwips, int heightTwips) {
+    const bool png = kind == PictureKind::Png;
+    const QByteArray data = png ? bytes : bytes.mid(14);
+    QString rtf = QStringLiteral("{\\pict%1\\picw%2\\pich%3\\picwgoal%4\\pichgoal%5")
+                      .arg(png ? QStringLiteral("\\pngblip") : QStringLiteral("\\dibitmap0"))
+                      .arg(widthPixels)
+                      .arg(heightPixels)
+                      .arg(widthTwips)
+                      .arg(heightTwips);
+    const QByteArray hex = data.toHex();
+    constexpr qsizetype kLine = 128;
+    for (qsizetype at = 0; at < hex.size(); at += kLine)
+        rtf += QStringLiteral("\r\n") + QString::fromLatin1(hex.mid(at, kLine));
+    rtf += QLatin1Char('}');
+    return RtfMarkup(rtf, QString());
+}
+
 RtfMarkup RtfMarkup::LineBreak() {
     return RtfMarkup(QStringLiteral(" \\par "), QStringLiteral("\r\n"));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringBuilder>
 #include <utility>
@@ -50,6 +51,12 @@ public:
     static RtfMarkup Control(RtfControl words);
     // " \par ", a new line inside a paragraph or cell; CR LF in the plain text.
     static RtfMarkup LineBreak();
+    // A picture of the given kind, its natural size in pixels, shown at the given size in twips. Its bytes
+    // go in as hex digits: a PNG file as it stands, a Windows bitmap without its 14-byte file header. No
+    // plain text: a CSV file has no pictures.
+    enum class PictureKind { Png, Bitmap };
+    static RtfMarkup Picture(PictureKind kind, const QByteArray& bytes, int widthPixels, int heightPixels,
+                             int widthTwips, int heightTwips);
     // "\b " + inner + "\b0", and likewise "\i " ... "\i0" and "\strike " ... "\strike0".
     static RtfMarkup Bold(const RtfMarkup& inner);
     static RtfMarkup Italic(const RtfMarkup& inner);

@@ -33,23 +33,14 @@ long clsDINING_TABLE::GetTotal(int kind) const {
         return gDB().Execute(QStringLiteral("SELECT COUNT(*) AS CNT FROM DINING_TABLE")).Scalar().toLong();
     if (kind != SeatsFree && kind != SeatsTaken)
         return 0;
-    const long taken = gDB()
-                           .Execute(QStringLiteral("SELECT COUNT(*) AS CNT FROM CONTACT WHERE DINING_TABLE_ID = ?"),
-                                    {DINING_TABLE_ID})
-                           .Scalar()
-                           .toLong();
+    const long taken =
+        gDB()
+            .Execute(QStringLiteral("SELECT COUNT(*) AS CNT FROM CONTACT WHERE DINING_TABLE_ID = ?"),
+                     {DINING_TABLE_ID})
+            .Scalar()
+            .toLong();
     return kind == SeatsTaken ? taken : SEATS_NB.toLong() - taken;
 }
-
-namespace {
-
-QString NextNumber() {
-    const QString next =
-        gDB().Execute(QStringLiteral("SELECT Max(DINING_TABLE_NB) + 1 AS MAXNB FROM DINING_TABLE")).Scalar();
-    return next.isEmpty() ? QStringLiteral("1") : next;
-}
-
-} // namespace
 
 QString clsDINING_TABLE::NEXT_NB() {
     return RecordIO::NextID(QStringLiteral("DINING_TABLE"), QStringLiteral("DINING_TABLE_NB"));
@@ -59,11 +50,11 @@ bool clsDINING_TABLE::OpenRecord(const QString& key, const QString& number) {
     const bool byKey = !key.isEmpty();
     if (!byKey && number.isEmpty())
         return false;
-    const QList<clsDINING_TABLE> found = RecordIO::ReadAll(
-        Table(),
-        byKey ? QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_ID = ?")
-              : QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_NB = ?"),
-        {byKey ? key : number});
+    const QList<clsDINING_TABLE> found =
+        RecordIO::ReadAll(Table(),
+                          byKey ? QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_ID = ?")
+                                : QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_NB = ?"),
+                          {byKey ? key : number});
     if (found.isEmpty())
         return false;
     *this = found.first();
@@ -140,14 +131,14 @@ QStringList clsDINING_TABLE::AddTables(int count, const clsDINING_TABLE& model, 
             table.DINING_TABLE_NM = model.DINING_TABLE_NM.trimmed();
             CheckNumber(table.DINING_TABLE_NB);
         } else {
-            table.DINING_TABLE_NB = NextNumber();
+            table.DINING_TABLE_NB = NEXT_NB();
             table.DINING_TABLE_NM.clear();
         }
         const QPoint cell = FloorCell(i);
         table.POS_X = Twips(cell.x(), twipsPerPixel);
         // The horizontal factor for both, as the floor has always placed them.
         table.POS_Y = Twips(cell.y(), twipsPerPixel);
-        RecordIO::SaveOrThrow(table, Table(), true);
+        table.Save(true);
         keys.append(table.DINING_TABLE_ID);
     }
     tx.Commit();
@@ -158,7 +149,7 @@ void clsDINING_TABLE::SaveEdited() {
     DINING_TABLE_NB = DINING_TABLE_NB.trimmed();
     DINING_TABLE_NM = DINING_TABLE_NM.trimmed();
     CheckNumber(DINING_TABLE_NB, DINING_TABLE_ID);
-    RecordIO::SaveOrThrow(*this, Table(), false);
+    Save(false);
 }
 
 void clsDINING_TABLE::SwapTables(const QString& firstKey, const QString& secondKey) {
@@ -173,7 +164,7 @@ void clsDINING_TABLE::SwapTables(const QString& firstKey, const QString& secondK
     for (clsDINING_TABLE table : both) {
         table.DINING_TABLE_NM =
             both.at(table.DINING_TABLE_ID == both.first().DINING_TABLE_ID ? 1 : 0).DINING_TABLE_NM;
-        RecordIO::SaveOrThrow(table, Table(), false);
+        table.Save(false);
     }
     const QString exchange =
         QStringLiteral("UPDATE %1 SET DINING_TABLE_ID = CASE WHEN DINING_TABLE_ID = ?1 THEN ?2 ELSE ?1 END "

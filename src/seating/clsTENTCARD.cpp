@@ -201,8 +201,9 @@ void clsTENTCARD::RefreshTentcards() {
     // Seated people by invitation and table; the bride and the groom sort as one invitation of their own.
     const QList<clsCONTACT> seated = clsCONTACT::OpenRecords(
         21, {},
-        QStringLiteral("CASE WHEN CONTACT.ROLE_ID IN (1,2) THEN 100000 ELSE INVITE.INVITE_RSVP_ID END, "
-                       "CONTACT.DINING_TABLE_ID, CONTACT.SORT_ORDER_NB, CONTACT.CONTACT_ID"),
+        QStringLiteral(
+            "CASE WHEN CONTACT.ROLE_ID IN (1,2) THEN 100000 ELSE INVITE.INVITE_RSVP_ID END, "
+            "CONTACT.INVITE_ID, CONTACT.DINING_TABLE_ID, CONTACT.SORT_ORDER_NB, CONTACT.CONTACT_ID"),
         false);
     QString groomName;
     const QList<clsCONTACT> groom = clsCONTACT::OpenRecords(0, QStringLiteral("CONTACT.ROLE_ID = 2"));
@@ -225,8 +226,11 @@ void clsTENTCARD::RefreshTentcards() {
     QList<clsCONTACT> group;
     QString groupKey;
     for (const clsCONTACT& c : seated) {
-        const QString rsvp = IsCouple(c) ? kCoupleRsvp : c.INVITE_RSVP_ID;
-        const QString key = rsvp + QLatin1Char('|') + c.DINING_TABLE_ID;
+        // The invitation itself is part of the key, so that people of two invitations that have no RSVP
+        // ID yet never share a card.
+        const QString invitation =
+            IsCouple(c) ? kCoupleRsvp : c.INVITE_RSVP_ID + QLatin1Char('/') + c.INVITE_ID;
+        const QString key = invitation + QLatin1Char('|') + c.DINING_TABLE_ID;
         if (key != groupKey) {
             write(group);
             group.clear();

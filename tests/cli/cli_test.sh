@@ -181,6 +181,22 @@ check "relabel by the kept etiquette" 0 '\(formal\)$' "$cli" relabel
 check "relabel personal" 0 '\(personal\)$' "$cli" relabel --personal
 check "personal inner envelopes" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM INVITE WHERE AUTO_UPDATE_FG = 'Y' AND INNER_ENVELOPE_TX LIKE 'Mr.%'"
 
+seated_at() { "$cli" sql "SELECT COUNT(*) FROM CONTACT WHERE DINING_TABLE_ID = (SELECT DINING_TABLE_ID FROM DINING_TABLE WHERE DINING_TABLE_NB = $1)" | tail -1; }
+check "tables with an unknown action" 2 'tell --add or --swap, or nothing to list them' "$cli" tables --frob
+check "tables --add needs a count" 2 '--add takes a count from 1 to 500' "$cli" tables --add 0
+check "tables --add with a bad shape" 2 '--shape takes 1 \(round\)' "$cli" tables --add 2 --shape 5
+check "tables --swap of a missing table" 1 'there is no table #9999. Nothing was changed.' "$cli" tables --swap 1 9999
+first=$(seated_at 1)
+second=$(seated_at 2)
+check "tables --swap" 0 '^Swapped the guests and labels of tables #1 and #2$' "$cli" tables --swap 1 2
+check "the guests of table 1 sit at table 2" 0 "^$first\$" seated_at 2
+check "the guests of table 2 sit at table 1" 0 "^$second\$" seated_at 1
+check "tables --add 13" 0 '^Added 13 tables: #[0-9]+, ' "$cli" tables --add 13 --seats 10 --shape 3
+check "the thirteenth starts the second row" 0 '^"0","480","10","3"' "$cli" sql "SELECT POS_X, POS_Y, SEATS_NB, DINING_TABLE_TYPE_ID FROM DINING_TABLE ORDER BY DINING_TABLE_ID DESC LIMIT 1"
+check "tentcards needs --refresh" 2 'usage: tentcards --refresh' "$cli" tentcards
+check "tentcards --refresh" 0 '^Refreshed [1-9][0-9]* tentcards \((formal|personal)\)$' "$cli" tentcards --refresh
+check "a card for every seated invitation" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM CONTACT WHERE DINING_TABLE_ID IS NOT NULL AND DINING_TABLE_ID NOT IN (SELECT DINING_TABLE_ID FROM TENTCARD)"
+
 # Seating: all of the guests or none, in the floor plan's words.
 "$cli" demo --guests 40 --seed 5 >/dev/null
 read -ra ids <<<"$("$cli" sql "SELECT CONTACT_ID FROM CONTACT ORDER BY 1" | tail -n +2 | tr -d '"\r' | tr '\n' ' ')"

@@ -144,41 +144,59 @@ private slots:
         QCOMPARE(clsTENTCARD::GetTENTCARD_TX(group), personal);
     }
 
-    void refreshMakesOneCardPerInvitationAndTable() {
-        MakeSeating();
-        SetEtiquette(false, true);
-        clsTENTCARD::RefreshTentcards();
-        QCOMPARE(Cards(), QStringList({"1: Mr. Rob Jones [Jones]", "1: Ms. Ann Lee and Guest [Lee]",
-                                       "1: Mr. and Mrs. John Smith [Smith]",
-                                       "1: Mr. and Mrs. Paul Young [Zeller]", "2: Mrs. Kim Jones [Jones]"}));
-        QCOMPARE(clsTENTCARD::Total(), 5L);
-        QCOMPARE(Scalar("SELECT COUNT(*) FROM TENTCARD WHERE TENTCARD_TX LIKE '%Ray%'"), QString("0"));
+    // Each row changes the seating of MakeSeating, refreshes, runs its hand edits, refreshes again.
+    void refresh_data() {
+        QTest::addColumn<QStringList>("changes");
+        QTest::addColumn<bool>("formal");
+        QTest::addColumn<QString>("handEdit");
+        QTest::addColumn<QStringList>("cards");
+        const QStringList asSeated = {"1: Mr. Rob Jones [Jones]", "1: Ms. Ann Lee and Guest [Lee]",
+                                      "1: Mr. and Mrs. John Smith [Smith]",
+                                      "1: Mr. and Mrs. Paul Young [Zeller]", "2: Mrs. Kim Jones [Jones]"};
+        QTest::newRow("one card per invitation and table") << QStringList() << true << "" << asSeated;
+        QTest::newRow("a hand edit lasts until the refresh")
+            << QStringList() << true << "UPDATE TENTCARD SET TENTCARD_TX = 'Our dear Joneses'" << asSeated;
+        QTest::newRow("a couple split over two tables, personal")
+            << QStringList{"UPDATE CONTACT SET DINING_TABLE_ID = 2 WHERE FIRST_NM = 'Mary'",
+                           "UPDATE CONTACT SET DINING_TABLE_ID = NULL WHERE INVITE_ID IN (2, 3)"}
+            << false << ""
+            << QStringList{"1: John Smith [Smith]", "1: Mr. and Mrs. Paul Young [Zeller]",
+                           "2: Mary Smith [Smith]"};
+        const QStringList brideApart = {"UPDATE CONTACT SET DINING_TABLE_ID = 2 WHERE CONTACT_ID = 1",
+                                        "UPDATE CONTACT SET DINING_TABLE_ID = NULL WHERE CONTACT_ID > 2"};
+        const QStringList apartCards = {"1: Mr. and Mrs. Paul Young [Young]",
+                                        "2: Mr. and Mrs. Paul Young [Zeller]"};
+        QTest::newRow("the bride apart from the groom, personal") << brideApart << false << "" << apartCards;
+        QTest::newRow("the bride apart from the groom, formal") << brideApart << true << "" << apartCards;
+        QTest::newRow("the groom seated alone")
+            << QStringList{"UPDATE CONTACT SET DINING_TABLE_ID = NULL WHERE CONTACT_ID <> 2"} << true << ""
+            << QStringList{"1: Mr. and Mrs. Paul Young [Young]"};
+        QTest::newRow("two invitations without RSVP IDs share no card")
+            << QStringList{"UPDATE INVITE SET INVITE_RSVP_ID = NULL",
+                           "UPDATE CONTACT SET DINING_TABLE_ID = NULL WHERE INVITE_ID IN (2, 3)",
+                           "UPDATE CONTACT SET DINING_TABLE_ID = 1 WHERE INVITE_ID = 4"}
+            << true << ""
+            << QStringList{"1: Mr. Tom Ray [Ray]", "1: Mr. and Mrs. John Smith [Smith]",
+                           "1: Mr. and Mrs. Paul Young [Zeller]"};
     }
-
-    void brideSeatedApartHasACardAtEachTable() {
+    void refresh() {
+        QFETCH(QStringList, changes);
+        QFETCH(bool, formal);
+        QFETCH(QString, handEdit);
+        QFETCH(QStringList, cards);
         MakeSeating();
-        Exec("UPDATE CONTACT SET DINING_TABLE_ID = 2 WHERE CONTACT_ID = 1");
-        Exec("UPDATE CONTACT SET DINING_TABLE_ID = NULL WHERE CONTACT_ID <> 1 AND CONTACT_ID <> 2");
-        SetEtiquette(true, false);
+        for (const QString& change : changes)
+            Exec(change);
+        SetEtiquette(!formal, formal);
         clsTENTCARD::RefreshTentcards();
-        QCOMPARE(Cards(),
-                 QStringList({"1: Mr. and Mrs. Paul Young [Young]", "2: Mr. and Mrs. Paul Young [Zeller]"}));
-    }
-
-    void refreshOverwritesHandEdits() {
-        MakeSeating();
-        clsTENTCARD::RefreshTentcards();
-        clsTENTCARD card = clsTENTCARD::OpenRecords().first();
-        card.TENTCARD_TX = "Our dear Joneses";
-        card.Save(false);
-        clsTENTCARD reread;
-        QVERIFY(reread.OpenRecord(card.TENTCARD_ID));
-        QCOMPARE(reread.TENTCARD_TX, QString("Our dear Joneses"));
-        QCOMPARE(reread.DINING_TABLE_NM, QString("Head"));
-        clsTENTCARD::RefreshTentcards();
-        QCOMPARE(Scalar("SELECT COUNT(*) FROM TENTCARD WHERE TENTCARD_TX = 'Our dear Joneses'"),
-                 QString("0"));
-        QCOMPARE(clsTENTCARD::Total(), 5L);
+        if (!handEdit.isEmpty()) {
+            Exec(handEdit);
+            QCOMPARE(clsTENTCARD::OpenRecords().first().TENTCARD_TX, QStringLiteral("Our dear Joneses"));
+            clsTENTCARD::RefreshTentcards();
+        }
+        QCOMPARE(Cards(), cards);
+        QCOMPARE(clsTENTCARD::Total(), long(cards.size()));
+        QVERIFY(db->Messages().Prompts.isEmpty());
     }
 
     void failedRefreshKeepsTheCardsThereWere() {

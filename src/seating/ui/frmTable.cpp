@@ -63,7 +63,10 @@ frmTable::frmTable(const QString& key, QWidget* parent) : frmEditorBase(parent) 
         RecordIO::Attempt([this, &key] { mTable.OpenRecord(key); });
     setWindowTitle(IsAdding() ? QStringLiteral("Add Table") : QStringLiteral("Edit Table"));
 
+    QLabel* header = modLayout::HeaderLabel(this);
+    header->setText(windowTitle());
     auto* layout = new QVBoxLayout(this);
+    layout->addWidget(header);
     layout->addWidget(BuildProperties());
     layout->addWidget(BuildAddCount());
     layout->addStretch(1);

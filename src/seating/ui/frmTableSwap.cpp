@@ -3,11 +3,13 @@
 #include "guests/clsCONTACT.h"
 #include "seating/clsDINING_TABLE.h"
 #include "shell/controls/ControlIcons.h"
+#include "shell/controls/modLayout.h"
 #include "shell/controls/usrDropdown.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QGridLayout>
+#include <QLabel>
 #include <QListWidget>
 #include <QPainter>
 #include <QPainterPath>
@@ -51,18 +53,27 @@ frmTableSwap::frmTableSwap(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmTableSwap"));
     setWindowTitle(QStringLiteral("Swap Tables"));
     auto* grid = new QGridLayout(this);
+    QLabel* header = modLayout::HeaderLabel(this);
+    header->setText(windowTitle());
+    auto* hint = new QLabel(QStringLiteral("The guests and the labels of the two tables change places; their "
+                                           "numbers, shapes and seats stay."),
+                            this);
+    hint->setWordWrap(true);
+    grid->addWidget(header, 0, 0, 1, 2);
+    grid->addWidget(hint, 1, 0, 1, 2);
     for (int side = 0; side < 2; ++side) {
         mTables[side] = new usrDropdown(this);
         mTables[side]->setObjectName(QStringLiteral("usr_%1").arg(side));
-        mTables[side]->PopulateSQL(QStringLiteral("SELECT DINING_TABLE_ID, DINING_TABLE_NB || ' - ' || "
-                                                  "IFNULL(DINING_TABLE_NM, '') FROM DINING_TABLE "
-                                                  "ORDER BY DINING_TABLE_NB"));
+        mTables[side]->PopulateSQL(
+            QStringLiteral("SELECT DINING_TABLE_ID, DINING_TABLE_NB || IFNULL(' - ' || "
+                           "DINING_TABLE_NM, '') FROM DINING_TABLE "
+                           "ORDER BY DINING_TABLE_NB"));
         mTables[side]->setListIndex(-1);
         mGuests[side] = new QListWidget(this);
         mGuests[side]->setObjectName(QStringLiteral("lvw_%1").arg(side));
         mGuests[side]->setSelectionMode(QAbstractItemView::NoSelection);
-        grid->addWidget(mTables[side], 0, side);
-        grid->addWidget(mGuests[side], 1, side);
+        grid->addWidget(mTables[side], 2, side);
+        grid->addWidget(mGuests[side], 3, side);
         connect(mTables[side]->ComboBox(), &QComboBox::currentIndexChanged, this, [this, side] {
             ShowGuests(side);
             RefreshEnabling();
@@ -75,9 +86,9 @@ frmTableSwap::frmTableSwap(QWidget* parent) : QDialog(parent) {
     cancel->setObjectName(QStringLiteral("cmdCancel"));
     connect(mSwap, &QPushButton::clicked, this, &frmTableSwap::cmdSwap_Click);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    grid->addWidget(buttons, 2, 0, 1, 2);
+    grid->addWidget(buttons, 4, 0, 1, 2);
     RefreshEnabling();
-    resize(520, 360);
+    resize(520, 440);
 }
 
 void frmTableSwap::SelectTables(const QString& firstKey, const QString& secondKey) {
