@@ -184,6 +184,33 @@ private slots:
         QVERIFY(pictureThere);
     }
 
+    // What the table dialogs tell the page shows at once: a new table, a changed one, a swap.
+    void dialogEventsShowOnThePage() {
+        const QString a = AddTable("1", 8);
+        const QStringList guests = AddGuests(1);
+        SeatInDb(guests, a);
+        frmMain_04_Attendees_Tables page;
+        const QString b = AddTable("2", 8, 480, 480, "4");
+        page.mfrmTable_Added(b);
+        QVERIFY(page.TableItem(b));
+        QCOMPARE(page.TableItem(b)->pos(), QPointF(32, 32));
+        QCOMPARE(Child<QLabel>(page, "lblCount")->text(), QStringLiteral("2"));
+        QVERIFY(page.Action(frmMain_04_Attendees_Tables::SwapTables)->isEnabled());
+
+        TestDatabase::Exec("UPDATE DINING_TABLE SET DINING_TABLE_NB = 9, DINING_TABLE_NM = 'Aunts' "
+                           "WHERE DINING_TABLE_ID = ?",
+                           {b});
+        page.mfrmTable_Updated(b);
+        QCOMPARE(page.TableItem(b)->Caption(), QStringLiteral("#9"));
+        auto* tree = Child<QTreeWidget>(page, "tvw");
+        QCOMPARE(tree->topLevelItem(1)->text(0), QStringLiteral("9 - Aunts"));
+
+        clsDINING_TABLE::SwapTables(a, b);
+        page.mfrmTableSwap_Swap();
+        AgreeWithDatabase(page, {a, b});
+        QCOMPARE(page.GuestsAt(b), guests);
+    }
+
     void moveToAFullTableIsRefused() {
         const QString a = AddTable("1", 8);
         const QString b = AddTable("2", 1);
