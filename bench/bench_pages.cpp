@@ -1,20 +1,15 @@
 // The guest list pages on a 10 000-guest demo wedding, offscreen: opening the Contacts page until its
 // grid is filled and painted, and one keystroke in its search box.
-#include "core/ShowMessage.h"
+#include "BenchWedding.h"
 #include "core/clsDB.h"
-#include "core/modSubMain.h"
 #include "guests/ui/frmMain_01_Contacts.h"
 #include "shell/controls/usrSearch.h"
-#include "startup/modDemoWedding.h"
-#include "startup/modStartup.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPixmap>
-#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
-#include <cstdio>
 
 namespace {
 
@@ -55,20 +50,5 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QTemporaryDir home;
-    qputenv("VOWREN_HOME", home.path().toUtf8());
-    qputenv("VOWREN_NO_OPEN", "1");
-    SetMessageSink(std::make_unique<clsCapturingMessageSink>());
-    modStartup::RegisterSubsystems();
-    QString message;
-    if (!modSubMain::Start(&message) || !FillDemoWedding(10000, 1, &message)) {
-        std::fprintf(stderr, "vowren-bench-pages: %s\n", qPrintable(message));
-        return 1;
-    }
-    std::printf("%s\n", qPrintable(message));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    gDB().CloseConnection();
-    return 0;
+    return RunOnDemoWedding(argc, argv, "vowren-bench-pages");
 }

@@ -2,6 +2,7 @@
 // the delete of a large selection, measured on a demo wedding of 10 000 guests made once in a temporary
 // data root. Beside each, a baseline reads the same rows with bare sqlite3 calls, to show what the
 // program's layers cost.
+#include "BenchWedding.h"
 #include "core/ShowMessage.h"
 #include "core/clsDB.h"
 #include "core/modSubMain.h"
@@ -279,11 +280,7 @@ BENCHMARK(BM_ContactsReport)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
-    QTemporaryDir home;
-    qputenv("VOWREN_HOME", home.path().toUtf8());
-    qputenv("VOWREN_NO_OPEN", "1");
-    SetMessageSink(std::make_unique<clsCapturingMessageSink>());
-    modStartup::RegisterSubsystems();
+    BenchHome home;
     QString message;
     if (!modSubMain::Start(&message)) {
         std::fprintf(stderr, "vowren-bench: %s\n", qPrintable(message));

@@ -24,6 +24,8 @@ CliCommand DemoCommand();
 CliCommand ReportCommand();
 CliCommand DeleteCommand();
 CliCommand RelabelCommand();
+CliCommand SeatCommand();
+CliCommand UnseatCommand();
 CliCommand TablesCommand();
 CliCommand TentcardsCommand();
 
@@ -35,6 +37,12 @@ CliCommand RestoreCommand();
 // run beside another program.
 bool StartForChange(QTextStream& err);
 bool StartForReading(QTextStream& err);
+
+// Prints every table with its seats taken, "Table #n: t of s seats taken"; the exit status.
+int ListTables(QTextStream& out, QTextStream& err);
+
+// Keys and numbers on the command line: whole numbers above 0, at least one of them.
+bool AreKeys(const QStringList& keys);
 
 // Every command the program knows, in the order --help lists them.
 const std::vector<CliCommand>& CliCommands();

@@ -37,6 +37,8 @@ const std::vector<CliCommand>& CliCommands() {
         RestoreCommand(),
         DeleteCommand(),
         RelabelCommand(),
+        SeatCommand(),
+        UnseatCommand(),
         TablesCommand(),
         TentcardsCommand(),
     };

@@ -10,15 +10,6 @@ namespace {
 
 const QString kUsage = QStringLiteral("delete contacts|invitations KEY...");
 
-bool AreKeys(const QStringList& keys) {
-    for (const QString& key : keys) {
-        bool ok = false;
-        if (key.toLongLong(&ok) <= 0 || !ok)
-            return false;
-    }
-    return !keys.isEmpty();
-}
-
 // Why a delete of these keys may not happen, or "" when it may.
 QString Refusal(bool contacts, const clsDeleteResult& result) {
     const QString noun = contacts ? QStringLiteral("contact") : QStringLiteral("invitation");
@@ -62,6 +53,15 @@ int RunDelete(const QStringList& args, QTextStream& out, QTextStream& err) {
 }
 
 } // namespace
+
+bool AreKeys(const QStringList& keys) {
+    for (const QString& key : keys) {
+        bool ok = false;
+        if (key.toLongLong(&ok) <= 0 || !ok)
+            return false;
+    }
+    return !keys.isEmpty();
+}
 
 CliCommand DeleteCommand() {
     return {

@@ -10,7 +10,7 @@
 
 namespace {
 
-const QString kTablesUsage = QStringLiteral("tables --add N [--seats S] [--shape K] | tables --swap A B");
+const QString kTablesUsage = QStringLiteral("tables [--add N [--seats S] [--shape K] | --swap A B]");
 // Twips of one pixel on the usual screen of 96 dots an inch.
 constexpr double kTwipsPerPixel = 15.0;
 
@@ -96,11 +96,13 @@ int SwapTables(const QStringList& args, QTextStream& out, QTextStream& err) {
 }
 
 int RunTables(const QStringList& args, QTextStream& out, QTextStream& err) {
+    if (args.isEmpty())
+        return ListTables(out, err);
     if (args.value(0) == QLatin1String("--add"))
         return AddTables(args, out, err);
     if (args.value(0) == QLatin1String("--swap"))
         return SwapTables(args, out, err);
-    return Usage(err, QStringLiteral("tell --add or --swap"));
+    return Usage(err, QStringLiteral("tell --add or --swap, or nothing to list them"));
 }
 
 int RunTentcards(const QStringList& args, QTextStream& out, QTextStream& err) {
@@ -126,7 +128,7 @@ int RunTentcards(const QStringList& args, QTextStream& out, QTextStream& err) {
 CliCommand TablesCommand() {
     return {
         QStringLiteral("tables"), kTablesUsage,
-        QStringLiteral("Add N tables in rows of 12 across the floor (the next numbers, 8 seats and round "
+        QStringLiteral("List every table with its seats taken (\"Table #n: t of s seats taken\"); add N tables in rows of 12 across the floor (the next numbers, 8 seats and round "
                        "unless told), or swap the guests and labels of the tables numbered A and B; all or "
                        "nothing."),
         RunTables};

@@ -189,7 +189,7 @@ check "relabel personal" 0 '\(personal\)$' "$cli" relabel --personal
 check "personal inner envelopes" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM INVITE WHERE AUTO_UPDATE_FG = 'Y' AND INNER_ENVELOPE_TX LIKE 'Mr.%'"
 
 seated_at() { "$cli" sql "SELECT COUNT(*) FROM CONTACT WHERE DINING_TABLE_ID = (SELECT DINING_TABLE_ID FROM DINING_TABLE WHERE DINING_TABLE_NB = $1)" | tail -1; }
-check "tables needs an action" 2 'tell --add or --swap' "$cli" tables
+check "tables with an unknown action" 2 'tell --add or --swap, or nothing to list them' "$cli" tables --frob
 check "tables --add needs a count" 2 '--add takes a count from 1 to 500' "$cli" tables --add 0
 check "tables --add with a bad shape" 2 '--shape takes 1 \(round\)' "$cli" tables --add 2 --shape 5
 check "tables --swap of a missing table" 1 'there is no table #9999. Nothing was changed.' "$cli" tables --swap 1 9999
@@ -203,6 +203,23 @@ check "the thirteenth starts the second row" 0 '^"0","480","10","3"' "$cli" sql 
 check "tentcards needs --refresh" 2 'usage: tentcards --refresh' "$cli" tentcards
 check "tentcards --refresh" 0 '^Refreshed [1-9][0-9]* tentcards \((formal|personal)\)$' "$cli" tentcards --refresh
 check "a card for every seated invitation" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM CONTACT WHERE DINING_TABLE_ID IS NOT NULL AND DINING_TABLE_ID NOT IN (SELECT DINING_TABLE_ID FROM TENTCARD)"
+
+# Seating: all of the guests or none, in the floor plan's words.
+"$cli" demo --guests 40 --seed 5 >/dev/null
+read -ra ids <<<"$("$cli" sql "SELECT CONTACT_ID FROM CONTACT ORDER BY 1" | tail -n +2 | tr -d '"\r' | tr '\n' ' ')"
+check "unseat everybody" 0 "^Unseated: ${ids[0]} " "$cli" unseat "${ids[@]}"
+check "tables after unseating" 0 '^Table #1: 0 of 12 seats taken$' "$cli" tables
+check "seat eleven" 0 "^Seated at table #1: ${ids[0]} " "$cli" seat --table 1 "${ids[@]:0:11}"
+check "seat two at one free seat" 1 'seat: There is only 1 seat available\.$' "$cli" seat --table 1 "${ids[@]:11:2}"
+check "nobody of the two was seated" 0 '^Table #1: 11 of 12 seats taken$' "$cli" tables
+check "seat the last one" 0 "^Seated at table #1: ${ids[11]}$" "$cli" seat --table 1 "${ids[11]}"
+check "seat at a full table" 1 'Table #1 is full\. All 12 seats are taken\.$' "$cli" seat --table 1 "${ids[12]}"
+check "seat an unknown contact" 1 'no contact with the key 99999\. Nothing was changed' "$cli" seat --table 2 "${ids[12]}" 99999
+check "seat at an unknown table" 1 'there is no table #77' "$cli" seat --table 77 "${ids[12]}"
+check "seat without a table" 2 'usage: seat --table NUMBER ID' "$cli" seat "${ids[12]}"
+check "unseat needs keys" 2 'usage: unseat ID' "$cli" unseat
+check "unseat one" 0 "^Unseated: ${ids[0]}$" "$cli" unseat "${ids[0]}"
+check "tables after unseating one" 0 '^Table #1: 11 of 12 seats taken$' "$cli" tables
 
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init

@@ -1,6 +1,8 @@
 #include "seating/ui/modSeatingPages.h"
 
 #include "core/RecordIO.h"
+#include "core/clsApp.h"
+#include "seating/ui/frmMain_04_Attendees_Tables.h"
 #include "seating/ui/frmMain_04_Attendees_Tentcards.h"
 #include "seating/ui/frmTable.h"
 #include "seating/ui/frmTableSwap.h"
@@ -40,11 +42,23 @@ void RegisterScreenshots() {
         page->LoadNow();
         return page;
     });
+    // The floor of the demo wedding with the status of every table shown and the first one selected.
+    modScreenshots::Register(modPages::TablesSubPage(), []() -> QWidget* {
+        gApp().SetRevealTableStatus(1);
+        auto* page = new frmMain_04_Attendees_Tables;
+        page->resize(modScreenshots::MainWindowSize());
+        const QList<clsDINING_TABLE> tables = RecordIO::Read([] { return clsDINING_TABLE::OpenRecords(); });
+        if (!tables.isEmpty())
+            page->SelectTable(tables.first().DINING_TABLE_ID);
+        return page;
+    });
 }
 
 } // namespace
 
 void RegisterSeatingPages() {
+    modPages::RegisterSubPage(modPages::TablesSubPage(),
+                              [](QWidget* parent) { return new frmMain_04_Attendees_Tables(parent); });
     modPages::RegisterSubPage(modPages::TentcardsSubPage(),
                               [](QWidget* parent) { return new frmMain_04_Attendees_Tentcards(parent); });
     RegisterScreenshots();

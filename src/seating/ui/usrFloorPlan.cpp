@@ -1,0 +1,104 @@
+#include "seating/ui/usrFloorPlan.h"
+
+#include "seating/modSeating.h"
+#include "seating/ui/usrDiningTable.h"
+
+#include <QDrag>
+#include <QDragMoveEvent>
+#include <QMimeData>
+#include <QPainter>
+#include <QWheelEvent>
+#include <cmath>
+
+namespace {
+const QColor kGridColor(226, 218, 208);
+} // namespace
+
+void clsFloorScene::drawBackground(QPainter* painter, const QRectF& exposed) {
+    const QRectF area = exposed.intersected(sceneRect());
+    painter->fillRect(area, FloorPlan::FloorColor);
+    if (!Grid)
+        return;
+    const int cell = modSeating::kCellPixels;
+    painter->setPen(QPen(kGridColor, 0));
+    QVector<QLineF> lines;
+    for (qreal x = std::ceil(area.left() / cell) * cell; x <= area.right(); x += cell)
+        lines.append(QLineF(x, area.top(), x, area.bottom()));
+    for (qreal y = std::ceil(area.top() / cell) * cell; y <= area.bottom(); y += cell)
+        lines.append(QLineF(area.left(), y, area.right(), y));
+    painter->drawLines(lines);
+}
+
+void usrFloorView::wheelEvent(QWheelEvent* event) {
+    if (!(event->modifiers() & Qt::ControlModifier)) {
+        QGraphicsView::wheelEvent(event);
+        return;
+    }
+    const qreal factor = event->angleDelta().y() > 0 ? 1.15 : 1 / 1.15;
+    const qreal zoom = transform().m11() * factor;
+    if (zoom > 0.05 && zoom < 8)
+        scale(factor, factor);
+    event->accept();
+}
+
+usrGuestTree::usrGuestTree(bool fromTable, QWidget* parent) : QTreeWidget(parent), mFromTable(fromTable) {
+    setDragEnabled(true);
+    setAcceptDrops(true);
+    setDragDropMode(QAbstractItemView::DragDrop);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setUniformRowHeights(true);
+}
+
+QStringList usrGuestTree::mimeTypes() const {
+    return {QStringLiteral("application/x-vowren-guests")};
+}
+
+QMimeData* usrGuestTree::mimeData(const QList<QTreeWidgetItem*>& items) const {
+    QStringList ids;
+    for (QTreeWidgetItem* item : items) {
+        if (!item->data(0, FloorPlan::IsTableRole).toBool())
+            ids << item->data(0, FloorPlan::IdRole).toString();
+    }
+    return GuestDrag::Make(ids, mFromTable);
+}
+
+void usrGuestTree::startDrag(Qt::DropActions) {
+    auto* drag = new QDrag(this);
+    drag->setMimeData(mimeData(selectedItems()));
+    drag->exec(Qt::CopyAction);
+}
+
+void usrGuestTree::dragEnterEvent(QDragEnterEvent* event) {
+    QStringList ids;
+    bool fromTable = false;
+    event->setAccepted(GuestDrag::Read(event->mimeData(), &ids, &fromTable));
+}
+
+void usrGuestTree::dragMoveEvent(QDragMoveEvent* event) {
+    event->setAccepted(Target(event).has_value());
+}
+
+void usrGuestTree::dropEvent(QDropEvent* event) {
+    const std::optional<QString> table = Target(event);
+    QStringList ids;
+    bool fromTable = false;
+    if (!table || !GuestDrag::Read(event->mimeData(), &ids, &fromTable))
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    if (OnDrop)
+        OnDrop(ids, fromTable, *table);
+}
+
+// Where a drop would go: the tree takes guests on a table's row or a guest's, the list takes guests
+// coming back from the tables anywhere.
+std::optional<QString> usrGuestTree::Target(QDropEvent* event) const {
+    QStringList ids;
+    bool fromTable = false;
+    if (!GuestDrag::Read(event->mimeData(), &ids, &fromTable))
+        return std::nullopt;
+    if (!mFromTable)
+        return fromTable ? std::optional<QString>(QString()) : std::nullopt;
+    const QString table = TableOfRow ? TableOfRow(itemAt(event->position().toPoint())) : QString();
+    return table.isEmpty() ? std::nullopt : std::optional<QString>(table);
+}

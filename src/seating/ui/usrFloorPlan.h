@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QColor>
+#include <QGraphicsScene>
+#include <QGraphicsView>
+#include <QTreeWidget>
+#include <functional>
+#include <optional>
+
+// The pieces of the table layout that are no table: the floor, its view, and the list and tree that
+// hand guests out and take them back.
+namespace FloorPlan {
+// What a row of the list or the tree carries: the contact's or the table's key, and whether it is a table.
+inline constexpr int IdRole = Qt::UserRole;
+inline constexpr int IsTableRole = Qt::UserRole + 1;
+inline const QColor FloorColor(252, 249, 244);
+} // namespace FloorPlan
+
+// The floor: its colour and, while Grid is on, the lines of the 32-pixel cells.
+class clsFloorScene : public QGraphicsScene {
+public:
+    using QGraphicsScene::QGraphicsScene;
+    bool Grid = true;
+
+protected:
+    void drawBackground(QPainter* painter, const QRectF& exposed) override;
+};
+
+// The floor's view: Ctrl with the wheel zooms; the wheel alone scrolls.
+class usrFloorView : public QGraphicsView {
+public:
+    using QGraphicsView::QGraphicsView;
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+// The list of those still to be seated (fromTable false) or the tree of the tables (true): both hand out
+// the guests they carry and take guests dropped on them. Only guest rows can be dragged; the page moves
+// the rows itself once the seats are saved, so a drag only carries the keys.
+class usrGuestTree : public QTreeWidget {
+public:
+    usrGuestTree(bool fromTable, QWidget* parent);
+    // The guests, whether they came from a table, and the table of the row they were dropped on ("" for
+    // the list).
+    std::function<void(const QStringList&, bool, const QString&)> OnDrop;
+    // The table a row stands for or under ("" for none).
+    std::function<QString(QTreeWidgetItem*)> TableOfRow;
+
+protected:
+    QStringList mimeTypes() const override;
+    QMimeData* mimeData(const QList<QTreeWidgetItem*>& items) const override;
+    Qt::DropActions supportedDropActions() const override { return Qt::CopyAction; }
+    void startDrag(Qt::DropActions) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    std::optional<QString> Target(QDropEvent* event) const;
+
+    bool mFromTable;
+};
