@@ -2,6 +2,7 @@
 #include "cli/CliCommand.h"
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
+#include "core/clsDB.h"
 #include "startup/modStartup.h"
 
 #include <QCoreApplication>
@@ -17,6 +18,18 @@ void PrintHelp(QTextStream& out) {
     for (const CliCommand& command : CliCommands())
         out << "  " << command.Usage.leftJustified(40) << ' ' << command.Help << '\n';
     out << "\nThe data root is $VOWREN_HOME when set, else the per-user data folder.\n";
+}
+
+// The edge of every command: a failure the database reports ends the command with its words on
+// standard error and the status of a refused operation.
+int RunCommand(const CliCommand& command, const QStringList& args, QTextStream& out, QTextStream& err) {
+    try {
+        return command.Run(args, out, err);
+    } catch (const clsDbError& e) {
+        out.flush();
+        err << "vowren-cli: " << command.Name << ": " << TranslateEngineMessage(e.Message()) << '\n';
+        return kExitFailed;
+    }
 }
 
 } // namespace
@@ -46,7 +59,7 @@ int main(int argc, char** argv) {
     }
     for (const CliCommand& command : CliCommands()) {
         if (command.Name == first) {
-            const int status = command.Run(args, out, err);
+            const int status = RunCommand(command, args, out, err);
             out.flush();
             err.flush();
             return status;

@@ -64,8 +64,10 @@ bool clsDINING_TABLE::OpenRecord(const QString& key, const QString& number) {
 }
 
 QList<clsDINING_TABLE> clsDINING_TABLE::OpenRecords() {
-    return RecordIO::OpenRecords(Table(),
+    return RecordIO::Read([] {
+        return RecordIO::ReadAll(Table(),
                                  QStringLiteral("SELECT * FROM DINING_TABLE ORDER BY DINING_TABLE_NB"));
+    });
 }
 
 bool clsDINING_TABLE::Patch_Field_Exists(const QString& column) {
@@ -91,5 +93,5 @@ bool clsDINING_TABLE::Patch_6_Apply() {
 }
 
 bool clsDINING_TABLE::Save(bool insert) {
-    return RecordIO::Save(*this, Table(), insert);
+    return RecordIO::Attempt([&] { RecordIO::Save(*this, Table(), insert); });
 }

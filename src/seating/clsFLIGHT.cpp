@@ -68,11 +68,12 @@ bool clsFLIGHT::OpenRecord(const QString& key) {
 }
 
 QList<clsFLIGHT> clsFLIGHT::OpenRecords() {
-    return RecordIO::OpenRecords(Table(), QStringLiteral("SELECT * FROM FLIGHT ORDER BY FLIGHT_NB"));
+    return RecordIO::Read(
+        [] { return RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM FLIGHT ORDER BY FLIGHT_NB")); });
 }
 
 bool clsFLIGHT::Save(bool insert) {
-    return RecordIO::Save(*this, Table(), insert);
+    return RecordIO::Attempt([&] { RecordIO::Save(*this, Table(), insert); });
 }
 
 long clsFLIGHT::Total() {

@@ -55,7 +55,8 @@ bool clsHOTEL::Patch_7_Apply() {
 }
 
 bool clsHOTEL::Delete(const QString& key) {
-    return RecordIO::Delete(QStringLiteral("HOTEL"), QStringLiteral("HOTEL_ID"), key);
+    return RecordIO::Attempt(
+        [&] { RecordIO::Delete(QStringLiteral("HOTEL"), QStringLiteral("HOTEL_ID"), key); });
 }
 
 QString clsHOTEL::MapURL(int countryIndex) const {
@@ -77,11 +78,12 @@ bool clsHOTEL::OpenRecord(const QString& key) {
 }
 
 QList<clsHOTEL> clsHOTEL::OpenRecords() {
-    return RecordIO::OpenRecords(Table(), QStringLiteral("SELECT * FROM HOTEL ORDER BY HOTEL_NB"));
+    return RecordIO::Read(
+        [] { return RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM HOTEL ORDER BY HOTEL_NB")); });
 }
 
 bool clsHOTEL::Save(bool insert) {
-    return RecordIO::Save(*this, Table(), insert);
+    return RecordIO::Attempt([&] { RecordIO::Save(*this, Table(), insert); });
 }
 
 long clsHOTEL::Total() {

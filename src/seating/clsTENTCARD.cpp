@@ -151,11 +151,12 @@ bool clsTENTCARD::CreateTable() {
 }
 
 bool clsTENTCARD::Delete(const QString& tentcardId) {
-    return RecordIO::Delete(QStringLiteral("TENTCARD"), QStringLiteral("TENTCARD_ID"), tentcardId);
+    return RecordIO::Attempt(
+        [&] { RecordIO::Delete(QStringLiteral("TENTCARD"), QStringLiteral("TENTCARD_ID"), tentcardId); });
 }
 
 bool clsTENTCARD::DeleteAll() {
-    return RecordIO::Run(QStringLiteral("DELETE FROM TENTCARD"));
+    return RecordIO::Attempt([] { RecordIO::Run(QStringLiteral("DELETE FROM TENTCARD")); });
 }
 
 bool clsTENTCARD::EtiquetteIsFormal() {
@@ -190,10 +191,12 @@ bool clsTENTCARD::OpenRecord(const QString& tentcardId) {
 }
 
 QList<clsTENTCARD> clsTENTCARD::OpenRecords() {
-    return RecordIO::OpenRecords(ReadTable(),
+    return RecordIO::Read([] {
+        return RecordIO::ReadAll(ReadTable(),
                                  SelectSQL() + QStringLiteral("ORDER BY DINING_TABLE.DINING_TABLE_NB, "
                                                               "TENTCARD.TENTCARD_SORT_TX COLLATE NOCASE, "
                                                               "TENTCARD.TENTCARD_ID"));
+    });
 }
 
 void clsTENTCARD::RefreshTentcards() {
@@ -221,7 +224,7 @@ void clsTENTCARD::RefreshTentcards() {
             return; // nobody to name
         card.TENTCARD_SORT_TX = group.first().LAST_NM.isEmpty() ? card.TENTCARD_TX : group.first().LAST_NM;
         card.DINING_TABLE_ID = group.first().DINING_TABLE_ID;
-        RecordIO::SaveOrThrow(card, Table(), true);
+        RecordIO::Save(card, Table(), true);
     };
 
     QList<clsCONTACT> group;
@@ -242,7 +245,7 @@ void clsTENTCARD::RefreshTentcards() {
 
 bool clsTENTCARD::Save(bool Add) {
     const clsTENTCARD before = *this;
-    if (RecordIO::Save(*this, Table(), Add))
+    if (RecordIO::Attempt([&] { RecordIO::Save(*this, Table(), Add); }))
         return true;
     *this = before;
     return false;

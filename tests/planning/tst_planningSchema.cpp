@@ -157,7 +157,8 @@ private slots:
         QCOMPARE(lines.size(), 4);
         QCOMPARE(lines.first().BUDGET_CATEGORY_TX, QStringLiteral("Ceremony"));
         QCOMPARE(lines.first().PAID_BY_TX, QStringLiteral("Bride's Family"));
-        QVERIFY(!RecordIO::Delete("BUDGET_CATEGORY_DICT", "BUDGET_CATEGORY_ID", "3"));
+        QVERIFY(
+            !RecordIO::Attempt([] { RecordIO::Delete("BUDGET_CATEGORY_DICT", "BUDGET_CATEGORY_ID", "3"); }));
         QCOMPARE(db->Messages().Prompts,
                  QStringList({"Unable to delete.  Budget entries are associated with this entry."}));
 
@@ -199,10 +200,10 @@ private slots:
         }
         clsVENDOR bloom = vendors.first();
         bloom.SetFilePaths({"/a.pdf"});
-        QVERIFY(bloom.Save(false));
+        bloom.Save(false);
         // A category that does not exist is refused now.
         bloom.VENDOR_CATEGORY_ID = QStringLiteral("99");
-        QVERIFY(!bloom.Save(false));
+        QVERIFY_THROWS_EXCEPTION(clsDbError, bloom.Save(false));
     }
 
     void anOldGiftTableIsWidenedAndDated() {
@@ -223,7 +224,7 @@ private slots:
         QCOMPARE(gift.EVENT_TX, QStringLiteral("Wedding Day"));
         gift.GIFT_TX = QString(255, QLatin1Char('x'));
         gift.RECEIVED_DT = QStringLiteral("01-Jul-2027");
-        QVERIFY(gift.Save(false));
+        gift.Save(false);
         QVERIFY(gift.OpenRecord("1"));
         QCOMPARE(gift.GIFT_TX.size(), 255);
         QCOMPARE(gift.RECEIVED_DT, QStringLiteral("01-Jul-2027"));
