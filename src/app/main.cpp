@@ -1,5 +1,7 @@
 // vowren: the desktop program.
+#include "app/clsVowrenApplication.h"
 #include "app/modKnownScreens.h"
+#include "core/RecordIO.h"
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
 #include "core/clsDB.h"
@@ -71,7 +73,7 @@ void OffscreenForScreenshots(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     OffscreenForScreenshots(argc, argv);
-    QApplication app(argc, argv);
+    clsVowrenApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vowren"));
     QApplication::setApplicationVersion(clsApp::MajorMinorRevision());
 
@@ -120,7 +122,7 @@ int main(int argc, char** argv) {
         ShowMessage(QStringLiteral("Vowren could not write today's backup of the database.\n\n") + copy.Error,
                     Msg::OKOnly | Msg::Exclamation);
     if (parser.isSet(noSplash)) {
-        modSubMain::RunPatchesAndOpenGlobals();
+        RecordIO::Attempt([] { modSubMain::RunPatchesAndOpenGlobals(); });
         auto* window = new mdiMain;
         window->setAttribute(Qt::WA_DeleteOnClose);
         window->show();

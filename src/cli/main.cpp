@@ -2,6 +2,7 @@
 #include "cli/CliCommand.h"
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
+#include "core/clsDB.h"
 #include "pdf/clsPdfDialect.h"
 #include "startup/modStartup.h"
 
@@ -45,6 +46,18 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
     return app;
 }
 
+// The edge of every command: a failure the database reports ends the command with its words on
+// standard error and the status of a refused operation.
+int RunCommand(const CliCommand& command, const QStringList& args, QTextStream& out, QTextStream& err) {
+    try {
+        return command.Run(args, out, err);
+    } catch (const clsDbError& e) {
+        out.flush();
+        err << "vowren-cli: " << command.Name << ": " << TranslateEngineMessage(e.Message()) << '\n';
+        return kExitFailed;
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -72,7 +85,7 @@ int main(int argc, char** argv) {
     }
     for (const CliCommand& command : CliCommands()) {
         if (command.Name == first) {
-            const int status = command.Run(args, out, err);
+            const int status = RunCommand(command, args, out, err);
             out.flush();
             err.flush();
             return status;

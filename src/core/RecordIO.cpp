@@ -28,27 +28,16 @@ bool Attempt(const std::function<void()>& work) {
     }
 }
 
-bool Run(const QString& sql, const QVariantList& values) {
-    try {
-        gDB().Execute(sql, values);
-        return true;
-    } catch (const clsDbError& e) {
-        Report(e);
-        return false;
-    }
+void Run(const QString& sql, const QVariantList& values) {
+    gDB().Execute(sql, values);
 }
 
 long Count(const QString& sql, const QVariantList& values) {
-    try {
-        return gDB().Execute(sql, values).Scalar().toLong();
-    } catch (const clsDbError& e) {
-        Report(e);
-        return 0;
-    }
+    return gDB().Execute(sql, values).Scalar().toLong();
 }
 
-bool Delete(const QString& table, const QString& keyColumn, const QString& keyValue) {
-    return Run(QStringLiteral("DELETE FROM %1 WHERE %2 = ?").arg(table, keyColumn), {keyValue});
+void Delete(const QString& table, const QString& keyColumn, const QString& keyValue) {
+    Run(QStringLiteral("DELETE FROM %1 WHERE %2 = ?").arg(table, keyColumn), {keyValue});
 }
 
 } // namespace RecordIO

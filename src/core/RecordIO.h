@@ -26,18 +26,20 @@ struct RecordTable {
     std::vector<RecordField<T>> Fields; // the key first
 };
 
+// Every routine below throws clsDbError on a failure and shows nothing: the screen or command that asked
+// shows it, through Attempt or Read.
 namespace RecordIO {
 
 // A member's text as a value to bind: empty is NULL, a date column goes to its stored form.
 QVariant ToDbValue(const QString& column, const QString& text);
 // "SELECT Max(key) + 1 ..." as text, "1" for an empty table. Throws clsDbError.
 QString NextID(const QString& table, const QString& keyColumn);
-// Runs a statement, showing any failure through ShowMessage; true when it ran.
-bool Run(const QString& sql, const QVariantList& values = {});
-// Runs a count; 0 (after the message) when it fails.
+// Runs a statement. Throws clsDbError.
+void Run(const QString& sql, const QVariantList& values = {});
+// The count a statement gives. Throws clsDbError.
 long Count(const QString& sql, const QVariantList& values = {});
-// Deletes by key, showing any failure (a row still referred to, say) through ShowMessage.
-bool Delete(const QString& table, const QString& keyColumn, const QString& keyValue);
+// Deletes by key. Throws clsDbError (a row still referred to, say).
+void Delete(const QString& table, const QString& keyColumn, const QString& keyValue);
 // The message of a failure, shown the one way messages are shown.
 void Report(const clsDbError& error);
 
@@ -104,19 +106,15 @@ QList<T> ReadAll(const RecordTable<T>& table, const QString& sql, const QVariant
     return records;
 }
 
-// Fills the record from the first row of a query; no row leaves it as it was. False on failure or no row.
+// Fills the record from the first row of a query; no row leaves it as it was. False for no row; throws
+// clsDbError.
 template <class T>
 bool OpenFirst(T& record, const RecordTable<T>& table, const QString& sql, const QVariantList& values) {
-    try {
-        const clsRecordset rs = gDB().Execute(sql, values);
-        if (rs.IsEmpty())
-            return false;
-        Fill(record, rs, 0, table);
-        return true;
-    } catch (const clsDbError& e) {
-        Report(e);
+    const clsRecordset rs = gDB().Execute(sql, values);
+    if (rs.IsEmpty())
         return false;
-    }
+    Fill(record, rs, 0, table);
+    return true;
 }
 
 template <class T>
@@ -129,22 +127,10 @@ bool OpenRecord(T& record, const RecordTable<T>& table, const QString& key) {
                      {key});
 }
 
-// A new object for every row, in the query's order; none after a failure (the user has been told).
-template <class T>
-QList<T> OpenRecords(const RecordTable<T>& table, const QString& sql, const QVariantList& values = {}) {
-    QList<T> records;
-    try {
-        records = ReadAll(table, sql, values);
-    } catch (const clsDbError& e) {
-        Report(e);
-    }
-    return records;
-}
-
-// The INSERT or UPDATE of every column. An insert gets its new key first (unless assignKey is false,
-// for rows that come with their key) and the record holds it afterwards. Throws clsDbError.
-template <class T>
-void SaveOrThrow(T& record, const RecordTable<T>& table, bool insert, bool assignKey = true) {
+// The INSERT or UPDATE of every column. An insert gets its new key (unless assignKey is false, for rows
+// that come with their key), which the record holds once the row is written; an UPDATE of a row that is
+// gone changes nothing. Throws clsDbError, and the record then keeps the key it had.
+template <class T> void Save(T& record, const RecordTable<T>& table, bool insert, bool assignKey = true) {
     const QString tableName = QLatin1String(table.Table);
     const QString keyName = QLatin1String(table.Key);
     QStringList columns;
@@ -160,16 +146,16 @@ void SaveOrThrow(T& record, const RecordTable<T>& table, bool insert, bool assig
         values << ToDbValue(column, record.*(field.Member));
     }
     if (insert) {
-        if (assignKey)
-            *keyMember = NextID(tableName, keyName);
+        const QString key = assignKey ? NextID(tableName, keyName) : *keyMember;
         columns.prepend(keyName);
-        values.prepend(*keyMember);
+        values.prepend(key);
         QStringList marks;
         for (qsizetype i = 0; i < columns.size(); ++i)
             marks << QStringLiteral("?");
         gDB().Execute(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
                           .arg(tableName, columns.join(QStringLiteral(", ")), marks.join(QStringLiteral(", "))),
                       values);
+        *keyMember = key;
     } else {
         QStringList sets;
         for (const QString& column : columns)
@@ -178,19 +164,6 @@ void SaveOrThrow(T& record, const RecordTable<T>& table, bool insert, bool assig
         gDB().Execute(
             QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?").arg(tableName, sets.join(QStringLiteral(", ")), keyName),
             values);
-    }
-}
-
-// SaveOrThrow with the failure shown; true when the statement ran (an UPDATE of a row that is gone
-// is a success that changes nothing).
-template <class T>
-bool Save(T& record, const RecordTable<T>& table, bool insert, bool assignKey = true) {
-    try {
-        SaveOrThrow(record, table, insert, assignKey);
-        return true;
-    } catch (const clsDbError& e) {
-        Report(e);
-        return false;
     }
 }
 

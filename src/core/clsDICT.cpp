@@ -105,11 +105,12 @@ bool clsDICT::Patch_MEAL_DICT_Add_PRICE_NB() {
 
 // ---- Records ----
 
-bool clsDICT::Delete(const QString& key) {
+void clsDICT::Delete(const QString& key) {
     ID = key;
     if (DICT_TYPE == Role && !CanDelete(DICT_TYPE, key))
-        return false;
-    return RecordIO::Run(QStringLiteral("DELETE FROM %1 WHERE %2 = ?").arg(DICT_NAME(), DICT_ID()), {key});
+        throw clsDbError(
+            QStringLiteral("The roles of the bride and the groom can be renamed, but not deleted."), 0);
+    RecordIO::Delete(DICT_NAME(), DICT_ID(), key);
 }
 
 long clsDICT::GetTotal(int kind) {
@@ -119,41 +120,32 @@ long clsDICT::GetTotal(int kind) {
 bool clsDICT::OpenRecord(const QString& key) {
     if (key.isEmpty())
         return false;
-    try {
-        const clsRecordset rs =
-            gDB().Execute(QStringLiteral("SELECT * FROM %1 WHERE %2 = ?").arg(DICT_NAME(), DICT_ID()), {key});
-        if (rs.IsEmpty())
-            return false;
-        FillFrom(*this, rs, 0);
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
+    const clsRecordset rs =
+        gDB().Execute(QStringLiteral("SELECT * FROM %1 WHERE %2 = ?").arg(DICT_NAME(), DICT_ID()), {key});
+    if (rs.IsEmpty())
         return false;
-    }
+    FillFrom(*this, rs, 0);
+    return true;
 }
 
 QList<clsDICT> clsDICT::OpenRecords(int kind) {
     DICT_TYPE = kind;
-    QList<clsDICT> records;
     // Songlists keep the order the couple gave them; every other list is alphabetical, whatever the case.
     const QString order = kind == Songlist ? QStringLiteral("SORT_ORDER_NB")
                                            : DICT_TX() + QStringLiteral(" COLLATE NOCASE, ") + DICT_ID();
-    try {
-        const clsRecordset rs =
-            gDB().Execute(QStringLiteral("SELECT * FROM %1 ORDER BY %2").arg(DICT_NAME(), order));
-        records.reserve(rs.RowCount());
-        for (int row = 0; row < rs.RowCount(); ++row) {
-            clsDICT record(kind);
-            FillFrom(record, rs, row);
-            records.append(record);
-        }
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
+    const clsRecordset rs =
+        gDB().Execute(QStringLiteral("SELECT * FROM %1 ORDER BY %2").arg(DICT_NAME(), order));
+    QList<clsDICT> records;
+    records.reserve(rs.RowCount());
+    for (int row = 0; row < rs.RowCount(); ++row) {
+        clsDICT record(kind);
+        FillFrom(record, rs, row);
+        records.append(record);
     }
     return records;
 }
 
-bool clsDICT::Save(bool insert) {
+void clsDICT::Save(bool insert) {
     const QString table = DICT_NAME();
     const QString key = DICT_ID();
     const QString text = DICT_TX();
@@ -166,37 +158,39 @@ bool clsDICT::Save(bool insert) {
         extraColumn = QStringLiteral("PRICE_NB");
         extraValue = PRICE_NB;
     }
-    try {
-        if (insert) {
-            const QString newID = RecordIO::NextID(table, key);
-            if (DICT_TYPE == Songlist)
-                extraValue = RecordIO::NextID(table, QStringLiteral("SORT_ORDER_NB"));
-            QString columns = key + QStringLiteral(", ") + text;
-            QString marks = QStringLiteral("?, ?");
-            QVariantList values{newID, TX};
-            if (!extraColumn.isEmpty()) {
-                columns += QStringLiteral(", ") + extraColumn;
-                marks += QStringLiteral(", ?");
-                values << extraValue;
-            }
-            gDB().Execute(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, columns, marks),
-                          values);
-            ID = newID;
-            if (DICT_TYPE == Songlist)
-                SORT_ORDER_NB = extraValue;
-        } else {
-            QString sets = text + QStringLiteral(" = ?");
-            QVariantList values{TX};
-            if (!extraColumn.isEmpty()) {
-                sets += QStringLiteral(", ") + extraColumn + QStringLiteral(" = ?");
-                values << extraValue;
-            }
-            values << ID;
-            gDB().Execute(QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?").arg(table, sets, key), values);
+    if (insert) {
+        const QString newID = RecordIO::NextID(table, key);
+        if (DICT_TYPE == Songlist)
+            extraValue = RecordIO::NextID(table, QStringLiteral("SORT_ORDER_NB"));
+        QString columns = key + QStringLiteral(", ") + text;
+        QString marks = QStringLiteral("?, ?");
+        QVariantList values{newID, TX};
+        if (!extraColumn.isEmpty()) {
+            columns += QStringLiteral(", ") + extraColumn;
+            marks += QStringLiteral(", ?");
+            values << extraValue;
         }
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
+        gDB().Execute(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, columns, marks), values);
+        ID = newID;
+        if (DICT_TYPE == Songlist)
+            SORT_ORDER_NB = extraValue;
+        return;
     }
+    QString sets = text + QStringLiteral(" = ?");
+    QVariantList values{TX};
+    if (!extraColumn.isEmpty()) {
+        sets += QStringLiteral(", ") + extraColumn + QStringLiteral(" = ?");
+        values << extraValue;
+    }
+    values << ID;
+    gDB().Execute(QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?").arg(table, sets, key), values);
+}
+
+void clsDICT::SaveSortOrder(QList<clsDICT> rows) {
+    clsTransaction tx(gDB());
+    for (int i = 0; i < rows.size(); ++i) {
+        rows[i].SORT_ORDER_NB = QString::number(i + 1);
+        rows[i].Save(false);
+    }
+    tx.Commit();
 }

@@ -39,9 +39,11 @@ public:
     static bool Patch_MEAL_DICT_Add_PRICE_NB();
 
     // ---- Records ----
+    // Every operation below throws clsDbError when the database refuses; whoever asked shows it.
+
     // Deletes the row; a row still in use is refused with the program's message. The roles of the
-    // bride and the groom are never deleted.
-    bool Delete(const QString& key);
+    // bride and the groom are refused too: they are never deleted.
+    void Delete(const QString& key);
     // The key column and the table of this object's kind.
     QString DICT_ID() const { return DICT_ID_ByEnum(DICT_TYPE); }
     QString DICT_NAME() const { return DICT_NAME_ByEnum(DICT_TYPE); }
@@ -57,8 +59,10 @@ public:
     // also kept in this object.
     QList<clsDICT> OpenRecords(int kind);
     // INSERT (a new key, and for a songlist the next sort number) or UPDATE of the text and the extra
-    // column. False after a message (a duplicate title, say) and the object keeps what it had.
-    bool Save(bool insert);
+    // column. A refused save (a duplicate title, say) leaves the object as it was.
+    void Save(bool insert);
+    // Saves each row with its place in the list as its sort number, 1, 2, 3 ...; all or nothing.
+    static void SaveSortOrder(QList<clsDICT> rows);
 
     // ---- Rules of the options screen ----
     // True for the kinds that are dictionaries edited here.

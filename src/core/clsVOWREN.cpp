@@ -12,7 +12,7 @@ void InsertRows(const QList<std::pair<int, QString>>& rows) {
         clsVOWREN row;
         row.VOWREN_ID = QString::number(id);
         row.VOWREN_TX = text;
-        RecordIO::SaveOrThrow(row, clsVOWREN::Table(), true, false);
+        RecordIO::Save(row, clsVOWREN::Table(), true, false);
     }
     tx.Commit();
 }
@@ -35,10 +35,8 @@ QString clsVOWREN::Get_VOWREN_TX(int id) const {
 
 QString clsVOWREN::Get_VOWREN_TX(const QString& id) const {
     const auto it = mItems.constFind(ItemKey(id));
-    if (it == mItems.constEnd()) {
-        ShowMessage(QStringLiteral("Invalid procedure call or argument"), Msg::OKOnly);
-        return {};
-    }
+    if (it == mItems.constEnd())
+        throw clsDbError(QStringLiteral("Invalid procedure call or argument"), 0);
     return it.value();
 }
 
@@ -72,11 +70,9 @@ bool clsVOWREN::Patch_7_Apply() {
 
 // ---- Records ----
 
-bool clsVOWREN::Delete(const QString& id) {
-    if (!RecordIO::Delete(QStringLiteral("VOWREN"), QStringLiteral("VOWREN_ID"), id))
-        return false;
+void clsVOWREN::Delete(const QString& id) {
+    RecordIO::Delete(QStringLiteral("VOWREN"), QStringLiteral("VOWREN_ID"), id);
     mItems.remove(ItemKey(id));
-    return true;
 }
 
 bool clsVOWREN::OpenRecord(const QString& id) {
@@ -84,29 +80,25 @@ bool clsVOWREN::OpenRecord(const QString& id) {
 }
 
 QList<clsVOWREN> clsVOWREN::OpenRecords() {
-    const QList<clsVOWREN> rows = RecordIO::OpenRecords(Table(), QStringLiteral("SELECT * FROM VOWREN"));
+    const QList<clsVOWREN> rows = RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM VOWREN"));
     mItems.clear();
     for (const clsVOWREN& row : rows)
         mItems.insert(ItemKey(row.VOWREN_ID), row.VOWREN_TX);
     return rows;
 }
 
-bool clsVOWREN::QuickUpdate(int id, const QString& value) {
-    return QuickUpdate(QString::number(id), value);
+void clsVOWREN::QuickUpdate(int id, const QString& value) {
+    QuickUpdate(QString::number(id), value);
 }
 
-bool clsVOWREN::QuickUpdate(const QString& id, const QString& value) {
-    if (!RecordIO::Run(QStringLiteral("UPDATE VOWREN SET VOWREN_TX = ? WHERE VOWREN_ID = ?"), {value, id}))
-        return false;
+void clsVOWREN::QuickUpdate(const QString& id, const QString& value) {
+    RecordIO::Run(QStringLiteral("UPDATE VOWREN SET VOWREN_TX = ? WHERE VOWREN_ID = ?"), {value, id});
     mItems.insert(ItemKey(id), value);
-    return true;
 }
 
-bool clsVOWREN::Save(bool isNew) {
-    if (!RecordIO::Save(*this, Table(), isNew))
-        return false;
+void clsVOWREN::Save(bool isNew) {
+    RecordIO::Save(*this, Table(), isNew);
     mItems.insert(ItemKey(VOWREN_ID), VOWREN_TX);
-    return true;
 }
 
 clsVOWREN& gVowren() {

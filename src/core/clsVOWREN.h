@@ -17,8 +17,7 @@ public:
 
     static const RecordTable<clsVOWREN>& Table();
 
-    // The value of a row from memory. A key that was never loaded is reported as the collection's
-    // error and reads as the empty string.
+    // The value of a row from memory. A key that was never loaded throws clsDbError.
     QString Get_VOWREN_TX(int id) const;
     QString Get_VOWREN_TX(const QString& id) const;
     bool Contains(const QString& id) const { return mItems.contains(ItemKey(id)); }
@@ -41,16 +40,17 @@ public:
     static bool Patch_7_Apply();
 
     // ---- Records ----
-    bool Delete(const QString& id);
+    // Every operation below throws clsDbError when the database refuses; memory then stays as it was.
+    void Delete(const QString& id);
     bool OpenRecord(const QString& id);
     // Every row, also kept in this object's memory (replacing what it held).
     QList<clsVOWREN> OpenRecords();
     // Writes the value at once and keeps it in memory, so the next Get_VOWREN_TX answers it without a
-    // reload. False after a message; memory then keeps the old value.
-    bool QuickUpdate(int id, const QString& value);
-    bool QuickUpdate(const QString& id, const QString& value);
-    // INSERT (with the next free id) or UPDATE; memory follows a successful write.
-    bool Save(bool isNew);
+    // reload.
+    void QuickUpdate(int id, const QString& value);
+    void QuickUpdate(const QString& id, const QString& value);
+    // INSERT (with the next free id) or UPDATE; memory follows the write.
+    void Save(bool isNew);
 
 private:
     static QString ItemKey(const QString& id) { return id.trimmed() + QStringLiteral(" KEY"); }

@@ -199,11 +199,20 @@ void RunPatchesAndOpenGlobals() {
     StartSteps().AfterPatches(true);
 }
 
-bool Start(QString* message) {
-    if (!OpenDatabase(message))
+// The reads of a start: false with the database's words when it refuses them.
+static bool ReadGlobals(QString* message) {
+    try {
+        RunPatchesAndOpenGlobals();
+        return true;
+    } catch (const clsDbError& e) {
+        if (message)
+            *message = ConnectFailureMessage(gDB().DatabasePath, e.Message());
         return false;
-    RunPatchesAndOpenGlobals();
-    return true;
+    }
+}
+
+bool Start(QString* message) {
+    return OpenDatabase(message) && ReadGlobals(message);
 }
 
 bool StartForChange(QString* message, int waitMs) {
@@ -244,8 +253,7 @@ bool StartForReading(QString* message) {
                            .arg(path);
         return false;
     }
-    RunPatchesAndOpenGlobals();
-    return true;
+    return ReadGlobals(message);
 }
 
 } // namespace modSubMain

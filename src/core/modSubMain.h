@@ -15,7 +15,8 @@ namespace modSubMain {
 bool OpenDatabase(QString* message);
 
 // The splash's work: the patch driver (or only the two reads when patches are skipped), then the
-// couple always attending their own wedding.
+// couple always attending their own wedding. A failed step of the driver is told and undone, and the
+// driver goes on; a refused read of the global records throws clsDbError.
 void RunPatchesAndOpenGlobals();
 
 // Both, in order. The message is set when it fails.

@@ -369,7 +369,7 @@ void clsCONTACT::Save(bool Add, bool RefreshInvite) {
     }
     try {
         clsTransaction tx(gDB());
-        RecordIO::SaveOrThrow(*this, Table(), Add);
+        RecordIO::Save(*this, Table(), Add);
         if (!INVITE_ID.isEmpty() && !Add && RefreshInvite) {
             clsINVITE invite;
             if (invite.OpenRecord(INVITE_ID, false)) {
@@ -384,11 +384,9 @@ void clsCONTACT::Save(bool Add, bool RefreshInvite) {
     }
 }
 
-bool clsCONTACT::Delete(const QString& contactId) {
-    return RecordIO::Attempt([&] {
-        const clsDeleteResult result = DeleteMany({contactId});
-        CascadeDeletedCONTACT_ID = result.Deleted.value(1); // the person goes first, then their guest
-    });
+void clsCONTACT::Delete(const QString& contactId) {
+    const clsDeleteResult result = DeleteMany({contactId});
+    CascadeDeletedCONTACT_ID = result.Deleted.value(1); // the person goes first, then their guest
 }
 
 bool clsCONTACT::IsCouple(const QString& contactId, const QString& roleId) {

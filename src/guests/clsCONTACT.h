@@ -146,7 +146,7 @@ public:
     // Removes the person and the guest they bring, makes the next person of their invitation the
     // primary one, re-labels the invitation and removes it if nobody is left: all or nothing. The one
     // person of DeleteMany; the bride and the groom stay.
-    bool Delete(const QString& contactId);
+    void Delete(const QString& contactId);
     // Removes the people and the guests they bring, makes the first person left on each invitation
     // they were on its primary one, re-labels those invitations (even frozen ones) and removes those
     // nobody is left on. One transaction, one step of progress per person and per invitation. The

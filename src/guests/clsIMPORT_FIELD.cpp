@@ -47,21 +47,16 @@ const RecordTable<clsIMPORT_FIELD>& clsIMPORT_FIELD::Table() {
     return table;
 }
 
-bool clsIMPORT_FIELD::Delete() {
-    return RecordIO::Run(QStringLiteral("DELETE FROM IMPORT_FIELD"));
+void clsIMPORT_FIELD::Delete() {
+    RecordIO::Run(QStringLiteral("DELETE FROM IMPORT_FIELD"));
 }
 
 QString clsIMPORT_FIELD::GetIMPORT_FIELD_NM(const QString& mapName) {
-    try {
-        return gDB()
-            .Execute(QStringLiteral("SELECT IMPORT_FIELD_NM FROM IMPORT_FIELD WHERE MAP_IMPORT_FIELD_NM = ? "
-                                    "ORDER BY IMPORT_FIELD_ID"),
-                     {mapName})
-            .Scalar();
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return {};
-    }
+    return gDB()
+        .Execute(QStringLiteral("SELECT IMPORT_FIELD_NM FROM IMPORT_FIELD WHERE MAP_IMPORT_FIELD_NM = ? "
+                                "ORDER BY IMPORT_FIELD_ID"),
+                 {mapName})
+        .Scalar();
 }
 
 bool clsIMPORT_FIELD::OpenRecord(const QString& key) {
@@ -72,7 +67,7 @@ bool clsIMPORT_FIELD::OpenRecord(const QString& key) {
 }
 
 QList<clsIMPORT_FIELD> clsIMPORT_FIELD::OpenRecords(bool mappedOnly) {
-    QList<clsIMPORT_FIELD> rows = RecordIO::OpenRecords(
+    QList<clsIMPORT_FIELD> rows = RecordIO::ReadAll(
         Table(), mappedOnly
                      ? QStringLiteral("SELECT * FROM IMPORT_FIELD WHERE MAP_IMPORT_FIELD_NM IS NOT NULL "
                                       "ORDER BY IMPORT_FIELD_ID")
@@ -82,11 +77,9 @@ QList<clsIMPORT_FIELD> clsIMPORT_FIELD::OpenRecords(bool mappedOnly) {
     return rows;
 }
 
-bool clsIMPORT_FIELD::Save(bool insert) {
-    if (!RecordIO::Save(*this, Table(), insert))
-        return false;
+void clsIMPORT_FIELD::Save(bool insert) {
+    RecordIO::Save(*this, Table(), insert);
     SetArrayIndex(*this);
-    return true;
 }
 
 QString clsIMPORT_FIELD::SuggestMAP_IMPORT_FIELD_NM(const QString& columnName) {
@@ -98,8 +91,8 @@ QString clsIMPORT_FIELD::SuggestMAP_IMPORT_FIELD_NM(const QString& columnName) {
     return {};
 }
 
-bool clsIMPORT_FIELD::UpdateMAP_IMPORT_FIELD_NM_ToNull(const QString& mapName) {
-    return RecordIO::Run(
+void clsIMPORT_FIELD::UpdateMAP_IMPORT_FIELD_NM_ToNull(const QString& mapName) {
+    RecordIO::Run(
         QStringLiteral("UPDATE IMPORT_FIELD SET MAP_IMPORT_FIELD_NM = NULL WHERE MAP_IMPORT_FIELD_NM = ?"),
         {mapName});
 }

@@ -28,17 +28,19 @@ public:
 
     static const RecordTable<clsIMPORT_FIELD>& Table();
 
+    // Every operation below that reads or writes throws clsDbError when the database refuses.
+
     // Empties the table.
-    static bool Delete();
+    static void Delete();
     // The file column mapped to a system field, or "" when none is.
     static QString GetIMPORT_FIELD_NM(const QString& mapName);
     bool OpenRecord(const QString& key);
     // The rows in the file's order; only the mapped ones when the flag is set.
     static QList<clsIMPORT_FIELD> OpenRecords(bool mappedOnly);
-    bool Save(bool insert);
+    void Save(bool insert);
     // The system field a file column is taken for: its name upper-cased must be one of the aliases
     // exactly; "" when none fits.
     static QString SuggestMAP_IMPORT_FIELD_NM(const QString& columnName);
     // Frees a system field from whichever column held it, so each field is mapped at most once.
-    static bool UpdateMAP_IMPORT_FIELD_NM_ToNull(const QString& mapName);
+    static void UpdateMAP_IMPORT_FIELD_NM_ToNull(const QString& mapName);
 };

@@ -198,12 +198,12 @@ void clsINVITE::Save(bool Add) {
                 RSVP_RECEIVED_FG = QStringLiteral("N");
             if (AUTO_UPDATE_FG.isEmpty())
                 AUTO_UPDATE_FG = QStringLiteral("Y");
-            RecordIO::SaveOrThrow(*this, Table(), true, false);
+            RecordIO::Save(*this, Table(), true, false);
         } else {
             // An invitation that is not sent has no attendees, no meals and no seats.
             if (INVITE_SENT_FG == QLatin1String("N") && !INVITE_ID.isEmpty())
                 clsCONTACT::UpdateAttendeeFieldsToNull(INVITE_ID);
-            RecordIO::SaveOrThrow(*this, Table(), false);
+            RecordIO::Save(*this, Table(), false);
         }
         tx.Commit();
     } catch (...) {
@@ -270,7 +270,7 @@ bool clsINVITE::ChangeEtiquette(bool formal, const Progress& progress) {
         clsVOWREN etiquette;
         etiquette.VOWREN_ID = QStringLiteral("7");
         etiquette.VOWREN_TX = clsVOWREN::BooleanText(formal);
-        RecordIO::SaveOrThrow(etiquette, clsVOWREN::Table(), false);
+        RecordIO::Save(etiquette, clsVOWREN::Table(), false);
         done = RelabelAll(progress);
         if (done)
             tx.Commit();
@@ -282,8 +282,8 @@ bool clsINVITE::ChangeEtiquette(bool formal, const Progress& progress) {
     return done;
 }
 
-bool clsINVITE::Delete(const QString& inviteId) {
-    return RecordIO::Attempt([&] { DeleteMany({inviteId}, false); });
+void clsINVITE::Delete(const QString& inviteId) {
+    DeleteMany({inviteId}, false);
 }
 
 clsDeleteResult clsINVITE::DeleteMany(const QStringList& inviteIds, bool KeepSent, const clsProgress& progress) {

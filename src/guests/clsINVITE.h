@@ -72,7 +72,7 @@ public:
     void SaveReply();
     // Sets its people free, removes the invitation and the guests they brought; the invited people
     // stay as uninvited contacts. The one invitation of DeleteMany, sent or not.
-    static bool Delete(const QString& inviteId);
+    static void Delete(const QString& inviteId);
     // The same for each invitation, in one transaction, one step of progress each. With KeepSent an
     // invitation whose card is out stays (it is Kept). Throws on a failure, with nothing changed.
     static clsDeleteResult DeleteMany(const QStringList& inviteIds, bool KeepSent, const clsProgress& progress = {});

@@ -78,7 +78,7 @@ QString clsBUDGET::WhereSql(int filter, const QString& categoryId, QVariantList&
 }
 
 QList<clsBUDGET> clsBUDGET::Open(const QString& sql, const QVariantList& values) {
-    QList<clsBUDGET> expenses = RecordIO::OpenRecords(ReadTable(), sql, values);
+    QList<clsBUDGET> expenses = RecordIO::ReadAll(ReadTable(), sql, values);
     for (clsBUDGET& expense : expenses) {
         if (expense.BUDGET_CATEGORY_TX.isEmpty())
             expense.BUDGET_CATEGORY_TX = QStringLiteral("(none)");
@@ -109,8 +109,8 @@ bool clsBUDGET::PASTDUE() const {
     return PASTDUE(Now().date());
 }
 
-bool clsBUDGET::Delete(const QString& budgetId) {
-    return RecordIO::Delete(QStringLiteral("BUDGET"), QStringLiteral("BUDGET_ID"), budgetId);
+void clsBUDGET::Delete(const QString& budgetId) {
+    RecordIO::Delete(QStringLiteral("BUDGET"), QStringLiteral("BUDGET_ID"), budgetId);
 }
 
 bool clsBUDGET::OpenRecord(const QString& budgetId) {
@@ -149,12 +149,8 @@ void clsBUDGET::SetEveryDueDate(const QString& date) {
                   {RecordIO::ToDbValue(QStringLiteral("DUE_DT"), date)});
 }
 
-bool clsBUDGET::Save(bool isNew) {
-    const clsBUDGET before = *this;
-    if (RecordIO::Save(*this, Table(), isNew))
-        return true;
-    *this = before;
-    return false;
+void clsBUDGET::Save(bool isNew) {
+    RecordIO::Save(*this, Table(), isNew);
 }
 
 long clsBUDGET::Total(int filter, const QString& categoryId) const {

@@ -38,13 +38,14 @@ public:
     bool PASTDUE() const;
     bool PASTDUE(const QDate& today) const;
 
-    bool Delete(const QString& budgetId);
+    // Every operation below throws clsDbError when the database refuses; whoever asked shows it.
+    void Delete(const QString& budgetId);
     bool OpenRecord(const QString& budgetId);
     // For the reports: grouped by payer, or by due date under the "Due" filter, then category and name.
     QList<clsBUDGET> OpenRecords(int filter, bool groupByPayer, const QString& categoryId = QString()) const;
     // For the page: by category and name.
     QList<clsBUDGET> OpenRecordsByCategory(int filter, const QString& categoryId = QString()) const;
-    bool Save(bool isNew);
+    void Save(bool isNew);
     // Every expense falls due on the given date ("dd-mmm-yyyy"; empty: none). Throws clsDbError.
     static void SetEveryDueDate(const QString& date);
     long Total(int filter, const QString& categoryId = QString()) const;

@@ -4,14 +4,9 @@
 
 namespace {
 
-// A sum that the database gives as NULL (nothing to sum) or fails to give counts as 0.
+// A sum that the database gives as NULL (nothing to sum) counts as 0.
 double Sum(const QString& sql, const QVariantList& values = {}) {
-    try {
-        return gDB().Execute(sql, values).Scalar().toDouble();
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return 0.0;
-    }
+    return gDB().Execute(sql, values).Scalar().toDouble();
 }
 
 } // namespace
@@ -37,18 +32,12 @@ void clsBUDGET_CATEGORY_DICT::CreateTable() {
     tx.Commit();
 }
 
-bool clsBUDGET_CATEGORY_DICT::Delete(const QString& categoryId) {
-    try {
-        clsTransaction tx(gDB());
-        gDB().Execute(QStringLiteral("DELETE FROM BUDGET WHERE BUDGET_CATEGORY_ID = ?"), {categoryId});
-        gDB().Execute(QStringLiteral("DELETE FROM BUDGET_CATEGORY_DICT WHERE BUDGET_CATEGORY_ID = ?"),
-                      {categoryId});
-        tx.Commit();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
+void clsBUDGET_CATEGORY_DICT::Delete(const QString& categoryId) {
+    clsTransaction tx(gDB());
+    gDB().Execute(QStringLiteral("DELETE FROM BUDGET WHERE BUDGET_CATEGORY_ID = ?"), {categoryId});
+    gDB().Execute(QStringLiteral("DELETE FROM BUDGET_CATEGORY_DICT WHERE BUDGET_CATEGORY_ID = ?"),
+                  {categoryId});
+    tx.Commit();
 }
 
 double clsBUDGET_CATEGORY_DICT::GetESTIMATE_PERCENT(double estimate, double total) {
@@ -60,7 +49,7 @@ bool clsBUDGET_CATEGORY_DICT::OpenRecord(const QString& categoryId) {
 }
 
 QList<clsBUDGET_CATEGORY_DICT> clsBUDGET_CATEGORY_DICT::OpenRecords() const {
-    return RecordIO::OpenRecords(
+    return RecordIO::ReadAll(
         Table(),
         QStringLiteral("SELECT * FROM BUDGET_CATEGORY_DICT ORDER BY BUDGET_CATEGORY_TX COLLATE NOCASE"));
 }
@@ -75,12 +64,8 @@ void clsBUDGET_CATEGORY_DICT::SaveEstimates(const QMap<QString, double>& estimat
     tx.Commit();
 }
 
-bool clsBUDGET_CATEGORY_DICT::Save(bool isNew, bool assignNewKey) {
-    const clsBUDGET_CATEGORY_DICT before = *this;
-    if (RecordIO::Save(*this, Table(), isNew, assignNewKey))
-        return true;
-    *this = before;
-    return false;
+void clsBUDGET_CATEGORY_DICT::Save(bool isNew, bool assignNewKey) {
+    RecordIO::Save(*this, Table(), isNew, assignNewKey);
 }
 
 long clsBUDGET_CATEGORY_DICT::Total() const {

@@ -20,16 +20,17 @@ public:
 
     // Creates the table with its ten categories when it is missing.
     static void CreateTable();
+    // Every operation below that reads or writes throws clsDbError when the database refuses.
+
     // Deletes the category and all its expenses, all or nothing.
-    bool Delete(const QString& categoryId);
+    void Delete(const QString& categoryId);
     // The estimate as a fraction of the total; 0 when the total is 0.
     static double GetESTIMATE_PERCENT(double estimate, double total);
     bool OpenRecord(const QString& categoryId);
     QList<clsBUDGET_CATEGORY_DICT> OpenRecords() const;
     // An insert makes a new key only with assignNewKey; otherwise the key in the object is used.
-    bool Save(bool isNew, bool assignNewKey = true);
-    // The estimate of each category, amount by key; a key that is gone is passed over. Throws
-    // clsDbError.
+    void Save(bool isNew, bool assignNewKey = true);
+    // The estimate of each category, amount by key; a key that is gone is passed over.
     static void SaveEstimates(const QMap<QString, double>& estimates);
     long Total() const;
 

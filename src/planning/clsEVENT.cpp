@@ -60,12 +60,10 @@ QString clsEVENT::EVENT_DT_TimeFormat() const {
     return FormatStored(EVENT_DT, TimeFormat());
 }
 
-bool clsEVENT::Delete(const QString& eventId) {
-    if (eventId.trimmed() == QLatin1String("1")) {
-        ShowMessage(QStringLiteral("You cannot delete the Wedding Day event."), Msg::OKOnly, ProgramTitle());
-        return false;
-    }
-    return RecordIO::Delete(QStringLiteral("EVENT"), QStringLiteral("EVENT_ID"), eventId);
+void clsEVENT::Delete(const QString& eventId) {
+    if (eventId.trimmed() == QLatin1String("1"))
+        throw clsDbError(QStringLiteral("You cannot delete the Wedding Day event."), 0);
+    RecordIO::Delete(QStringLiteral("EVENT"), QStringLiteral("EVENT_ID"), eventId);
 }
 
 long clsEVENT::GetTotal() const {
@@ -86,11 +84,11 @@ bool clsEVENT::OpenRecord(const QString& eventId) {
 
 QList<clsEVENT> clsEVENT::OpenRecords(const QString& onDate) const {
     if (onDate.isEmpty())
-        return RecordIO::OpenRecords(Table(), QStringLiteral("SELECT * FROM EVENT ORDER BY EVENT_DT"));
+        return RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM EVENT ORDER BY EVENT_DT"));
     // A text that is no date is compared as it stands, and so matches nothing.
     const QDateTime day = ParseDateTimeText(onDate);
     const QString isoDay = day.isValid() ? day.date().toString(QStringLiteral("yyyy-MM-dd")) : onDate;
-    return RecordIO::OpenRecords(
+    return RecordIO::ReadAll(
         Table(), QStringLiteral("SELECT * FROM EVENT WHERE date(EVENT_DT) = ? ORDER BY EVENT_DT"), {isoDay});
 }
 
@@ -102,7 +100,7 @@ void clsEVENT::SaveWeddingDay(const QString& when) {
     wedding.EVENT_ID = QStringLiteral("1");
     wedding.EVENT_TX = QStringLiteral("Wedding");
     wedding.EVENT_DT = when;
-    RecordIO::SaveOrThrow(wedding, Table(), found.isEmpty(), false);
+    RecordIO::Save(wedding, Table(), found.isEmpty(), false);
     const long ceremonies =
         gDB()
             .Execute(QStringLiteral("SELECT COUNT(*) FROM TIMELINE WHERE EVENT_ID = 1 AND "
@@ -116,24 +114,19 @@ void clsEVENT::SaveWeddingDay(const QString& when) {
         ceremony.TIMELINE_DESC = QStringLiteral("Wedding Ceremony");
         ceremony.CONTACT_NM = QStringLiteral("Everyone");
         ceremony.EVENT_ID = QStringLiteral("1");
-        RecordIO::SaveOrThrow(ceremony, clsTIMELINE::Table(), true);
+        RecordIO::Save(ceremony, clsTIMELINE::Table(), true);
     }
     tx.Commit();
     gApp().SetWeddingDate(wedding.EVENT_DT_DateTimeFormat());
     gWeddingEvent().OpenRecord(QStringLiteral("1"));
 }
 
-bool clsEVENT::Save(bool isNew) {
-    const clsEVENT before = *this;
-    if (!RecordIO::Save(*this, Table(), isNew)) {
-        *this = before;
-        return false;
-    }
+void clsEVENT::Save(bool isNew) {
+    RecordIO::Save(*this, Table(), isNew);
     if (EVENT_ID == QLatin1String("1")) {
         gApp().SetWeddingDate(EVENT_DT_DateTimeFormat());
         gWeddingEvent().OpenRecord(QStringLiteral("1"));
     }
-    return true;
 }
 
 void clsEVENT::Patch_1_Apply() {
@@ -141,7 +134,7 @@ void clsEVENT::Patch_1_Apply() {
     clsTransaction tx(gDB());
     for (clsEVENT event : events) {
         JoinAddressParts(event);
-        RecordIO::SaveOrThrow(event, Table(), false);
+        RecordIO::Save(event, Table(), false);
     }
     tx.Commit();
 }

@@ -33,8 +33,10 @@ public:
     QString EVENT_DT_DateFormat() const;
     QString EVENT_DT_TimeFormat() const;
 
-    // The wedding day (key 1) is refused with a message; false then, and the table is untouched.
-    bool Delete(const QString& eventId);
+    // Every operation below that reads or writes throws clsDbError when the database refuses.
+
+    // The wedding day (key 1) is refused, and the table is untouched.
+    void Delete(const QString& eventId);
     long GetTotal() const;
     // The address of the map link of this event's address, in the country of the settings.
     QString MapURL() const;
@@ -43,9 +45,9 @@ public:
     // Every event by date; with a date, only the events of that calendar day, at any hour.
     QList<clsEVENT> OpenRecords(const QString& onDate = QString()) const;
     // Saving the wedding day hands its date to the settings and reopens gWeddingEvent().
-    bool Save(bool isNew);
+    void Save(bool isNew);
     // The wedding day, event 1, at the given time ("dd-mmm-yyyy h:mm AM"), with the "Wedding Ceremony"
-    // on its timeline for everyone (once); all or nothing. Throws clsDbError.
+    // on its timeline for everyone (once); all or nothing.
     static void SaveWeddingDay(const QString& when);
 
     // Joins the old address parts into the one address block of every row (done once, see the driver).

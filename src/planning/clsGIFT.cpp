@@ -100,29 +100,25 @@ QString clsGIFT::WhereSql(int filter, const QString& customWhere) {
 
 QList<clsGIFT> clsGIFT::Open(const QString& sql, const QVariantList& values) {
     QList<clsGIFT> gifts;
-    try {
-        const clsRecordset rs = gDB().Execute(sql, values);
-        const std::vector<int> columns = RecordIO::FieldColumns(rs, ReadTable());
-        for (int row = 0; row < rs.RowCount(); ++row) {
-            clsGIFT gift;
-            RecordIO::Fill(gift, rs, row, ReadTable(), columns);
-            auto value = [&](const char* column) { return rs.Value(row, QString::fromLatin1(column)); };
-            if (!gift.CONTACT_ID.isEmpty()) {
-                gift.GIVER_NM = LastFirstMiddleSuffix(value("GIVER_FIRST_NM"), value("GIVER_MIDDLE_NM"),
-                                                      value("GIVER_LAST_NM"), value("GIVER_SUFFIX_TX"));
-                gift.OUTER_ENVELOPE_TX = TitleFirstMiddleLastSuffix(
-                    value("GIVER_TITLE_TX"), value("GIVER_FIRST_NM"), value("GIVER_MIDDLE_NM"),
-                    value("GIVER_LAST_NM"), value("GIVER_SUFFIX_TX"));
-                gift.OUTER_ENVELOPE_ADDRESS_TX = TrimCrLf(value("GIVER_ADDRESS_TX"));
-            } else if (!gift.INVITE_ID.isEmpty()) {
-                gift.GIVER_NM = value("INVITE_DISPLAY_AS_TX");
-                gift.OUTER_ENVELOPE_TX = value("INVITE_OUTER_ENVELOPE_TX");
-                gift.OUTER_ENVELOPE_ADDRESS_TX = value("INVITE_ADDRESS_TX");
-            }
-            gifts.append(std::move(gift));
+    const clsRecordset rs = gDB().Execute(sql, values);
+    const std::vector<int> columns = RecordIO::FieldColumns(rs, ReadTable());
+    for (int row = 0; row < rs.RowCount(); ++row) {
+        clsGIFT gift;
+        RecordIO::Fill(gift, rs, row, ReadTable(), columns);
+        auto value = [&](const char* column) { return rs.Value(row, QString::fromLatin1(column)); };
+        if (!gift.CONTACT_ID.isEmpty()) {
+            gift.GIVER_NM = LastFirstMiddleSuffix(value("GIVER_FIRST_NM"), value("GIVER_MIDDLE_NM"),
+                                                  value("GIVER_LAST_NM"), value("GIVER_SUFFIX_TX"));
+            gift.OUTER_ENVELOPE_TX = TitleFirstMiddleLastSuffix(
+                value("GIVER_TITLE_TX"), value("GIVER_FIRST_NM"), value("GIVER_MIDDLE_NM"),
+                value("GIVER_LAST_NM"), value("GIVER_SUFFIX_TX"));
+            gift.OUTER_ENVELOPE_ADDRESS_TX = TrimCrLf(value("GIVER_ADDRESS_TX"));
+        } else if (!gift.INVITE_ID.isEmpty()) {
+            gift.GIVER_NM = value("INVITE_DISPLAY_AS_TX");
+            gift.OUTER_ENVELOPE_TX = value("INVITE_OUTER_ENVELOPE_TX");
+            gift.OUTER_ENVELOPE_ADDRESS_TX = value("INVITE_ADDRESS_TX");
         }
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
+        gifts.append(std::move(gift));
     }
     return gifts;
 }
@@ -157,8 +153,8 @@ QString clsGIFT::THANK_YOU_SENT_FG_Text() const {
     return THANK_YOU_SENT_FG == QLatin1String("Y") ? QStringLiteral("Yes") : QString();
 }
 
-bool clsGIFT::Delete(const QString& giftId) {
-    return RecordIO::Delete(QStringLiteral("GIFT"), QStringLiteral("GIFT_ID"), giftId);
+void clsGIFT::Delete(const QString& giftId) {
+    RecordIO::Delete(QStringLiteral("GIFT"), QStringLiteral("GIFT_ID"), giftId);
 }
 
 long clsGIFT::GetTotal(int filter, const QString& customWhere) const {
@@ -184,12 +180,10 @@ QList<clsGIFT> clsGIFT::OpenRecords(int filter, const QString& customWhere) cons
                 {});
 }
 
-bool clsGIFT::Save(bool isNew) {
-    const clsGIFT before = *this;
-    if (!CONTACT_ID.isEmpty())
-        INVITE_ID.clear();
-    if (RecordIO::Save(*this, Table(), isNew))
-        return true;
-    *this = before;
-    return false;
+void clsGIFT::Save(bool isNew) {
+    clsGIFT row = *this;
+    if (!row.CONTACT_ID.isEmpty())
+        row.INVITE_ID.clear();
+    RecordIO::Save(row, Table(), isNew);
+    *this = row;
 }

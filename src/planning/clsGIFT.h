@@ -40,14 +40,16 @@ public:
     QString OUTER_ENVELOPE_ADDRESS_TX_Text(bool multiLine) const;
     QString THANK_YOU_SENT_FG_Text() const;
 
-    bool Delete(const QString& giftId);
+    // Every operation below that reads or writes throws clsDbError when the database refuses.
+
+    void Delete(const QString& giftId);
     // A custom condition (with its word WHERE) takes the place of the filter.
     long GetTotal(int filter, const QString& customWhere = QString()) const;
     bool OpenRecord(const QString& giftId);
     // Gifts of contacts and invitations sorted together by last name or display name.
     QList<clsGIFT> OpenRecords(int filter, const QString& customWhere = QString()) const;
-    // The id of the other kind of giver is written as NULL.
-    bool Save(bool isNew);
+    // The id of the other kind of giver is written as NULL. A refused save leaves the object as it was.
+    void Save(bool isNew);
 
 private:
     static const RecordTable<clsGIFT>& ReadTable();

@@ -46,8 +46,8 @@ void clsNOTEBOOK::CreateTable() {
     modSchema::CreateTableIfMissing(gDB(), QStringLiteral("NOTEBOOK"));
 }
 
-bool clsNOTEBOOK::Delete(const QString& notebookId) {
-    return RecordIO::Delete(QStringLiteral("NOTEBOOK"), QStringLiteral("NOTEBOOK_ID"), notebookId);
+void clsNOTEBOOK::Delete(const QString& notebookId) {
+    RecordIO::Delete(QStringLiteral("NOTEBOOK"), QStringLiteral("NOTEBOOK_ID"), notebookId);
 }
 
 long clsNOTEBOOK::GetTotal() const {
@@ -59,14 +59,10 @@ bool clsNOTEBOOK::OpenRecord(const QString& notebookId) {
 }
 
 QList<clsNOTEBOOK> clsNOTEBOOK::OpenRecords() const {
-    return RecordIO::OpenRecords(Table(),
-                                 QStringLiteral("SELECT NOTEBOOK.* FROM NOTEBOOK ORDER BY NOTEBOOK_DT DESC"));
+    return RecordIO::ReadAll(Table(),
+                             QStringLiteral("SELECT NOTEBOOK.* FROM NOTEBOOK ORDER BY NOTEBOOK_DT DESC"));
 }
 
-bool clsNOTEBOOK::Save(bool isNew) {
-    const clsNOTEBOOK before = *this;
-    if (RecordIO::Save(*this, Table(), isNew))
-        return true;
-    *this = before;
-    return false;
+void clsNOTEBOOK::Save(bool isNew) {
+    RecordIO::Save(*this, Table(), isNew);
 }

@@ -27,10 +27,12 @@ public:
     void SetFilePaths(const QStringList& paths);
 
     static void CreateTable();
-    bool Delete(const QString& notebookId);
+    // Every operation below that reads or writes throws clsDbError when the database refuses.
+
+    void Delete(const QString& notebookId);
     long GetTotal() const;
     bool OpenRecord(const QString& notebookId);
     // The newest note first.
     QList<clsNOTEBOOK> OpenRecords() const;
-    bool Save(bool isNew);
+    void Save(bool isNew);
 };

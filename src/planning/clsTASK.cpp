@@ -103,8 +103,8 @@ QString clsTASK::CalculateDueDate(const clsTASK& task) {
     return CalculateDueDate(task, WeddingDate());
 }
 
-bool clsTASK::Delete(const QString& taskId) {
-    return RecordIO::Delete(QStringLiteral("TASK"), QStringLiteral("TASK_ID"), taskId);
+void clsTASK::Delete(const QString& taskId) {
+    RecordIO::Delete(QStringLiteral("TASK"), QStringLiteral("TASK_ID"), taskId);
 }
 
 long clsTASK::GetTotal(int filter) const {
@@ -125,7 +125,7 @@ QList<clsTASK> clsTASK::OpenRecords(int filter) const {
     QString sql = SelectSql() + WhereSql(filter, values);
     sql += filter == ByDueDate ? QStringLiteral(" ORDER BY TASK.DUE_DT, TASK.TASK_NM COLLATE NOCASE")
                                : kChecklistOrder;
-    return RecordIO::OpenRecords(ReadTable(), sql, values);
+    return RecordIO::ReadAll(ReadTable(), sql, values);
 }
 
 void clsTASK::Patch_7_Apply() {
@@ -142,24 +142,18 @@ void clsTASK::Patch_7_Apply() {
     tx.Commit();
 }
 
-bool clsTASK::RefreshDueDates() {
+void clsTASK::RefreshDueDates() {
     const QDate wedding = WeddingDate();
-    try {
-        const clsRecordset rs = gDB().Execute(SelectSql() + kChecklistOrder);
-        clsTransaction tx(gDB());
-        const std::vector<int> columns = RecordIO::FieldColumns(rs, ReadTable());
-        for (int row = 0; row < rs.RowCount(); ++row) {
-            clsTASK task;
-            RecordIO::Fill(task, rs, row, ReadTable(), columns);
-            task.DUE_DT = CalculateDueDate(task, wedding);
-            RecordIO::SaveOrThrow(task, Table(), false);
-        }
-        tx.Commit();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
+    clsTransaction tx(gDB());
+    const clsRecordset rs = gDB().Execute(SelectSql() + kChecklistOrder);
+    const std::vector<int> columns = RecordIO::FieldColumns(rs, ReadTable());
+    for (int row = 0; row < rs.RowCount(); ++row) {
+        clsTASK task;
+        RecordIO::Fill(task, rs, row, ReadTable(), columns);
+        task.DUE_DT = CalculateDueDate(task, wedding);
+        RecordIO::Save(task, Table(), false);
     }
+    tx.Commit();
 }
 
 void clsTASK::Renumber() {
@@ -169,52 +163,35 @@ void clsTASK::Renumber() {
                       {row + 1, rs.Value(row, QStringLiteral("TASK_ID"))});
 }
 
-bool clsTASK::Save(bool isNew) {
-    const clsTASK before = *this;
-    try {
-        clsTransaction tx(gDB());
-        if (isNew && SORT_ORDER_NB.isEmpty()) {
-            const QString next =
-                gDB().Execute(QStringLiteral("SELECT Max(SORT_ORDER_NB) + 1 FROM TASK")).Scalar();
-            SORT_ORDER_NB = next.isEmpty() ? QStringLiteral("1") : next;
-        }
-        RecordIO::SaveOrThrow(*this, Table(), isNew);
-        if (isNew) {
-            Renumber();
-            SORT_ORDER_NB =
-                gDB()
-                    .Execute(QStringLiteral("SELECT SORT_ORDER_NB FROM TASK WHERE TASK_ID = ?"), {TASK_ID})
-                    .Scalar();
-        }
-        tx.Commit();
-        return true;
-    } catch (const clsDbError& e) {
-        *this = before;
-        RecordIO::Report(e);
-        return false;
+void clsTASK::Save(bool isNew) {
+    clsTASK task = *this;
+    clsTransaction tx(gDB());
+    if (isNew && task.SORT_ORDER_NB.isEmpty())
+        task.SORT_ORDER_NB = RecordIO::NextID(QStringLiteral("TASK"), QStringLiteral("SORT_ORDER_NB"));
+    RecordIO::Save(task, Table(), isNew);
+    if (isNew) {
+        Renumber();
+        task.SORT_ORDER_NB =
+            gDB()
+                .Execute(QStringLiteral("SELECT SORT_ORDER_NB FROM TASK WHERE TASK_ID = ?"), {task.TASK_ID})
+                .Scalar();
     }
+    tx.Commit();
+    *this = task;
 }
 
-bool clsTASK::Update_COMPLETED_FG() {
-    return RecordIO::Run(QStringLiteral("UPDATE TASK SET COMPLETED_FG = ? WHERE TASK_ID = ?"),
-                         {COMPLETED_FG, TASK_ID});
+void clsTASK::Update_COMPLETED_FG() {
+    RecordIO::Run(QStringLiteral("UPDATE TASK SET COMPLETED_FG = ? WHERE TASK_ID = ?"),
+                  {COMPLETED_FG, TASK_ID});
 }
 
-bool clsTASK::UpdateSort(const QString& taskId, const QString& sortOrder) {
-    return RecordIO::Run(QStringLiteral("UPDATE TASK SET SORT_ORDER_NB = ? WHERE TASK_ID = ?"),
-                         {sortOrder, taskId});
+void clsTASK::UpdateSort(const QString& taskId, const QString& sortOrder) {
+    RecordIO::Run(QStringLiteral("UPDATE TASK SET SORT_ORDER_NB = ? WHERE TASK_ID = ?"), {sortOrder, taskId});
 }
 
-bool clsTASK::WriteSortOrder(const QStringList& taskIds) {
-    try {
-        clsTransaction tx(gDB());
-        for (int i = 0; i < taskIds.size(); ++i)
-            gDB().Execute(QStringLiteral("UPDATE TASK SET SORT_ORDER_NB = ? WHERE TASK_ID = ?"),
-                          {i + 1, taskIds[i]});
-        tx.Commit();
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
-    }
+void clsTASK::WriteSortOrder(const QStringList& taskIds) {
+    clsTransaction tx(gDB());
+    for (int i = 0; i < taskIds.size(); ++i)
+        UpdateSort(taskIds[i], QString::number(i + 1));
+    tx.Commit();
 }

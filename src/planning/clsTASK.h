@@ -33,7 +33,9 @@ public:
     // Days before the wedding at which a time frame falls due; 0 (the wedding day) outside 0..10.
     static int DaysBeforeWedding(int taskGroupId);
 
-    bool Delete(const QString& taskId);
+    // Every operation below that reads or writes throws clsDbError when the database refuses.
+
+    void Delete(const QString& taskId);
     long GetTotal(int filter) const;
     bool OpenRecord(const QString& taskId);
     QList<clsTASK> OpenRecords(int filter) const;
@@ -42,14 +44,15 @@ public:
     // The due date of a task from the wedding date, "dd-mmm-yyyy"; empty while no wedding date is set.
     static QString CalculateDueDate(const clsTASK& task);
     static QString CalculateDueDate(const clsTASK& task, const QDate& weddingDate);
-    // Sets every task's due date from its time frame, hand-set and completed ones alike.
-    bool RefreshDueDates();
-    // An insert renumbers all tasks afterwards, so that the new one falls into place.
-    bool Save(bool isNew);
-    bool Update_COMPLETED_FG();
-    bool UpdateSort(const QString& taskId, const QString& sortOrder);
-    // Writes 1, 2, 3 ... in the order of the list given (the order shown on the page).
-    bool WriteSortOrder(const QStringList& taskIds);
+    // Sets every task's due date from its time frame, hand-set and completed ones alike; all or nothing.
+    void RefreshDueDates();
+    // An insert renumbers all tasks afterwards, so that the new one falls into place. A refused save
+    // leaves the object as it was.
+    void Save(bool isNew);
+    void Update_COMPLETED_FG();
+    static void UpdateSort(const QString& taskId, const QString& sortOrder);
+    // Writes 1, 2, 3 ... in the order of the list given (the order shown on the page); all or nothing.
+    static void WriteSortOrder(const QStringList& taskIds);
 
 private:
     static const RecordTable<clsTASK>& ReadTable();

@@ -82,27 +82,21 @@ void clsTIMELINE::CreateTable() {
     modSchema::CreateTableIfMissing(gDB(), QStringLiteral("TIMELINE"));
 }
 
-bool clsTIMELINE::Delete(const QString& timelineId) {
-    return RecordIO::Delete(QStringLiteral("TIMELINE"), QStringLiteral("TIMELINE_ID"), timelineId);
+void clsTIMELINE::Delete(const QString& timelineId) {
+    RecordIO::Delete(QStringLiteral("TIMELINE"), QStringLiteral("TIMELINE_ID"), timelineId);
 }
 
 QString clsTIMELINE::GetLastTime(const QString& eventId) const {
     if (eventId.isEmpty())
         return FormatTime(QTime(0, 0));
-    try {
-        const QString latest =
-            gDB()
-                .Execute(QStringLiteral(
-                             "SELECT MAX(TIMELINE_END_DT) AS MAX_TIME FROM TIMELINE WHERE EVENT_ID = ?"),
-                         {eventId})
-                .Scalar();
-        const QDateTime moment = ParseDateTimeText(latest);
-        if (moment.isValid())
-            return FormatTime(moment.time());
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-    }
-    return QStringLiteral("8:00 AM");
+    const QString latest =
+        gDB()
+            .Execute(
+                QStringLiteral("SELECT MAX(TIMELINE_END_DT) AS MAX_TIME FROM TIMELINE WHERE EVENT_ID = ?"),
+                {eventId})
+            .Scalar();
+    const QDateTime moment = ParseDateTimeText(latest);
+    return moment.isValid() ? FormatTime(moment.time()) : QStringLiteral("8:00 AM");
 }
 
 long clsTIMELINE::GetTotal(const QString& eventId) const {
@@ -117,7 +111,7 @@ long clsTIMELINE::GetTotalEvents() const {
 }
 
 QList<clsEVENT> clsTIMELINE::OpenEvents() const {
-    return RecordIO::OpenRecords(
+    return RecordIO::ReadAll(
         clsEVENT::Table(),
         QStringLiteral(
             "SELECT DISTINCT EVENT.EVENT_DT, EVENT.EVENT_ID, EVENT.EVENT_TX FROM EVENT INNER JOIN TIMELINE "
@@ -134,15 +128,11 @@ bool clsTIMELINE::OpenRecord(const QString& timelineId) {
 QList<clsTIMELINE> clsTIMELINE::OpenRecords(const QString& eventId) const {
     const QString order = QStringLiteral(" ORDER BY TIMELINE_START_DT, TIMELINE_END_DT");
     if (eventId.isEmpty())
-        return RecordIO::OpenRecords(ReadTable(), SelectSql() + order);
-    return RecordIO::OpenRecords(
-        ReadTable(), SelectSql() + QStringLiteral("WHERE TIMELINE.EVENT_ID = ?") + order, {eventId});
+        return RecordIO::ReadAll(ReadTable(), SelectSql() + order);
+    return RecordIO::ReadAll(ReadTable(), SelectSql() + QStringLiteral("WHERE TIMELINE.EVENT_ID = ?") + order,
+                             {eventId});
 }
 
-bool clsTIMELINE::Save(bool isNew) {
-    const clsTIMELINE before = *this;
-    if (RecordIO::Save(*this, Table(), isNew))
-        return true;
-    *this = before;
-    return false;
+void clsTIMELINE::Save(bool isNew) {
+    RecordIO::Save(*this, Table(), isNew);
 }

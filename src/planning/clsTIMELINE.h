@@ -32,7 +32,9 @@ public:
     QString TIMELINE_START_TM_TO_END_TM() const;
 
     static void CreateTable();
-    bool Delete(const QString& timelineId);
+    // Every operation below that reads or writes throws clsDbError when the database refuses.
+
+    void Delete(const QString& timelineId);
     // Where the next entry of the event starts: the end of its latest entry, or "8:00 AM" for an event
     // without entries. Without an event: midnight.
     QString GetLastTime(const QString& eventId) const;
@@ -43,7 +45,7 @@ public:
     QList<clsEVENT> OpenEvents() const;
     bool OpenRecord(const QString& timelineId);
     QList<clsTIMELINE> OpenRecords(const QString& eventId = QString()) const;
-    bool Save(bool isNew);
+    void Save(bool isNew);
 
 private:
     static const RecordTable<clsTIMELINE>& ReadTable();

@@ -6,10 +6,6 @@
 #include "planning/modPlanningSql.h"
 #include "platform/clsShell.h"
 
-namespace {
-
-} // namespace
-
 const RecordTable<clsVENDOR>& clsVENDOR::Table() {
     static const RecordTable<clsVENDOR> table{"VENDOR",
                                               "VENDOR_ID",
@@ -60,8 +56,8 @@ void clsVENDOR::SetFilePaths(const QStringList& paths) {
     FILE_PATH_TX = paths.join(QLatin1Char(';'));
 }
 
-bool clsVENDOR::Delete(const QString& vendorId) {
-    return RecordIO::Delete(QStringLiteral("VENDOR"), QStringLiteral("VENDOR_ID"), vendorId);
+void clsVENDOR::Delete(const QString& vendorId) {
+    RecordIO::Delete(QStringLiteral("VENDOR"), QStringLiteral("VENDOR_ID"), vendorId);
 }
 
 long clsVENDOR::GetTotal() const {
@@ -84,27 +80,23 @@ bool clsVENDOR::OpenRecord(const QString& vendorId) {
 }
 
 QList<clsVENDOR> clsVENDOR::OpenRecords() const {
-    return RecordIO::OpenRecords(
+    return RecordIO::ReadAll(
         ReadTable(),
         SelectSql() + QStringLiteral("ORDER BY VENDOR_CATEGORY_DICT.VENDOR_CATEGORY_TX COLLATE NOCASE, "
                                      "VENDOR.VENDOR_NM COLLATE NOCASE"));
 }
 
-bool clsVENDOR::Save(bool isNew) {
-    const clsVENDOR before = *this;
-    if (RecordIO::Save(*this, Table(), isNew))
-        return true;
-    *this = before;
-    return false;
+void clsVENDOR::Save(bool isNew) {
+    RecordIO::Save(*this, Table(), isNew);
 }
 
 void clsVENDOR::Patch_1_Apply() {
     const QList<clsVENDOR> vendors =
-        RecordIO::OpenRecords(Table(), QStringLiteral("SELECT * FROM VENDOR ORDER BY VENDOR_ID"));
+        RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM VENDOR ORDER BY VENDOR_ID"));
     clsTransaction tx(gDB());
     for (clsVENDOR vendor : vendors) {
         JoinAddressParts(vendor);
-        RecordIO::SaveOrThrow(vendor, Table(), false);
+        RecordIO::Save(vendor, Table(), false);
     }
     tx.Commit();
 }

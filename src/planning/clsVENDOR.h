@@ -35,15 +35,17 @@ public:
     // Joins the paths with ";"; no paths leave FILE_PATH_TX empty (NULL in the database).
     void SetFilePaths(const QStringList& paths);
 
+    // Every operation below that reads or writes throws clsDbError when the database refuses.
+
     // A vendor that budget expenses point to is refused with the budget message.
-    bool Delete(const QString& vendorId);
+    void Delete(const QString& vendorId);
     long GetTotal() const;
     bool MapIt() const;
     QString MapURL() const;
     bool OpenRecord(const QString& vendorId);
     // Grouped by category, then by name.
     QList<clsVENDOR> OpenRecords() const;
-    bool Save(bool isNew);
+    void Save(bool isNew);
 
     // Joins the old address parts into the one address block of every row (done once, see the driver).
     static void Patch_1_Apply();

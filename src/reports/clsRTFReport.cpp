@@ -8,12 +8,7 @@
 
 #include <QLocale>
 
-// A report that the database refuses to read is not written: the message says why.
 QString clsRTFReport::Build() {
-    return RecordIO::Read([this] { return Write(); });
-}
-
-QString clsRTFReport::Write() {
     RTF.SetGlobalSettings();
     RTF.FILE_NAME = clsReportCatalogue::ReportFileName(clsReportCatalogue::FilePrefix(mClassName));
     RTF.TITLE = Title();

@@ -21,8 +21,8 @@ public:
     clsRTFMaster RTF;
 
     // Writes the file: settings, file name (prefix and time stamp), title, statistics, header row, data
-    // rows. The full name of the file written, or empty when it could not be written (the user has been
-    // told why).
+    // rows. The full name of the file written, or empty when the file could not be written (the user has
+    // been told why). A database that refuses the reading throws clsDbError, and nothing is written.
     QString Build();
     // Opens the written file with the desktop's program for it.
     bool Show() { return RTF.Show(); }
@@ -73,7 +73,6 @@ protected:
     static QString YesNo(const QString& flag);
 
 private:
-    QString Write();
     void FullWidthRow(const RtfMarkup& text, int border, int fill, bool bold);
 
     QString mClassName;

@@ -163,7 +163,7 @@ void TimelineRows(RowList& list) {
 // The first name of contact row 1 or 2, read afresh so that a changed name shows at once.
 QString PartnerName(const char* contactId) {
     clsCONTACT partner;
-    RecordIO::Attempt([&partner, contactId] { partner.OpenRecord(QString::fromLatin1(contactId)); });
+    partner.OpenRecord(QString::fromLatin1(contactId));
     return partner.FIRST_NM;
 }
 

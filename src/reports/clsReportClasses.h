@@ -12,7 +12,8 @@
 class clsReportClasses {
 public:
     // Builds the report the route describes and gives back the full name of the file written, or an
-    // empty text when nothing was written (the user has been told why).
+    // empty text when the file could not be written (the user has been told why). Throws clsDbError when
+    // the database refuses the reading.
     using Builder = std::function<QString(const clsReportRoute&)>;
 
     // A second registration of the same name replaces the first.

@@ -50,11 +50,13 @@ int SectionKeyOf(const QString& text)
 QString Write(const clsReportRoute& route, const Output& output)
 {
     clsRTFMasterTemp& settings = gRTFMasterTemp();
-    const Output before{settings.USE_RTF, settings.USE_PDF, settings.LANDSCAPE, settings.A4};
+    // The settings go back as they were, also when the database refuses the reading.
+    struct Restore {
+        Output Before;
+        ~Restore() { ApplyOutput(Before); }
+    } restore{{settings.USE_RTF, settings.USE_PDF, settings.LANDSCAPE, settings.A4}};
     ApplyOutput(output);
-    const QString file = clsReportClasses::Build(route);
-    ApplyOutput(before);
-    return file;
+    return clsReportClasses::Build(route);
 }
 
 QStringList WriteAll(const QList<Output>& outputs, int* failed,

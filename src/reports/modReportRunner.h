@@ -30,11 +30,13 @@ QList<clsReportRoute> AvailableRoutes();
 int SectionKeyOf(const QString& text);
 
 // Writes the report of the route with that output and leaves the settings as they were. The full
-// name of the file, or empty when nothing was written (the user has been told why).
+// name of the file, or empty when the file could not be written (the user has been told why). Throws
+// clsDbError when the database refuses the reading.
 QString Write(const clsReportRoute& route, const Output& output);
 
 // Writes every available report in each of the given dialects. `progress` hears of each file as it
-// is done (may be empty). The files written, in order; failures are counted in *failed.
+// is done (may be empty). The files written, in order; files that could not be written are counted in
+// *failed. Throws clsDbError when the database refuses a reading.
 QStringList WriteAll(const QList<Output>& outputs, int* failed = nullptr,
                      const std::function<void(const QString& file)>& progress = {});
 

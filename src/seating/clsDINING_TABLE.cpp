@@ -30,15 +30,11 @@ void clsDINING_TABLE::Delete(const QString& key) {
 
 long clsDINING_TABLE::GetTotal(int kind) const {
     if (kind == TotalTables)
-        return gDB().Execute(QStringLiteral("SELECT COUNT(*) AS CNT FROM DINING_TABLE")).Scalar().toLong();
+        return RecordIO::Count(QStringLiteral("SELECT COUNT(*) AS CNT FROM DINING_TABLE"));
     if (kind != SeatsFree && kind != SeatsTaken)
         return 0;
-    const long taken =
-        gDB()
-            .Execute(QStringLiteral("SELECT COUNT(*) AS CNT FROM CONTACT WHERE DINING_TABLE_ID = ?"),
-                     {DINING_TABLE_ID})
-            .Scalar()
-            .toLong();
+    const long taken = RecordIO::Count(
+        QStringLiteral("SELECT COUNT(*) AS CNT FROM CONTACT WHERE DINING_TABLE_ID = ?"), {DINING_TABLE_ID});
     return kind == SeatsTaken ? taken : SEATS_NB.toLong() - taken;
 }
 
@@ -47,18 +43,12 @@ QString clsDINING_TABLE::NEXT_NB() {
 }
 
 bool clsDINING_TABLE::OpenRecord(const QString& key, const QString& number) {
-    const bool byKey = !key.isEmpty();
-    if (!byKey && number.isEmpty())
+    if (!key.isEmpty())
+        return RecordIO::OpenRecord(*this, Table(), key);
+    if (number.isEmpty())
         return false;
-    const QList<clsDINING_TABLE> found =
-        RecordIO::ReadAll(Table(),
-                          byKey ? QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_ID = ?")
-                                : QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_NB = ?"),
-                          {byKey ? key : number});
-    if (found.isEmpty())
-        return false;
-    *this = found.first();
-    return true;
+    return RecordIO::OpenFirst(
+        *this, Table(), QStringLiteral("SELECT * FROM DINING_TABLE WHERE DINING_TABLE_NB = ?"), {number});
 }
 
 QList<clsDINING_TABLE> clsDINING_TABLE::OpenRecords() {
@@ -88,7 +78,7 @@ bool clsDINING_TABLE::Patch_6_Apply() {
 }
 
 void clsDINING_TABLE::Save(bool insert) {
-    RecordIO::SaveOrThrow(*this, Table(), insert);
+    RecordIO::Save(*this, Table(), insert);
 }
 
 namespace {

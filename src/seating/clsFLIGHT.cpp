@@ -52,12 +52,7 @@ QString clsFLIGHT::NEXT_NB() {
 }
 
 bool clsFLIGHT::OpenRecord(const QString& key) {
-    const QList<clsFLIGHT> found =
-        RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM FLIGHT WHERE FLIGHT_ID = ?"), {key});
-    if (found.isEmpty())
-        return false;
-    *this = found.first();
-    return true;
+    return RecordIO::OpenRecord(*this, Table(), key);
 }
 
 QList<clsFLIGHT> clsFLIGHT::OpenRecords() {
@@ -65,18 +60,16 @@ QList<clsFLIGHT> clsFLIGHT::OpenRecords() {
 }
 
 void clsFLIGHT::Save(bool insert) {
-    RecordIO::SaveOrThrow(*this, Table(), insert);
+    RecordIO::Save(*this, Table(), insert);
 }
 
 long clsFLIGHT::Total() {
-    return gDB().Execute(QStringLiteral("SELECT COUNT(*) FROM FLIGHT")).Scalar().toLong();
+    return RecordIO::Count(QStringLiteral("SELECT COUNT(*) FROM FLIGHT"));
 }
 
 long clsFLIGHT::TotalPassengers(const QString& flightID) {
-    return gDB()
-        .Execute(QStringLiteral("SELECT COUNT(*) FROM FLIGHT INNER JOIN CONTACT ON FLIGHT.FLIGHT_ID = "
-                                "CONTACT.FLIGHT_ID WHERE FLIGHT.FLIGHT_ID = ?"),
-                 {flightID})
-        .Scalar()
-        .toLong();
+    return RecordIO::Count(
+        QStringLiteral("SELECT COUNT(*) FROM FLIGHT INNER JOIN CONTACT ON FLIGHT.FLIGHT_ID = "
+                       "CONTACT.FLIGHT_ID WHERE FLIGHT.FLIGHT_ID = ?"),
+        {flightID});
 }

@@ -67,12 +67,7 @@ QString clsHOTEL::NEXT_NB() {
 }
 
 bool clsHOTEL::OpenRecord(const QString& key) {
-    const QList<clsHOTEL> found =
-        RecordIO::ReadAll(Table(), QStringLiteral("SELECT * FROM HOTEL WHERE HOTEL_ID = ?"), {key});
-    if (found.isEmpty())
-        return false;
-    *this = found.first();
-    return true;
+    return RecordIO::OpenRecord(*this, Table(), key);
 }
 
 QList<clsHOTEL> clsHOTEL::OpenRecords() {
@@ -80,18 +75,15 @@ QList<clsHOTEL> clsHOTEL::OpenRecords() {
 }
 
 void clsHOTEL::Save(bool insert) {
-    RecordIO::SaveOrThrow(*this, Table(), insert);
+    RecordIO::Save(*this, Table(), insert);
 }
 
 long clsHOTEL::Total() {
-    return gDB().Execute(QStringLiteral("SELECT COUNT(*) FROM HOTEL")).Scalar().toLong();
+    return RecordIO::Count(QStringLiteral("SELECT COUNT(*) FROM HOTEL"));
 }
 
 long clsHOTEL::TotalOccupants(const QString& hotelID) {
-    return gDB()
-        .Execute(QStringLiteral("SELECT COUNT(*) FROM HOTEL INNER JOIN CONTACT ON HOTEL.HOTEL_ID = "
-                                "CONTACT.HOTEL_ID WHERE HOTEL.HOTEL_ID = ?"),
-                 {hotelID})
-        .Scalar()
-        .toLong();
+    return RecordIO::Count(QStringLiteral("SELECT COUNT(*) FROM HOTEL INNER JOIN CONTACT ON HOTEL.HOTEL_ID = "
+                                          "CONTACT.HOTEL_ID WHERE HOTEL.HOTEL_ID = ?"),
+                           {hotelID});
 }

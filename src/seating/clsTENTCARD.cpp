@@ -180,18 +180,15 @@ QString clsTENTCARD::GetTENTCARD_TX(const QList<clsCONTACT>& group, bool formal)
 bool clsTENTCARD::OpenRecord(const QString& tentcardId) {
     if (tentcardId.isEmpty())
         return false;
-    const QList<clsTENTCARD> found =
-        RecordIO::ReadAll(ReadTable(), SelectSQL() + QStringLiteral("WHERE TENTCARD.TENTCARD_ID = ?"), {tentcardId});
-    if (found.isEmpty())
-        return false;
-    *this = found.first();
-    return true;
+    return RecordIO::OpenFirst(*this, ReadTable(),
+                               SelectSQL() + QStringLiteral("WHERE TENTCARD.TENTCARD_ID = ?"), {tentcardId});
 }
 
 QList<clsTENTCARD> clsTENTCARD::OpenRecords() {
-    return RecordIO::ReadAll(ReadTable(), SelectSQL() + QStringLiteral("ORDER BY DINING_TABLE.DINING_TABLE_NB, "
-                                                                       "TENTCARD.TENTCARD_SORT_TX COLLATE NOCASE, "
-                                                                       "TENTCARD.TENTCARD_ID"));
+    return RecordIO::ReadAll(ReadTable(),
+                             SelectSQL() + QStringLiteral("ORDER BY DINING_TABLE.DINING_TABLE_NB, "
+                                                          "TENTCARD.TENTCARD_SORT_TX COLLATE NOCASE, "
+                                                          "TENTCARD.TENTCARD_ID"));
 }
 
 void clsTENTCARD::RefreshTentcards() {
@@ -220,7 +217,7 @@ void clsTENTCARD::RefreshTentcards() {
             return; // nobody to name
         card.TENTCARD_SORT_TX = group.first().LAST_NM.isEmpty() ? card.TENTCARD_TX : group.first().LAST_NM;
         card.DINING_TABLE_ID = group.first().DINING_TABLE_ID;
-        RecordIO::SaveOrThrow(card, Table(), true);
+        RecordIO::Save(card, Table(), true);
     };
 
     QList<clsCONTACT> group;
@@ -243,15 +240,9 @@ void clsTENTCARD::RefreshTentcards() {
 }
 
 void clsTENTCARD::Save(bool Add) {
-    const clsTENTCARD before = *this;
-    try {
-        RecordIO::SaveOrThrow(*this, Table(), Add);
-    } catch (...) {
-        *this = before; // an insert that failed keeps no key it never got
-        throw;
-    }
+    RecordIO::Save(*this, Table(), Add);
 }
 
 long clsTENTCARD::Total() {
-    return gDB().Execute(QStringLiteral("SELECT COUNT(*) FROM TENTCARD")).Scalar().toLong();
+    return RecordIO::Count(QStringLiteral("SELECT COUNT(*) FROM TENTCARD"));
 }

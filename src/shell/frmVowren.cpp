@@ -1,5 +1,6 @@
 #include "shell/frmVowren.h"
 
+#include "core/RecordIO.h"
 #include "core/clsApp.h"
 #include "core/modSubMain.h"
 #include "shell/mdiMain.h"
@@ -68,7 +69,7 @@ void frmVowren::showEvent(QShowEvent* event) {
 }
 
 void frmVowren::FirstActivation() {
-    modSubMain::RunPatchesAndOpenGlobals();
+    RecordIO::Attempt([] { modSubMain::RunPatchesAndOpenGlobals(); });
     mPatched = true;
     if (mSkipWait) {
         ShowMain();

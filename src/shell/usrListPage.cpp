@@ -464,7 +464,7 @@ void usrListPage::Load() {
     picLoading->setVisible(!mLoaded);
     {
         clsGridFill fill(*mGrid->Model());
-        mTotal = FillRows(fill, mFilter);
+        mTotal = RecordIO::Read([&] { return FillRows(fill, mFilter); });
     }
     mLoaded = true;
     picLoading->hide();
@@ -505,14 +505,26 @@ void usrListPage::UpdateEmptyState() {
     picLoading->setGeometry(mGrid->viewport()->rect());
 }
 
+// The counts of the filters and of the wholes their shares are of; none after the message of a failure.
+QHash<int, long> usrListPage::PanelCounts() const {
+    return RecordIO::Read([this] {
+        QHash<int, long> counts;
+        for (const FilterEntry& entry : mEntries)
+            counts.insert(entry.Id, CountOf(entry.Id));
+        for (const FilterEntry& entry : mEntries) {
+            const int base = ShareBaseOf(entry.Id);
+            if (!counts.contains(base))
+                counts.insert(base, CountOf(base));
+        }
+        return counts;
+    });
+}
+
 void usrListPage::RefreshPanel() {
-    QHash<int, long> counts;
-    for (const FilterEntry& entry : mEntries)
-        counts.insert(entry.Id, CountOf(entry.Id));
+    const QHash<int, long> counts = PanelCounts();
     for (const FilterEntry& entry : mEntries) {
         const long count = counts.value(entry.Id);
-        const int base = ShareBaseOf(entry.Id);
-        const long whole = counts.contains(base) ? counts.value(base) : CountOf(base);
+        const long whole = counts.value(ShareBaseOf(entry.Id));
         findChild<QLabel*>(QStringLiteral("lblStat_%1").arg(entry.Id))->setText(QString::number(count));
         findChild<QLabel*>(QStringLiteral("lblStatPercent_%1").arg(entry.Id))
             ->setText(PercentText(double(count), double(whole), 0));

@@ -150,6 +150,7 @@ private:
     void ApplySearch(const QString& text);
     void UpdateCountLabels();
     void UpdateCountedActions();
+    QHash<int, long> PanelCounts() const;
     void ShowMenuAt(const QPoint& gridPosition);
     void BuildGroupMenu();
     void ToggleNotes();

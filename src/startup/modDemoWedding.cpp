@@ -378,7 +378,7 @@ void FillEvents(QStringList& eventIds) {
     wedding.EMAIL_TX = QStringLiteral("events@magnoliahall.example.com");
     wedding.WEB_SITE_TX = QStringLiteral("https://magnoliahall.example.com");
     wedding.NOTES_TX = QStringLiteral("Ceremony on the lawn; the oak room if it rains.");
-    Must(wedding.Save(false), "the wedding day could not be saved");
+    wedding.Save(false);
     eventIds << QStringLiteral("1");
 
     struct Other {
@@ -400,7 +400,7 @@ void FillEvents(QStringList& eventIds) {
         e.EVENT_TX = QString::fromLatin1(o.Name);
         e.EVENT_DT = Iso(o.Day, o.Hour, o.Minute);
         e.ADDRESS_TX = QString::fromLatin1(o.Address);
-        Must(e.Save(true), "an event could not be saved");
+        e.Save(true);
         eventIds << e.EVENT_ID;
     }
 
@@ -434,7 +434,7 @@ void FillEvents(QStringList& eventIds) {
         t.TIMELINE_END_DT = Iso(x.Day, x.H2, x.M2);
         t.TIMELINE_DESC = QString::fromLatin1(x.What);
         t.CONTACT_NM = QString::fromLatin1(x.Who);
-        Must(t.Save(true), "a timeline entry could not be saved");
+        t.Save(true);
     }
 }
 
@@ -445,7 +445,7 @@ void FillTasks(Generator& g) {
         const int group = task.TASK_GROUP_ID.toInt();
         const int done = group <= 2 ? 95 : group <= 4 ? 60 : group <= 5 ? 25 : 0;
         task.COMPLETED_FG = g.Chance(done) ? QStringLiteral("Y") : QStringLiteral("N");
-        Must(task.Save(false), "a task could not be saved");
+        task.Save(false);
     }
     clsTASK extra;
     extra.TASK_NM = QStringLiteral("Confirm the shuttle from the hotels to Magnolia Hall");
@@ -453,7 +453,7 @@ void FillTasks(Generator& g) {
     extra.DUE_DT = clsTASK::CalculateDueDate(extra, kWeddingDay);
     extra.COMPLETED_FG = QStringLiteral("N");
     extra.NOTES_TX = QStringLiteral("Two runs: 2:30 PM and 2:50 PM; back at 11 PM.");
-    Must(extra.Save(true), "a task could not be saved");
+    extra.Save(true);
 }
 
 void FillBudget(Generator& g, int attending) {
@@ -481,7 +481,7 @@ void FillBudget(Generator& g, int attending) {
                             QStringLiteral("Charleston, SC 2940") + Num(i % 9 + 1);
         vendor.PHONE_TX = QStringLiteral("(843) 555-%1").arg(200 + i, 4, 10, QLatin1Char('0'));
         vendor.EMAIL_TX = QStringLiteral("hello%1@vendor.example.com").arg(i + 1);
-        Must(vendor.Save(true), "a vendor could not be saved");
+        vendor.Save(true);
         vendorIds << vendor.VENDOR_ID;
         ++i;
     }
@@ -527,7 +527,7 @@ void FillBudget(Generator& g, int attending) {
         if (due < today || g.Chance(25))
             b.PAID_DT = Iso(std::min(due, today).addDays(-g.Below(10)));
         b.PAID_BY_ID = Num(l.PaidBy);
-        Must(b.Save(true), "a budget line could not be saved");
+        b.Save(true);
     }
     clsBUDGET_CATEGORY_DICT dict;
     const QList<clsBUDGET_CATEGORY_DICT> categories = dict.OpenRecords();
@@ -535,7 +535,7 @@ void FillBudget(Generator& g, int attending) {
         const double estimate =
             c.BUDGET_CATEGORY_ID.toInt() == 4 ? 8000 + 95.0 * attending : 500 + 400 * g.Below(10);
         c.ESTIMATE_AMOUNT_NB = QString::number(estimate, 'f', 2);
-        Must(c.Save(false, false), "a budget estimate could not be saved");
+        c.Save(false, false);
     }
 }
 
@@ -561,7 +561,7 @@ void FillNotesSongsWording(const Couple& couple) {
         nb.NOTEBOOK_DT = Iso(n.Day, n.H, n.M);
         nb.SUBJECT_TX = QString::fromLatin1(n.Subject);
         nb.NOTES_TX = QString::fromLatin1(n.Text);
-        Must(nb.Save(true), "a note could not be saved");
+        nb.Save(true);
     }
     struct Song {
         int List;
@@ -585,7 +585,7 @@ void FillNotesSongsWording(const Couple& couple) {
         song.SONGLIST_ID = Num(s.List);
         song.SONG_FILE_PATH_TX = QStringLiteral("/home/shared/Music/Wedding/") + QString::fromLatin1(s.File);
         song.NOTES_TX = QString::fromLatin1(s.Notes);
-        Must(song.Save(true), "a song could not be saved");
+        song.Save(true);
     }
     clsWORDING wording;
     if (wording.OpenRecord(Num(clsWORDING::InvitationWording))) {
@@ -597,7 +597,7 @@ void FillNotesSongsWording(const Couple& couple) {
                            "Saturday, the twelfth of June\r\ntwo thousand twenty-seven\r\n"
                            "at half past three in the afternoon\r\nMagnolia Hall\r\n"
                            "Charleston, South Carolina");
-        Must(wording.Save(false), "the invitation wording could not be saved");
+        wording.Save(false);
     }
 }
 
@@ -884,7 +884,7 @@ Totals FillGuests(Generator& g, int guests, const Couple& couple, const QStringL
             gift.GIFT_TX = g.Pick(things);
             gift.RECEIVED_DT = Iso(kWeddingDay.addDays(g.Below(21)));
             gift.THANK_YOU_SENT_FG = g.Chance(55) ? QStringLiteral("Y") : QStringLiteral("N");
-            Must(gift.Save(true), "a gift could not be saved");
+            gift.Save(true);
         } else if (h.Received && h.People.first().FRIEND_OF_CD == QLatin1String("1") &&
                    h.People.first().GENDER_FG == QLatin1String("F") && g.Chance(15)) {
             clsGIFT gift;
@@ -895,7 +895,7 @@ Totals FillGuests(Generator& g, int guests, const Couple& couple, const QStringL
             gift.RECEIVED_DT = Iso(QDate(2027, 5, 15));
             gift.THANK_YOU_SENT_FG = g.Chance(80) ? QStringLiteral("Y") : QStringLiteral("N");
             gift.NOTES_TX = QStringLiteral("Opened at the shower");
-            Must(gift.Save(true), "a gift could not be saved");
+            gift.Save(true);
         }
     }
 
@@ -904,14 +904,14 @@ Totals FillGuests(Generator& g, int guests, const Couple& couple, const QStringL
         clsINVITE_WIDGET w;
         w.EVENT_ID = eventIds.at(2);
         w.CONTACT_ID = id;
-        Must(w.Save(true), "a rehearsal guest could not be saved");
+        w.Save(true);
     }
     for (const Household& h : households) {
         if (h.Rehearsal && !h.InviteId.isEmpty()) {
             clsINVITE_WIDGET w;
             w.EVENT_ID = eventIds.at(2);
             w.INVITE_ID = h.InviteId;
-            Must(w.Save(true), "a rehearsal guest could not be saved");
+            w.Save(true);
         }
     }
     return totals;

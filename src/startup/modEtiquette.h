@@ -13,7 +13,8 @@ using Progress = std::function<bool(qsizetype done, qsizetype total)>;
 // The etiquette of the invitations kept with the data, and every inner envelope written anew in it, as
 // one piece of work: false (and nothing changed) when the progress stopped it. Throws on a failure.
 bool ChangeInvitationEtiquette(bool formal, const Progress& progress);
-// The tent cards from the seating, in the etiquette now chosen.
-void RefreshTentcards();
+// The etiquette of the tent cards kept with the data, and every tent card written anew in it, as one
+// piece of work: a failure leaves both as they were, in the table and in memory. Throws on a failure.
+void ChangeTentCardEtiquette(bool formal);
 
 } // namespace modEtiquette

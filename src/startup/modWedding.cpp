@@ -1,8 +1,24 @@
 #include "startup/modWedding.h"
 
 #include "core/clsApp.h"
+#include "core/clsVOWREN.h"
+#include "core/modGeneral.h"
 #include "guests/clsCONTACT.h"
+#include "planning/clsBUDGET.h"
+#include "planning/clsBUDGET_CATEGORY_DICT.h"
 #include "planning/clsEVENT.h"
+
+namespace {
+
+// The global records read again from the rows, kept or put back.
+void ReopenGlobals() {
+    gBride().OpenRecord(QStringLiteral("1"));
+    gGroom().OpenRecord(QStringLiteral("2"));
+    gWeddingEvent().OpenRecord(QStringLiteral("1"));
+    gVowren().OpenRecords();
+}
+
+} // namespace
 
 namespace modWedding {
 
@@ -21,5 +37,22 @@ QString CoupleNames() {
 }
 
 QString WeddingDateTime() { return gWeddingEvent().EVENT_DT; }
+
+void SaveFirstStart(const clsCONTACT& bride, const clsCONTACT& groom, const QString& when,
+                    const QMap<QString, double>& estimates) {
+    try {
+        clsTransaction tx(gDB());
+        clsCONTACT::SaveCouple(bride, groom);
+        clsEVENT::SaveWeddingDay(when);
+        clsBUDGET_CATEGORY_DICT::SaveEstimates(estimates);
+        // Every expense is due on the wedding day until told otherwise.
+        clsBUDGET::SetEveryDueDate(FormatDate(ParseDateTimeText(when).date()));
+        tx.Commit();
+    } catch (...) {
+        ReopenGlobals();
+        throw;
+    }
+    ReopenGlobals();
+}
 
 } // namespace modWedding

@@ -67,15 +67,15 @@ bool clsINVITE_WIDGET::CreateTable() {
     return modSchema::CreateTableIfMissing(gDB(), QStringLiteral("INVITE_WIDGET"));
 }
 
-bool clsINVITE_WIDGET::Delete(const QString& eventID, const QString& contactID, const QString& inviteID) {
+void clsINVITE_WIDGET::Delete(const QString& eventID, const QString& contactID, const QString& inviteID) {
     if (!contactID.isEmpty())
-        return RecordIO::Run(
-            QStringLiteral("DELETE FROM INVITE_WIDGET WHERE EVENT_ID = ? AND CONTACT_ID = ?"),
-            {eventID, contactID});
-    if (!inviteID.isEmpty())
-        return RecordIO::Run(QStringLiteral("DELETE FROM INVITE_WIDGET WHERE EVENT_ID = ? AND INVITE_ID = ?"),
-                             {eventID, inviteID});
-    return RecordIO::Run(QStringLiteral("DELETE FROM INVITE_WIDGET WHERE EVENT_ID = ?"), {eventID});
+        RecordIO::Run(QStringLiteral("DELETE FROM INVITE_WIDGET WHERE EVENT_ID = ? AND CONTACT_ID = ?"),
+                      {eventID, contactID});
+    else if (!inviteID.isEmpty())
+        RecordIO::Run(QStringLiteral("DELETE FROM INVITE_WIDGET WHERE EVENT_ID = ? AND INVITE_ID = ?"),
+                      {eventID, inviteID});
+    else
+        RecordIO::Run(QStringLiteral("DELETE FROM INVITE_WIDGET WHERE EVENT_ID = ?"), {eventID});
 }
 
 long clsINVITE_WIDGET::GetTotal(const QString& eventID) {
@@ -93,42 +93,34 @@ long clsINVITE_WIDGET::GetTotalContacts(const QString& eventID) {
 
 QList<clsINVITE_WIDGET> clsINVITE_WIDGET::OpenEvents() {
     QList<clsINVITE_WIDGET> events;
-    try {
-        const clsRecordset rs = gDB().Execute(QStringLiteral(
-            "SELECT EVENT.EVENT_ID, EVENT.EVENT_TX FROM EVENT INNER JOIN INVITE_WIDGET ON EVENT.EVENT_ID = "
-            "INVITE_WIDGET.EVENT_ID GROUP BY EVENT.EVENT_ID, EVENT.EVENT_TX, EVENT.EVENT_DT ORDER BY "
-            "EVENT.EVENT_DT"));
-        for (int row = 0; row < rs.RowCount(); ++row) {
-            clsINVITE_WIDGET event;
-            event.EVENT_ID = rs.Value(row, QStringLiteral("EVENT_ID"));
-            event.EVENT_TX = rs.Value(row, QStringLiteral("EVENT_TX"));
-            events.append(event);
-        }
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
+    const clsRecordset rs = gDB().Execute(QStringLiteral(
+        "SELECT EVENT.EVENT_ID, EVENT.EVENT_TX FROM EVENT INNER JOIN INVITE_WIDGET ON EVENT.EVENT_ID = "
+        "INVITE_WIDGET.EVENT_ID GROUP BY EVENT.EVENT_ID, EVENT.EVENT_TX, EVENT.EVENT_DT ORDER BY "
+        "EVENT.EVENT_DT"));
+    for (int row = 0; row < rs.RowCount(); ++row) {
+        clsINVITE_WIDGET event;
+        event.EVENT_ID = rs.Value(row, QStringLiteral("EVENT_ID"));
+        event.EVENT_TX = rs.Value(row, QStringLiteral("EVENT_TX"));
+        events.append(event);
     }
     return events;
 }
 
 QList<clsINVITE_WIDGET> clsINVITE_WIDGET::OpenRecords(const QString& eventID) {
     QList<clsINVITE_WIDGET> rows;
-    try {
-        const clsRecordset rs = gDB().Execute(kListSelect, {eventID});
-        const std::vector<int> columns = RecordIO::FieldColumns(rs, Table());
-        for (int i = 0; i < rs.RowCount(); ++i) {
-            clsINVITE_WIDGET row;
-            RecordIO::Fill(row, rs, i, Table(), columns);
-            row.EVENT_TX = rs.Value(i, QStringLiteral("EVENT_TX"));
-            row.DISPLAY_NM = rs.Value(i, QStringLiteral("DISPLAY_NM"));
-            FillDisplay(row);
-            rows.append(row);
-        }
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
+    const clsRecordset rs = gDB().Execute(kListSelect, {eventID});
+    const std::vector<int> columns = RecordIO::FieldColumns(rs, Table());
+    for (int i = 0; i < rs.RowCount(); ++i) {
+        clsINVITE_WIDGET row;
+        RecordIO::Fill(row, rs, i, Table(), columns);
+        row.EVENT_TX = rs.Value(i, QStringLiteral("EVENT_TX"));
+        row.DISPLAY_NM = rs.Value(i, QStringLiteral("DISPLAY_NM"));
+        FillDisplay(row);
+        rows.append(row);
     }
     return rows;
 }
 
-bool clsINVITE_WIDGET::Save(bool isNew) {
-    return RecordIO::Save(*this, Table(), isNew);
+void clsINVITE_WIDGET::Save(bool isNew) {
+    RecordIO::Save(*this, Table(), isNew);
 }

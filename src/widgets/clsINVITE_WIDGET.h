@@ -28,8 +28,10 @@ public:
     // The address with its line breaks as ", " unless multiLine is set.
     QString OUTER_ENVELOPE_ADDRESS_TX_Text(bool multiLine) const;
     static bool CreateTable();
+    // Every operation below that reads or writes throws clsDbError when the database refuses.
+
     // Takes a contact or an invitation off the event's list; with neither, the whole list goes.
-    static bool Delete(const QString& eventID, const QString& contactID = QString(),
+    static void Delete(const QString& eventID, const QString& contactID = QString(),
                        const QString& inviteID = QString());
     // Rows on the event's list.
     static long GetTotal(const QString& eventID);
@@ -39,5 +41,5 @@ public:
     static QList<clsINVITE_WIDGET> OpenEvents();
     // The event's list, contacts and invitations together, sorted by last name or display name.
     static QList<clsINVITE_WIDGET> OpenRecords(const QString& eventID);
-    bool Save(bool isNew);
+    void Save(bool isNew);
 };

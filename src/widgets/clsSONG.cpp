@@ -33,8 +33,8 @@ bool clsSONG::CreateTable() {
     return modSchema::CreateTableIfMissing(gDB(), QStringLiteral("SONG"));
 }
 
-bool clsSONG::Delete(const QString& key) {
-    return RecordIO::Delete(QStringLiteral("SONG"), QStringLiteral("SONG_ID"), key);
+void clsSONG::Delete(const QString& key) {
+    RecordIO::Delete(QStringLiteral("SONG"), QStringLiteral("SONG_ID"), key);
 }
 
 bool clsSONG::OpenRecord(const QString& key) {
@@ -51,32 +51,24 @@ QList<clsSONG> clsSONG::OpenRecords(const QString& songlistID) {
         values << songlistID;
     }
     sql += QStringLiteral("ORDER BY SONGLIST_DICT.SORT_ORDER_NB, SONG.SORT_ORDER_NB");
-    return RecordIO::OpenRecords(Table(), sql, values);
+    return RecordIO::ReadAll(Table(), sql, values);
 }
 
-bool clsSONG::Save(bool isNew) {
-    try {
-        if (isNew) {
-            const QString newID = RecordIO::NextID(QStringLiteral("SONG"), QStringLiteral("SONG_ID"));
-            const QString newSort = RecordIO::NextID(QStringLiteral("SONG"), QStringLiteral("SORT_ORDER_NB"));
-            gDB().Execute(
-                QStringLiteral("INSERT INTO SONG (SONG_ID, SONG_FILE_PATH_TX, SORT_ORDER_NB, SONGLIST_ID, "
-                               "NOTES_TX) VALUES (?, ?, ?, ?, ?)"),
-                {newID, SONG_FILE_PATH_TX, newSort, SONGLIST_ID, NOTES_TX});
-            SONG_ID = newID;
-            SORT_ORDER_NB = newSort;
-        } else {
-            // The key is written too, with the value it has.
-            gDB().Execute(
-                QStringLiteral("UPDATE SONG SET SONG_ID = ?, SONG_FILE_PATH_TX = ?, SORT_ORDER_NB = ?, "
-                               "SONGLIST_ID = ?, NOTES_TX = ? WHERE SONG_ID = ?"),
-                {SONG_ID, SONG_FILE_PATH_TX, SORT_ORDER_NB, SONGLIST_ID, NOTES_TX, SONG_ID});
-        }
-        return true;
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return false;
+void clsSONG::Save(bool isNew) {
+    if (!isNew) {
+        // The key is written too, with the value it has.
+        gDB().Execute(QStringLiteral("UPDATE SONG SET SONG_ID = ?, SONG_FILE_PATH_TX = ?, SORT_ORDER_NB = ?, "
+                                     "SONGLIST_ID = ?, NOTES_TX = ? WHERE SONG_ID = ?"),
+                      {SONG_ID, SONG_FILE_PATH_TX, SORT_ORDER_NB, SONGLIST_ID, NOTES_TX, SONG_ID});
+        return;
     }
+    const QString newID = RecordIO::NextID(QStringLiteral("SONG"), QStringLiteral("SONG_ID"));
+    const QString newSort = RecordIO::NextID(QStringLiteral("SONG"), QStringLiteral("SORT_ORDER_NB"));
+    gDB().Execute(QStringLiteral("INSERT INTO SONG (SONG_ID, SONG_FILE_PATH_TX, SORT_ORDER_NB, SONGLIST_ID, "
+                                 "NOTES_TX) VALUES (?, ?, ?, ?, ?)"),
+                  {newID, SONG_FILE_PATH_TX, newSort, SONGLIST_ID, NOTES_TX});
+    SONG_ID = newID;
+    SORT_ORDER_NB = newSort;
 }
 
 long clsSONG::Total(const QString& songlistID) {
@@ -85,9 +77,8 @@ long clsSONG::Total(const QString& songlistID) {
     return RecordIO::Count(QStringLiteral("SELECT COUNT(*) FROM SONG WHERE SONGLIST_ID = ?"), {songlistID});
 }
 
-bool clsSONG::UpdateSort(const QString& songID, const QString& sortOrder) {
-    return RecordIO::Run(QStringLiteral("UPDATE SONG SET SORT_ORDER_NB = ? WHERE SONG_ID = ?"),
-                         {sortOrder, songID});
+void clsSONG::UpdateSort(const QString& songID, const QString& sortOrder) {
+    RecordIO::Run(QStringLiteral("UPDATE SONG SET SORT_ORDER_NB = ? WHERE SONG_ID = ?"), {sortOrder, songID});
 }
 
 // ---- Cursor ----

@@ -23,16 +23,18 @@ public:
     // The file name alone: what stands after the last folder separator, trimmed.
     QString SONG_NM() const;
     static bool CreateTable();
+    // Every operation below that reads or writes throws clsDbError when the database refuses.
+
     // Removes the row only; the file stays where it is.
-    bool Delete(const QString& key);
+    void Delete(const QString& key);
     bool OpenRecord(const QString& key);
     // The songs of one list, or of all lists for an empty id: by the lists' order, then each list's own.
     static QList<clsSONG> OpenRecords(const QString& songlistID = QString());
     // A new song gets the next key and the next number over all songs; an update writes every column.
-    bool Save(bool isNew);
+    void Save(bool isNew);
     // Songs of a list, or all songs for an empty id.
     static long Total(const QString& songlistID = QString());
-    static bool UpdateSort(const QString& songID, const QString& sortOrder);
+    static void UpdateSort(const QString& songID, const QString& sortOrder);
 
     // ---- The music bar's cursor (positions count from 1; 0 while nothing is loaded) ----
     void LoadSongs(const QList<clsSONG>& songs);

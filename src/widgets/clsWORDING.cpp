@@ -19,14 +19,14 @@ bool clsWORDING::CreateTable() {
     return true;
 }
 
-bool clsWORDING::Delete(const QString& key) {
-    return RecordIO::Delete(QStringLiteral("WORDING"), QStringLiteral("WORDING_ID"), key);
+void clsWORDING::Delete(const QString& key) {
+    RecordIO::Delete(QStringLiteral("WORDING"), QStringLiteral("WORDING_ID"), key);
 }
 
 bool clsWORDING::OpenRecord(const QString& key) {
     return RecordIO::OpenRecord(*this, Table(), key);
 }
 
-bool clsWORDING::Save(bool isNew) {
-    return RecordIO::Save(*this, Table(), isNew);
+void clsWORDING::Save(bool isNew) {
+    RecordIO::Save(*this, Table(), isNew);
 }

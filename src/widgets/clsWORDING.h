@@ -16,7 +16,9 @@ public:
     static const RecordTable<clsWORDING>& Table();
 
     static bool CreateTable();
-    bool Delete(const QString& key);
+    // Every operation below that reads or writes throws clsDbError when the database refuses.
+
+    void Delete(const QString& key);
     bool OpenRecord(const QString& key);
-    bool Save(bool isNew);
+    void Save(bool isNew);
 };

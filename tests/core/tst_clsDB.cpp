@@ -154,7 +154,7 @@ private slots:
         QFETCH(QString, deleteSql);
         QFETCH(QString, message);
         db->Exec(setup);
-        QVERIFY(!RecordIO::Run(deleteSql));
+        QVERIFY(!RecordIO::Attempt([&] { RecordIO::Run(deleteSql); }));
         QCOMPARE(db->Messages().Prompts, QStringList{message});
     }
 
@@ -162,12 +162,13 @@ private slots:
         db->Exec("INSERT INTO EVENT (EVENT_ID, EVENT_TX) VALUES (2, 'Rehearsal')");
         db->Exec("INSERT INTO TIMELINE (TIMELINE_ID, TIMELINE_START_DT, TIMELINE_END_DT, TIMELINE_DESC, EVENT_ID) "
                  "VALUES (1, '2027-06-04 17:00:00', '2027-06-04 18:00:00', 'Walk-through', 2)");
-        QVERIFY(RecordIO::Delete("EVENT", "EVENT_ID", "2"));
+        RecordIO::Delete("EVENT", "EVENT_ID", "2");
         QCOMPARE(db->Scalar("SELECT COUNT(*) FROM TIMELINE"), QStringLiteral("0"));
     }
 
     void duplicateTitlesAreRefused() {
-        QVERIFY(!RecordIO::Run("INSERT INTO TITLE_DICT (TITLE_ID, TITLE_TX) VALUES (99, 'dr.')"));
+        QVERIFY(!RecordIO::Attempt(
+            [&] { RecordIO::Run("INSERT INTO TITLE_DICT (TITLE_ID, TITLE_TX) VALUES (99, 'dr.')"); }));
         QCOMPARE(db->Messages().Prompts, QStringList{"Duplicate value.  Ensure that entry is unique."});
     }
 
@@ -184,7 +185,7 @@ private slots:
         QFETCH(QString, text);
         clsROLE_PROBE role;
         role.ROLE_TX = text;
-        QVERIFY(RecordIO::Save(role, clsROLE_PROBE::Table(), true));
+        RecordIO::Save(role, clsROLE_PROBE::Table(), true);
         QCOMPARE(role.ROLE_ID, QStringLiteral("19")); // after the 18 seeded roles
         clsROLE_PROBE back;
         QVERIFY(RecordIO::OpenRecord(back, clsROLE_PROBE::Table(), role.ROLE_ID));
@@ -194,7 +195,7 @@ private slots:
 
     void emptyMembersAreWrittenAsNull() {
         clsROLE_PROBE role;
-        QVERIFY(RecordIO::Save(role, clsROLE_PROBE::Table(), true));
+        RecordIO::Save(role, clsROLE_PROBE::Table(), true);
         QCOMPARE(db->Scalar("SELECT ROLE_TX IS NULL FROM ROLE_DICT WHERE ROLE_ID = ?", {role.ROLE_ID}), QStringLiteral("1"));
     }
 
@@ -203,7 +204,7 @@ private slots:
         for (int i = 1; i <= 5; ++i)
             db->Exec("INSERT INTO DINING_TABLE (DINING_TABLE_ID, DINING_TABLE_NB) VALUES (?, ?)", {i, i});
         QCOMPARE(RecordIO::NextID("DINING_TABLE", "DINING_TABLE_ID"), QStringLiteral("6"));
-        QVERIFY(RecordIO::Delete("DINING_TABLE", "DINING_TABLE_ID", "5"));
+        RecordIO::Delete("DINING_TABLE", "DINING_TABLE_ID", "5");
         QCOMPARE(RecordIO::NextID("DINING_TABLE", "DINING_TABLE_ID"), QStringLiteral("5"));
     }
 
@@ -217,7 +218,7 @@ private slots:
 
     void updateOfADeletedRowIsASuccessThatChangesNothing() {
         clsROLE_PROBE role{"500", "Gone"};
-        QVERIFY(RecordIO::Save(role, clsROLE_PROBE::Table(), false));
+        RecordIO::Save(role, clsROLE_PROBE::Table(), false);
         QCOMPARE(db->Scalar("SELECT COUNT(*) FROM ROLE_DICT WHERE ROLE_ID = 500"), QStringLiteral("0"));
     }
 
@@ -284,8 +285,10 @@ private slots:
 
     void valuesOfTheWrongTypeAreRefused() {
         db->Exec("INSERT INTO DINING_TABLE (DINING_TABLE_ID, DINING_TABLE_NB) VALUES (1, 1)");
-        QVERIFY(!RecordIO::Run("UPDATE DINING_TABLE SET SEATS_NB = ? WHERE DINING_TABLE_ID = 1", {"ten"}));
-        QVERIFY(RecordIO::Run("UPDATE DINING_TABLE SET SEATS_NB = ? WHERE DINING_TABLE_ID = 1", {"10"}));
+        QVERIFY_THROWS_EXCEPTION(
+            clsDbError,
+            RecordIO::Run("UPDATE DINING_TABLE SET SEATS_NB = ? WHERE DINING_TABLE_ID = 1", {"ten"}));
+        RecordIO::Run("UPDATE DINING_TABLE SET SEATS_NB = ? WHERE DINING_TABLE_ID = 1", {"10"});
         QCOMPARE(db->Scalar("SELECT typeof(SEATS_NB) || SEATS_NB FROM DINING_TABLE"), QStringLiteral("integer10"));
     }
 
@@ -326,7 +329,8 @@ private slots:
         gDB().RebuildTable("HOTEL", modSchema::TableDDL("HOTEL"));
         QCOMPARE(db->Scalar("SELECT HOTEL_NM FROM HOTEL"), QStringLiteral("Inn"));
         QCOMPARE(db->Scalar("SELECT HOTEL_ID FROM CONTACT WHERE CONTACT_ID = 2"), QStringLiteral("1"));
-        QVERIFY(!RecordIO::Delete("HOTEL", "HOTEL_ID", "1")); // the link still holds
+        QVERIFY_THROWS_EXCEPTION(clsDbError,
+                                 RecordIO::Delete("HOTEL", "HOTEL_ID", "1")); // the link still holds
         QCOMPARE(db->Scalar("PRAGMA foreign_keys"), QStringLiteral("1"));
     }
 

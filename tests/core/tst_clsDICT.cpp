@@ -1,7 +1,9 @@
 #include "TestDatabase.h"
+#include "core/RecordIO.h"
 #include "core/clsDICT.h"
 
 #include <QtTest>
+#include <algorithm>
 #include <memory>
 
 class tst_clsDICT : public QObject {
@@ -64,7 +66,7 @@ private slots:
         clsDICT row(kind);
         row.TX = text;
         row.PRICE_NB = extra;
-        QVERIFY(row.Save(true));
+        row.Save(true);
         QCOMPARE(row.ID, expectedID);
 
         clsDICT read(kind);
@@ -80,7 +82,7 @@ private slots:
         read.TX = text + QStringLiteral(" (changed)");
         if (kind == clsDICT::Meal)
             read.PRICE_NB = QStringLiteral("30");
-        QVERIFY(read.Save(false));
+        read.Save(false);
         clsDICT again(kind);
         QVERIFY(again.OpenRecord(expectedID));
         QCOMPARE(again.TX, text + QStringLiteral(" (changed)"));
@@ -93,7 +95,7 @@ private slots:
         TestDatabase::Exec("DELETE FROM SONGLIST_DICT");
         clsDICT row(clsDICT::Songlist);
         row.TX = QStringLiteral("Cake cutting");
-        QVERIFY(row.Save(true));
+        row.Save(true);
         QCOMPARE(row.ID, QStringLiteral("1"));
         QCOMPARE(row.SORT_ORDER_NB, QStringLiteral("1"));
     }
@@ -104,7 +106,7 @@ private slots:
         std::reverse(lists.begin(), lists.end());
         for (int i = 0; i < lists.size(); ++i) {
             lists[i].SORT_ORDER_NB = QString::number(i + 1);
-            QVERIFY(lists[i].Save(false));
+            lists[i].Save(false);
         }
         QCOMPARE(Texts(dict.OpenRecords(clsDICT::Songlist)), QStringList({"Reception", "Ceremony"}));
     }
@@ -123,7 +125,7 @@ private slots:
 
         clsDICT added(kind);
         added.TX = text;
-        QVERIFY(!added.Save(true));
+        QVERIFY(!RecordIO::Attempt([&] { added.Save(true); }));
         QCOMPARE(Messages(), QStringList({"Duplicate value.  Ensure that entry is unique."}));
         QCOMPARE(Count(table), before);
 
@@ -132,7 +134,7 @@ private slots:
         QVERIFY(other.OpenRecord("2"));
         const QString oldText = other.TX;
         other.TX = text;
-        QVERIFY(!other.Save(false));
+        QVERIFY(!RecordIO::Attempt([&] { other.Save(false); }));
         QCOMPARE(Messages().size(), 2);
         QCOMPARE(Messages().last(), QStringLiteral("Duplicate value.  Ensure that entry is unique."));
         clsDICT reread(kind);
@@ -175,14 +177,14 @@ private slots:
         if (kind == clsDICT::Songlist) {
             clsDICT extra(kind);
             extra.TX = QStringLiteral("Dances");
-            QVERIFY(extra.Save(true));
+            extra.Save(true);
             QCOMPARE(extra.ID, QStringLiteral("3"));
         }
         TestDatabase::Exec(use);
         const QString table = clsDICT::DICT_NAME_ByEnum(kind);
         const QString before = Count(table);
         clsDICT dict(kind);
-        QVERIFY(!dict.Delete("3"));
+        QVERIFY(!RecordIO::Attempt([&] { dict.Delete("3"); }));
         QCOMPARE(Messages(), QStringList({message}));
         QCOMPARE(Count(table), before);
         QVERIFY(dict.OpenRecord("3"));
@@ -190,16 +192,16 @@ private slots:
 
     void deletesRowsNotInUse() {
         clsDICT dict(clsDICT::Meal);
-        QVERIFY(dict.Delete("5"));
+        dict.Delete("5");
         QCOMPARE(dict.ID, QStringLiteral("5"));
         QCOMPARE(clsDICT::GetTotal(clsDICT::Meal), 5L);
         QVERIFY(Messages().isEmpty());
         // The key of the highest row comes back after it is deleted.
-        QVERIFY(dict.Delete("6"));
+        dict.Delete("6");
         clsDICT added(clsDICT::Meal);
         added.TX = QStringLiteral("Pasta");
         added.PRICE_NB = QStringLiteral("0");
-        QVERIFY(added.Save(true));
+        added.Save(true);
         QCOMPARE(added.ID, QStringLiteral("5"));
     }
 
@@ -222,7 +224,10 @@ private slots:
         // Even with nobody holding the role any more, rows 1 and 2 stay.
         TestDatabase::Exec("UPDATE CONTACT SET ROLE_ID = NULL");
         clsDICT dict(kind);
-        QCOMPARE(dict.Delete(key), deletable);
+        if (deletable)
+            dict.Delete(key);
+        else
+            QVERIFY_THROWS_EXCEPTION(clsDbError, dict.Delete(key));
         clsDICT reread(kind);
         QCOMPARE(reread.OpenRecord(key), !deletable);
     }
@@ -232,7 +237,7 @@ private slots:
         QVERIFY(role.OpenRecord("1"));
         QCOMPARE(role.TX, QStringLiteral("Bride"));
         role.TX = QStringLiteral("Partner");
-        QVERIFY(role.Save(false));
+        role.Save(false);
         QCOMPARE(TestDatabase::Scalar("SELECT ROLE_TX FROM ROLE_DICT WHERE ROLE_ID = 1"),
                  QStringLiteral("Partner"));
     }
@@ -245,22 +250,46 @@ private slots:
     void kindsWithoutTableFailInTheEngine() {
         QFETCH(int, kind);
         QCOMPARE(clsDICT::DICT_NAME_ByEnum(kind), QString());
-        QVERIFY(clsDICT().OpenRecords(kind).isEmpty());
-        QCOMPARE(Messages().size(), 1);
-        QCOMPARE(clsDICT::GetTotal(kind), 0L);
-        QCOMPARE(Messages().size(), 2);
+        QVERIFY_THROWS_EXCEPTION(clsDbError, clsDICT().OpenRecords(kind));
+        QVERIFY_THROWS_EXCEPTION(clsDbError, clsDICT::GetTotal(kind));
         clsDICT row(kind);
         row.TX = QStringLiteral("x");
-        QVERIFY(!row.Save(true));
-        QCOMPARE(Messages().size(), 3);
+        QVERIFY_THROWS_EXCEPTION(clsDbError, row.Save(true));
+        QVERIFY(Messages().isEmpty());
     }
     void recreatedTitlesKeepTheirUniqueIndex() {
         TestDatabase::Exec("DROP TABLE TITLE_DICT");
         QVERIFY(clsDICT::CreateTable_TITLE_DICT());
         clsDICT title(clsDICT::Title);
         title.TX = QStringLiteral("dr.");
-        QVERIFY(!title.Save(true));
+        QVERIFY(!RecordIO::Attempt([&] { title.Save(true); }));
         QCOMPARE(Messages(), QStringList({"Duplicate value.  Ensure that entry is unique."}));
+    }
+
+    // A list saved row by row is all or nothing, and its failure is shown once, by whoever asked.
+    void aSortOrderWhoseThirdRowFailsWritesNothing() {
+        for (const char* name : {"Dinner", "First Dance"}) {
+            clsDICT songlist(clsDICT::Songlist);
+            songlist.TX = QString::fromLatin1(name);
+            songlist.Save(true);
+        }
+        QList<clsDICT> rows = clsDICT().OpenRecords(clsDICT::Songlist);
+        QCOMPARE(rows.size(), 4);
+        std::reverse(rows.begin(), rows.end());
+        const QString order =
+            QStringLiteral("SELECT group_concat(SONGLIST_ID || ':' || SORT_ORDER_NB, ' ') FROM "
+                           "(SELECT * FROM SONGLIST_DICT ORDER BY SONGLIST_ID)");
+        const QString before = TestDatabase::Scalar(order);
+        TestDatabase::Exec(
+            QStringLiteral("CREATE TRIGGER forced_failure BEFORE UPDATE ON SONGLIST_DICT WHEN "
+                           "OLD.SONGLIST_ID = %1 BEGIN SELECT RAISE(ABORT, 'forced failure'); END")
+                .arg(rows[2].ID));
+        QVERIFY_THROWS_EXCEPTION(clsDbError, clsDICT::SaveSortOrder(rows));
+        QCOMPARE(TestDatabase::Scalar(order), before);
+        QVERIFY(Messages().isEmpty());
+        QVERIFY(!RecordIO::Attempt([&rows] { clsDICT::SaveSortOrder(rows); }));
+        QCOMPARE(TestDatabase::Scalar(order), before);
+        QCOMPARE(Messages(), QStringList{QStringLiteral("forced failure")});
     }
 };
 

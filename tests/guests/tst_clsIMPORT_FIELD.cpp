@@ -11,12 +11,12 @@ class tst_clsIMPORT_FIELD : public QObject {
 
     // One row per column of a file header, as the import's first step saves them.
     static void LoadHeader(const QStringList& columns) {
-        QVERIFY(clsIMPORT_FIELD::Delete());
+        clsIMPORT_FIELD::Delete();
         for (const QString& column : columns) {
             clsIMPORT_FIELD field;
             field.IMPORT_FIELD_NM = column;
             field.MAP_IMPORT_FIELD_NM = clsIMPORT_FIELD::SuggestMAP_IMPORT_FIELD_NM(column);
-            QVERIFY(field.Save(true));
+            field.Save(true);
         }
     }
 
@@ -69,12 +69,12 @@ private slots:
         QCOMPARE(
             TestDatabase::Scalar("SELECT COUNT(*) FROM IMPORT_FIELD WHERE MAP_IMPORT_FIELD_NM = 'PHONE_TX'"),
             QStringLiteral("3"));
-        QVERIFY(clsIMPORT_FIELD::UpdateMAP_IMPORT_FIELD_NM_ToNull("PHONE_TX"));
+        clsIMPORT_FIELD::UpdateMAP_IMPORT_FIELD_NM_ToNull("PHONE_TX");
         clsIMPORT_FIELD chosen;
         QVERIFY(chosen.OpenRecord("2"));
         QCOMPARE(chosen.ArrayIndex, 1);
         chosen.MAP_IMPORT_FIELD_NM = QStringLiteral("PHONE_TX");
-        QVERIFY(chosen.Save(false));
+        chosen.Save(false);
         QCOMPARE(clsIMPORT_FIELD::OpenRecords(true).size(), 1);
         QCOMPARE(clsIMPORT_FIELD::GetIMPORT_FIELD_NM("PHONE_TX"), QStringLiteral("Day Phone"));
     }

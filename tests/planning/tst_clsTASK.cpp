@@ -170,7 +170,7 @@ private slots:
         const int before = PlanningDatabase::Count("TASK").toInt();
         const int framesUpTo2 = PlanningDatabase::Count("TASK", "WHERE TASK_GROUP_ID <= 2").toInt();
         clsTASK task = NewTask("Book the string quartet", "2", "01-Jan-2027");
-        QVERIFY(task.Save(true));
+        task.Save(true);
         QCOMPARE(task.TASK_ID, QString::number(before + 1));
         // The seeded tasks have no due date yet, and an empty date comes first within its frame.
         QCOMPARE(task.SORT_ORDER_NB, QString::number(framesUpTo2 + 1));
@@ -179,10 +179,10 @@ private slots:
         QCOMPARE(SortNumbers(), Dense(before + 1));
 
         // Gaps left by a delete are closed by the next insert.
-        QVERIFY(clsTASK().Delete(QStringLiteral("3")));
-        QVERIFY(clsTASK().Delete(QStringLiteral("7")));
+        clsTASK().Delete(QStringLiteral("3"));
+        clsTASK().Delete(QStringLiteral("7"));
         clsTASK another = NewTask("Last look at the seating", "8");
-        QVERIFY(another.Save(true));
+        another.Save(true);
         QCOMPARE(SortNumbers(), Dense(before));
     }
 
@@ -194,7 +194,7 @@ private slots:
         task.TASK_GROUP_ID = QStringLiteral("9");
         task.DUE_DT = QStringLiteral("05-Jun-2027");
         task.NOTES_TX = QString();
-        QVERIFY(task.Save(false));
+        task.Save(false);
         QCOMPARE(SortNumbers(), before);
         clsTASK again;
         QVERIFY(again.OpenRecord("5"));
@@ -215,7 +215,7 @@ private slots:
             "INSERT INTO TASK (TASK_ID, TASK_NM, TASK_GROUP_ID, DUE_DT, COMPLETED_FG, SORT_ORDER_NB) "
             "VALUES (1, 'hand-set', 0, '2020-01-01', 'N', 1), (2, 'done', 10, NULL, 'Y', 2), "
             "(3, 'odd frame', 77, '2021-05-05', 'N', 3)");
-        QVERIFY(clsTASK().RefreshDueDates());
+        clsTASK().RefreshDueDates();
         const QList<clsTASK> tasks = clsTASK().OpenRecords(clsTASK::ByDueDate);
         QCOMPARE(tasks.size(), 3);
         QCOMPARE(tasks[0].TASK_NM, QStringLiteral("hand-set"));
@@ -228,7 +228,7 @@ private slots:
 
     void changingTheWeddingDateLeavesDueDatesAlone() {
         PlanningDatabase::SetWeddingDate("05-Jun-2027");
-        QVERIFY(clsTASK().RefreshDueDates());
+        clsTASK().RefreshDueDates();
         PlanningDatabase::SetWeddingDate("05-Jun-2028");
         clsTASK task;
         QVERIFY(task.OpenRecord("1"));
@@ -243,7 +243,7 @@ private slots:
         const QString name = task.TASK_NM;
         task.TASK_NM = QStringLiteral("not to be written");
         task.COMPLETED_FG = QStringLiteral("Y");
-        QVERIFY(task.Update_COMPLETED_FG());
+        task.Update_COMPLETED_FG();
         clsTASK again;
         QVERIFY(again.OpenRecord("2"));
         QCOMPARE(again.COMPLETED_FG, QStringLiteral("Y"));
@@ -251,10 +251,10 @@ private slots:
     }
 
     void writesTheOrderShownOnThePage() {
-        QVERIFY(clsTASK().UpdateSort("1", "99"));
+        clsTASK().UpdateSort("1", "99");
         QCOMPARE(TestDatabase::Scalar("SELECT SORT_ORDER_NB FROM TASK WHERE TASK_ID = 1"),
                  QStringLiteral("99"));
-        QVERIFY(clsTASK().WriteSortOrder({"3", "1", "2"}));
+        clsTASK().WriteSortOrder({"3", "1", "2"});
         QCOMPARE(
             TestDatabase::Scalar("SELECT group_concat(TASK_ID) FROM (SELECT TASK_ID FROM TASK WHERE TASK_ID "
                                  "<= 3 ORDER BY SORT_ORDER_NB)"),
@@ -264,11 +264,11 @@ private slots:
     void failedInsertLeavesTheObjectAndTableAlone() {
         clsTASK task = NewTask("bad date", "3", "no such day");
         const int before = PlanningDatabase::Count("TASK").toInt();
-        QVERIFY(!task.Save(true));
+        QVERIFY_THROWS_EXCEPTION(clsDbError, task.Save(true));
         QVERIFY(task.TASK_ID.isEmpty());
         QVERIFY(task.SORT_ORDER_NB.isEmpty());
         QCOMPARE(PlanningDatabase::Count("TASK").toInt(), before);
-        QCOMPARE(db->Messages().Prompts.size(), 1);
+        QVERIFY(db->Messages().Prompts.isEmpty());
     }
 };
 

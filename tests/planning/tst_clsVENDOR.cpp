@@ -25,7 +25,7 @@ private slots:
         // 2 Baker, 6 Florist, 9 Photographer
         for (clsVENDOR vendor : {NewVendor("Petals", "6"), NewVendor("crumbs", "2"), NewVendor("Bloom", "6"),
                                  NewVendor("Apex Photo", "9"), NewVendor("Batter Up", "2")})
-            QVERIFY(vendor.Save(true));
+            vendor.Save(true);
         QStringList rows;
         for (const clsVENDOR& vendor : clsVENDOR().OpenRecords())
             rows << vendor.VENDOR_CATEGORY_TX + QLatin1Char('/') + vendor.VENDOR_NM;
@@ -36,7 +36,7 @@ private slots:
 
     void aVendorWithExpensesCannotBeDeleted() {
         clsVENDOR vendor = NewVendor("Bloom", "6");
-        QVERIFY(vendor.Save(true));
+        vendor.Save(true);
         clsBUDGET expense;
         expense.ITEM_NM = QStringLiteral("Bouquet");
         expense.ACTUAL_AMOUNT_NB = QStringLiteral("300");
@@ -44,15 +44,15 @@ private slots:
         expense.BUDGET_CATEGORY_ID = QStringLiteral("5");
         expense.PAID_BY_ID = QStringLiteral("4");
         expense.VENDOR_ID = vendor.VENDOR_ID;
-        QVERIFY(expense.Save(true));
+        expense.Save(true);
 
-        QVERIFY(!clsVENDOR().Delete(vendor.VENDOR_ID));
+        QVERIFY(!RecordIO::Attempt([&] { clsVENDOR().Delete(vendor.VENDOR_ID); }));
         QCOMPARE(db->Messages().Prompts,
                  QStringList({"Unable to delete.  Budget entries are associated with this entry."}));
         QCOMPARE(clsVENDOR().GetTotal(), 1L);
 
-        QVERIFY(clsBUDGET().Delete(expense.BUDGET_ID));
-        QVERIFY(clsVENDOR().Delete(vendor.VENDOR_ID));
+        clsBUDGET().Delete(expense.BUDGET_ID);
+        clsVENDOR().Delete(vendor.VENDOR_ID);
         QCOMPARE(clsVENDOR().GetTotal(), 0L);
     }
 
@@ -72,9 +72,9 @@ private slots:
         QFETCH(QStringList, readBack);
         clsVENDOR vendor = NewVendor("Bloom", "6");
         vendor.SetFilePaths({"/old/file.pdf"});
-        QVERIFY(vendor.Save(true));
+        vendor.Save(true);
         vendor.SetFilePaths(paths);
-        QVERIFY(vendor.Save(false));
+        vendor.Save(false);
         QCOMPARE(TestDatabase::Scalar("SELECT ifnull(FILE_PATH_TX, 'NULL') FROM VENDOR WHERE VENDOR_ID = ?",
                                       {vendor.VENDOR_ID}),
                  stored.isEmpty() ? QStringLiteral("NULL") : stored);

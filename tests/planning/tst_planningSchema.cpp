@@ -122,7 +122,8 @@ private slots:
         QCOMPARE(lines.size(), 4);
         QCOMPARE(lines.first().BUDGET_CATEGORY_TX, QStringLiteral("Ceremony"));
         QCOMPARE(lines.first().PAID_BY_TX, QStringLiteral("Bride's Family"));
-        QVERIFY(!RecordIO::Delete("BUDGET_CATEGORY_DICT", "BUDGET_CATEGORY_ID", "3"));
+        QVERIFY(
+            !RecordIO::Attempt([] { RecordIO::Delete("BUDGET_CATEGORY_DICT", "BUDGET_CATEGORY_ID", "3"); }));
         QCOMPARE(db->Messages().Prompts,
                  QStringList({"Unable to delete.  Budget entries are associated with this entry."}));
 
@@ -164,7 +165,7 @@ private slots:
         QCOMPARE(gift.EVENT_TX, QStringLiteral("Wedding Day"));
         gift.GIFT_TX = QString(255, QLatin1Char('x'));
         gift.RECEIVED_DT = QStringLiteral("01-Jul-2027");
-        QVERIFY(gift.Save(false));
+        gift.Save(false);
         QVERIFY(gift.OpenRecord("1"));
         QCOMPARE(gift.GIFT_TX.size(), 255);
         QCOMPARE(gift.RECEIVED_DT, QStringLiteral("01-Jul-2027"));

@@ -79,11 +79,11 @@ private slots:
 
         clsDICT title(clsDICT::Title);
         title.TX = QStringLiteral("Aaa Honourable");
-        QVERIFY(title.Save(true));
+        title.Save(true);
         clsDICT meal(clsDICT::Meal);
         meal.TX = QStringLiteral("Zucchini tart");
         meal.PRICE_NB = QStringLiteral("12");
-        QVERIFY(meal.Save(true));
+        meal.Save(true);
 
         usrDropdown::NotifyOptionsUpdated(clsDICT::Title);
         QCOMPARE(titles.ListCount(), titleCount + 1);

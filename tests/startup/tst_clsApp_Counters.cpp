@@ -72,9 +72,9 @@ private slots:
         QVERIFY(db->Messages().Prompts.isEmpty());
     }
 
-    void aDictionaryKindWithoutTableCountsNothing() {
-        QCOMPARE(gApp().TotalSettings(5), 0L);
-        QCOMPARE(db->Messages().Prompts.size(), 1);
+    void aDictionaryKindWithoutTableIsRefused() {
+        QVERIFY_THROWS_EXCEPTION(clsDbError, gApp().TotalSettings(5));
+        QVERIFY(db->Messages().Prompts.isEmpty());
     }
 };
 

@@ -1,5 +1,6 @@
 #include "guests/ui/frmCheckName.h"
 
+#include "core/RecordIO.h"
 #include "core/clsApp.h"
 #include "core/clsDICT.h"
 #include "guests/ui/modGuestEditors.h"
@@ -80,7 +81,7 @@ void frmCheckName::BuildControls() {
 
 void frmCheckName::FillLists() {
     mTitle->addItem(QString());
-    for (const clsDICT& title : clsDICT().OpenRecords(clsDICT::Title))
+    for (const clsDICT& title : RecordIO::Read([] { return clsDICT().OpenRecords(clsDICT::Title); }))
         mTitle->addItem(title.TX);
     mSuffix->addItems({QString(), QStringLiteral("I"), QStringLiteral("II"), QStringLiteral("III"),
                        QStringLiteral("IV"), QStringLiteral("Jr."), QStringLiteral("Sr.")});

@@ -205,7 +205,7 @@ QWidget* frmContact::BuildNameGroup() {
     mTitle->setEditable(true);
     mTitle->setInsertPolicy(QComboBox::NoInsert);
     mTitle->addItem(QString());
-    for (const clsDICT& title : clsDICT().OpenRecords(clsDICT::Title))
+    for (const clsDICT& title : RecordIO::Read([] { return clsDICT().OpenRecords(clsDICT::Title); }))
         mTitle->addItem(title.TX);
     mTitle->setMaximumWidth(mTitle->fontMetrics().averageCharWidth() * 18);
     modLayout::CaptionedRow(form, QStringLiteral("&Title"), mTitle);
@@ -519,11 +519,13 @@ void frmContact::usr_9_EditClick() {
 // The role dictionary's own editor; a saved row is chosen here and every list of roles fills again.
 void frmContact::EditRole(bool isNew) {
     clsDICT role(clsDICT::Role);
-    if (!isNew)
-        role.OpenRecord(mRole->Code());
+    if (!isNew && !RecordIO::Read([this, &role] { return role.OpenRecord(mRole->Code()); }))
+        return;
     frmOptionsEntry editor(role, isNew, clsDICT::Role, this);
     QString saved;
-    connect(&editor, &frmOptionsEntry::Refresh, this, [&saved](const clsDICT& row) { saved = row.ID; });
+    const auto keep = [&saved](const QString& key) { saved = key; };
+    connect(&editor, &frmEditorBase::Added, this, keep);
+    connect(&editor, &frmEditorBase::Updated, this, keep);
     editor.exec();
     if (saved.isEmpty())
         return;

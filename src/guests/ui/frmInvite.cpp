@@ -298,7 +298,7 @@ void frmInvite::BuildMenu() {
     connect(titles, &QMenu::aboutToShow, this, [this, titles] {
         titles->clear();
         clsDICT dict(clsDICT::Title);
-        for (const clsDICT& row : dict.OpenRecords(clsDICT::Title))
+        for (const clsDICT& row : RecordIO::Read([&dict] { return dict.OpenRecords(clsDICT::Title); }))
             titles->addAction(row.TX, this, [this, text = row.TX] { SetTitleOfSelected(text); });
         titles->addSeparator();
         titles->addAction(kNoTitle, this, [this] { SetTitleOfSelected(QString()); });

@@ -177,7 +177,7 @@ int frmMain_01_Contacts::DeleteSelected() {
     if (keys.isEmpty())
         return 0;
     clsCONTACT first;
-    first.OpenRecord(QString::number(keys.first()));
+    RecordIO::Read([&] { return first.OpenRecord(QString::number(keys.first())); });
     if (!modBulkDelete::Confirm(keys.size(), first.ListName(), QStringLiteral(" Contacts")))
         return 0;
     // The bride and the groom stay; nobody is told.
@@ -212,13 +212,16 @@ bool frmMain_01_Contacts::ChangeSelected(const std::function<void(clsCONTACT&)>&
 }
 
 QString frmMain_01_Contacts::ExportContactsCsv() {
-    const QList<clsReportCatalogue::FilterRow> rows = clsReportCatalogue::FilterRows(clsReportCatalogue::Contacts);
-    const int index = std::max(0, clsReportCatalogue::FilterRowIndex(rows, CurrentFilter()));
     modReportRunner::Output csv;
     csv.UseRtf = false;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString file =
-        modReportRunner::Write(clsReportCatalogue::Route(clsReportCatalogue::Contacts, rows, index), csv);
+    const QString file = RecordIO::Read([this, &csv] {
+        const QList<clsReportCatalogue::FilterRow> rows =
+            clsReportCatalogue::FilterRows(clsReportCatalogue::Contacts);
+        const int index = std::max(0, clsReportCatalogue::FilterRowIndex(rows, CurrentFilter()));
+        return modReportRunner::Write(clsReportCatalogue::Route(clsReportCatalogue::Contacts, rows, index),
+                                      csv);
+    });
     QApplication::restoreOverrideCursor();
     if (!file.isEmpty())
         gShell().OpenDocument(file);
@@ -271,7 +274,7 @@ void frmMain_01_Contacts::AddFieldMenu(const QString& name, const QString& title
 
 void frmMain_01_Contacts::AddTitleMenu() {
     QStringList titles;
-    for (const clsDICT& title : clsDICT().OpenRecords(clsDICT::Title))
+    for (const clsDICT& title : RecordIO::Read([] { return clsDICT().OpenRecords(clsDICT::Title); }))
         titles.append(title.TX);
     titles.append(QStringLiteral("(No Title)"));
     const int none = static_cast<int>(titles.size()) - 1;

@@ -136,8 +136,11 @@ void frmMain_02_Invitations::SetRowCells(const QModelIndex& row, const clsINVITE
 void frmMain_02_Invitations::RefreshRow(const QString& inviteId) {
     const QModelIndex row = RowOfKey(inviteId.toLongLong());
     clsINVITE invite;
-    if (row.isValid() && RecordIO::Read([&] { return invite.OpenRecord(inviteId, false); }))
-        SetRowCells(row, invite);
+    if (row.isValid())
+        RecordIO::Attempt([&] {
+            if (invite.OpenRecord(inviteId, false))
+                SetRowCells(row, invite);
+        });
 }
 
 void frmMain_02_Invitations::Activate(qint64 key) {
@@ -233,7 +236,7 @@ int frmMain_02_Invitations::DeleteSelected() {
     if (keys.isEmpty())
         return 0;
     clsINVITE first;
-    first.OpenRecord(QString::number(keys.first()));
+    RecordIO::Read([&] { return first.OpenRecord(QString::number(keys.first())); });
     if (!modBulkDelete::Confirm(keys.size(), first.DISPLAY_AS_TX, QStringLiteral(" Invitations")))
         return 0;
     clsDeleteResult result;

@@ -178,7 +178,10 @@ void frmMain_03_RSVPs::OpenEditor(const QString& inviteId) {
 void frmMain_03_RSVPs::mfrmRSVP_RSVPUpdated(const QString& inviteId) {
     const QModelIndex row = RowOfKey(inviteId.toLongLong());
     clsINVITE invite;
-    if (row.isValid() && RecordIO::Read([&] { return invite.OpenRecord(inviteId, false); }))
-        SetRowCells(row, invite);
+    if (row.isValid())
+        RecordIO::Attempt([&] {
+            if (invite.OpenRecord(inviteId, false))
+                SetRowCells(row, invite);
+        });
     RefreshPanel();
 }

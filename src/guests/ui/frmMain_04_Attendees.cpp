@@ -114,7 +114,7 @@ frmMain_04_Attendees::frmMain_04_Attendees(QWidget* parent)
 QList<usrListPage::FilterEntry> frmMain_04_Attendees::MealEntries() {
     QList<FilterEntry> entries;
     int index = FirstMeal;
-    for (const clsDICT& meal : clsDICT().OpenRecords(clsDICT::Meal)) {
+    for (const clsDICT& meal : RecordIO::Read([] { return clsDICT().OpenRecords(clsDICT::Meal); })) {
         mMealText.insert(index, meal.TX);
         mMealId.insert(index, meal.ID);
         entries.append({index, meal.TX, entries.isEmpty() ? QStringLiteral("Meals") : QString()});

@@ -1,5 +1,6 @@
 #include "reports/ui/frmReports.h"
 
+#include "core/RecordIO.h"
 #include "core/clsApp.h"
 #include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
@@ -7,9 +8,9 @@
 #include "platform/clsShell.h"
 #include "reports/ui/frmReportsFont.h"
 #include "reports/ui/modReportDialogs.h"
-#include "shell/modFormPlace.h"
 #include "shell/controls/usrColor.h"
 #include "shell/controls/usrHyperlink.h"
+#include "shell/modFormPlace.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -296,7 +297,7 @@ void frmReports::FillFilters() {
     {
         const QSignalBlocker blocker(gridFilter);
         gridFilter->clear();
-        mRows = C::FilterRows(section);
+        mRows = RecordIO::Read([section] { return C::FilterRows(section); });
         for (qsizetype i = 0; i < mRows.size(); ++i) {
             const C::FilterRow& row = mRows[i];
             auto* item = new QTreeWidgetItem(gridFilter, {row.FILTER, row.COUNT, row.NOTES_TX});
@@ -468,7 +469,8 @@ void frmReports::SetFontLinks(const QString& fontName, const QString& fontSize) 
 
 // A colour travels with the data: it is written at once.
 void frmReports::usrColor_ColorChanged(int index, const QColor& color) {
-    gVowren().QuickUpdate(FirstColorIndex + index, QString::number(FromQColor(color).RGBValue()));
+    const QString rgb = QString::number(FromQColor(color).RGBValue());
+    RecordIO::Attempt([index, &rgb] { gVowren().QuickUpdate(FirstColorIndex + index, rgb); });
 }
 
 // ---- Settings ----
@@ -478,7 +480,7 @@ void frmReports::LoadSettings() {
     cboPaperSize->setCurrentIndex(IndexSetting("PaperSize", cboPaperSize->count()));
     cboPaperOrientation->setCurrentIndex(IndexSetting("PaperOrientation", cboPaperOrientation->count()));
     if (!gVowren().Contains(QString::number(FirstColorIndex)))
-        gVowren().OpenRecords();
+        RecordIO::Read([] { return gVowren().OpenRecords(); });
     const clsColor defaults[] = {clsRTFMasterTemp::DefaultHeaderColor(),
                                  clsRTFMasterTemp::DefaultSubHeaderColor(),
                                  clsRTFMasterTemp::DefaultBorderColor()};

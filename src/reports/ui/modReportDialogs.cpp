@@ -1,5 +1,6 @@
 #include "reports/ui/modReportDialogs.h"
 
+#include "core/RecordIO.h"
 #include "core/ShowMessage.h"
 #include "core/modGeneral.h"
 #include "platform/clsShell.h"
@@ -100,7 +101,7 @@ QString BuildAndShow(const clsReportRoute& route) {
     QString file;
     {
         WaitCursor wait;
-        file = clsReportClasses::Build(route);
+        file = RecordIO::Read([&route] { return clsReportClasses::Build(route); });
     }
     if (!file.isEmpty() && !gShell().OpenDocument(file))
         ShowMessage(gShell().Message(), Msg::Exclamation, ProgramTitle());

@@ -164,7 +164,7 @@ bool usrDropdown::FillFromKind(int kind) {
     if (!clsDICT::IsDictionary(kind))
         return false;
     clsDICT dictionary(kind);
-    for (const clsDICT& row : dictionary.OpenRecords(kind))
+    for (const clsDICT& row : RecordIO::Read([&] { return dictionary.OpenRecords(kind); }))
         AddItem(row.TX, row.ID);
     return true;
 }

@@ -1,13 +1,14 @@
 #include "shell/options/frmBackup.h"
 
+#include "core/RecordIO.h"
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
 #include "core/clsDB.h"
+#include "core/modBackup.h"
+#include "core/modSubMain.h"
 #include "platform/clsShell.h"
 #include "shell/controls/usrHint.h"
 #include "shell/controls/usrHyperlink.h"
-#include "core/modBackup.h"
-#include "core/modSubMain.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
@@ -196,7 +197,7 @@ bool frmBackup::RestoreFrom(const QString& file) {
         ShowMessage(result.Error, Msg::OKOnly | Msg::Exclamation);
         return false;
     }
-    modSubMain::RunPatchesAndOpenGlobals();
+    RecordIO::Attempt([] { modSubMain::RunPatchesAndOpenGlobals(); });
     mRestored = true;
     FillBackups();
     ShowMessage(QStringLiteral("The copy was restored. The database as it was before is saved as \"%1\".")

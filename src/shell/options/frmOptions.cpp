@@ -532,7 +532,7 @@ void frmOptions::ShowPanel(int kind, const QString& caption) {
 // ---- Dictionaries --------------------------------------------------------------------------------
 
 void frmOptions::FillGrid(const QString& selectId, int fallbackRow) {
-    mRecords = clsDICT().OpenRecords(mKind);
+    mRecords = RecordIO::Read([this] { return clsDICT().OpenRecords(mKind); });
     mGrid->clear();
     QTreeWidgetItem* selected = nullptr;
     for (const clsDICT& record : mRecords) {
@@ -611,8 +611,7 @@ void frmOptions::DeleteEntry() {
                     Msg::YesNo | Msg::Question) != Msg::Yes)
         return;
     const int row = mGrid->indexOfTopLevelItem(mGrid->currentItem());
-    clsDICT deleter(mKind);
-    if (!deleter.Delete(record.ID))
+    if (!RecordIO::Attempt([this, &record] { clsDICT(mKind).Delete(record.ID); }))
         return; // the refusal has been shown
     FillGrid(QString(), row);
     AnnounceDictionary(mKind);
@@ -622,7 +621,9 @@ void frmOptions::OpenEntry(const clsDICT& record, bool isNew) {
     frmOptionsEntry* editor = mKind == clsDICT::Meal ? new frmOptionsEntryMeal(record, isNew, this)
                                                      : new frmOptionsEntry(record, isNew, mKind, this);
     editor->setAttribute(Qt::WA_DeleteOnClose);
-    connect(editor, &frmOptionsEntry::Refresh, this, &frmOptions::mfrmOptionsEntry_Refresh);
+    const auto refresh = [this, editor] { mfrmOptionsEntry_Refresh(editor->Record()); };
+    connect(editor, &frmEditorBase::Added, this, refresh);
+    connect(editor, &frmEditorBase::Updated, this, refresh);
     editor->open();
 }
 
@@ -642,18 +643,8 @@ void frmOptions::MoveSonglist(int delta) {
     const QString movedId = mRecords[from].ID;
     QList<clsDICT> order = mRecords;
     order.move(from, to);
-    try {
-        clsTransaction tx(gDB());
-        for (int i = 0; i < order.size(); ++i) {
-            order[i].SORT_ORDER_NB = QString::number(i + 1);
-            if (!order[i].Save(false))
-                return; // shown; the old order stays
-        }
-        tx.Commit();
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        return;
-    }
+    if (!RecordIO::Attempt([&order] { clsDICT::SaveSortOrder(order); }))
+        return; // shown; the old order stays
     FillGrid(movedId);
     AnnounceDictionary(clsDICT::Songlist);
 }
@@ -706,22 +697,7 @@ void frmOptions::cmdUpdate_Click(EtiquetteBox& box) {
 bool frmOptions::WriteEtiquette(EtiquetteBox& box, bool formal) {
     if (box.Key == kInvitationsKey)
         return RelabelInvitations(box, formal);
-    bool written = false;
-    try {
-        clsTransaction tx(gDB());
-        written = gVowren().QuickUpdate(box.Key, clsVOWREN::BooleanText(formal));
-        if (written)
-            modEtiquette::RefreshTentcards();
-        written = written && !mCancelRequested;
-        if (written)
-            tx.Commit();
-    } catch (const clsDbError& e) {
-        RecordIO::Report(e);
-        written = false;
-    }
-    if (!written)
-        gVowren().OpenRecords(); // memory follows the rows that were put back
-    return written;
+    return RecordIO::Attempt([formal] { modEtiquette::ChangeTentCardEtiquette(formal); });
 }
 
 // The bar moves with each invitation; the events the bar lets through may bring Cancel.
@@ -751,8 +727,9 @@ void frmOptions::SetRunning(EtiquetteBox& box, bool running) {
     if (running) {
         box.Timer->stop();
         box.Done->hide();
-        box.Progress->setRange(0,
-                               box.Key == kInvitationsKey ? static_cast<int>(gApp().TotalInvitations(0)) : 0);
+        const long invitations =
+            box.Key == kInvitationsKey ? RecordIO::Read([] { return gApp().TotalInvitations(0); }) : 0;
+        box.Progress->setRange(0, static_cast<int>(invitations));
         box.Progress->setValue(0);
         box.Progress->show();
         box.Cancel->setFocus();
@@ -784,7 +761,8 @@ void frmOptions::LoadIcons() {
 
 void frmOptions::ShowIconSide(IconSide& side) {
     clsDICT role(clsDICT::Role);
-    role.OpenRecord(side.Bride ? QStringLiteral("1") : QStringLiteral("2"));
+    RecordIO::Read(
+        [&role, &side] { return role.OpenRecord(side.Bride ? QStringLiteral("1") : QStringLiteral("2")); });
     side.Role->setText(role.TX.isEmpty() ? (side.Bride ? QStringLiteral("Bride") : QStringLiteral("Groom"))
                                          : role.TX);
     const int number = modBrideGroomIcons::StoredNumber(side.Bride);
@@ -799,7 +777,8 @@ void frmOptions::ShowIconSide(IconSide& side) {
 }
 
 void frmOptions::StoreIcon(bool bride, int number) {
-    if (!gVowren().QuickUpdate(bride ? 1 : 2, QString::number(number)))
+    if (!RecordIO::Attempt(
+            [bride, number] { gVowren().QuickUpdate(bride ? 1 : 2, QString::number(number)); }))
         return;
     ShowIconSide(mIcons[bride ? 0 : 1]);
     emit IconsUpdated();
@@ -819,7 +798,7 @@ void frmOptions::LoadCountry() {
 }
 
 void frmOptions::optCountry_Click(int index) {
-    if (gVowren().QuickUpdate(kCountryKey, QString::number(index)))
+    if (RecordIO::Attempt([index] { gVowren().QuickUpdate(kCountryKey, QString::number(index)); }))
         emit CountryUpdated();
     else
         LoadCountry();

@@ -1,6 +1,6 @@
 #include "shell/options/frmOptionsEntry.h"
 
-#include "core/ShowMessage.h"
+#include "core/RecordIO.h"
 #include "shell/controls/modLayout.h"
 
 #include <QDialogButtonBox>
@@ -24,10 +24,10 @@ QString OriginalRoleText(const QString& id, const QString& text) {
 } // namespace
 
 frmOptionsEntry::frmOptionsEntry(const clsDICT& record, bool isNew, int kind, QWidget* parent)
-    : QDialog(parent), mRecord(record), mIsNew(isNew), mKind(kind) {
+    : frmEditorBase(parent), mRecord(record), mKind(kind) {
     setObjectName(QStringLiteral("frmOptionsEntry"));
     mRecord.DICT_TYPE = kind;
-    mLoadedText = mRecord.TX;
+    SetAdding(isNew);
 
     mHeader = modLayout::HeaderLabel(this, 1.25);
     mText = new QLineEdit(this);
@@ -42,17 +42,12 @@ frmOptionsEntry::frmOptionsEntry(const clsDICT& record, bool isNew, int kind, QW
     mForm->addRow(KindName(kind) + QStringLiteral(":"), mText);
     mForm->addRow(QString(), mRoleHint);
 
-    auto* buttons = new QDialogButtonBox(this);
-    mSave = buttons->addButton(QStringLiteral("Save"), QDialogButtonBox::AcceptRole);
-    mSave->setObjectName(QStringLiteral("cmdSave"));
-    mSaveNew = buttons->addButton(QStringLiteral("Save and New"), QDialogButtonBox::ActionRole);
-    mSaveNew->setObjectName(QStringLiteral("cmdSaveNew"));
-    mCancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
-    mCancel->setObjectName(QStringLiteral("cmdCancel"));
-    mSave->setDefault(true);
-    connect(mSave, &QPushButton::clicked, this, &frmOptionsEntry::cmdSave_Click);
-    connect(mSaveNew, &QPushButton::clicked, this, &frmOptionsEntry::cmdSaveNew_Click);
-    connect(mCancel, &QPushButton::clicked, this, &frmOptionsEntry::reject);
+    EditorButtonNames names;
+    names.SaveAndNew = QStringLiteral("cmdSaveNew");
+    QDialogButtonBox* buttons = ButtonRow(names);
+    // Here Save comes first, then Save and New.
+    buttons->removeButton(SaveAndNewButton());
+    buttons->addButton(SaveAndNewButton(), QDialogButtonBox::ActionRole);
     connect(mText, &QLineEdit::textChanged, this, &frmOptionsEntry::txt_Change);
 
     auto* layout = new QVBoxLayout(this);
@@ -89,27 +84,28 @@ QString frmOptionsEntry::KindName(int kind) {
 }
 
 void frmOptionsEntry::ShowRecord() {
-    setWindowTitle(mIsNew ? QStringLiteral("Add New") : QStringLiteral("Edit"));
-    mHeader->setText((mIsNew ? QStringLiteral("Add new ") : QStringLiteral("Edit ")) + KindName(mKind));
+    setWindowTitle(IsAdding() ? QStringLiteral("Add New") : QStringLiteral("Edit"));
+    mHeader->setText((IsAdding() ? QStringLiteral("Add new ") : QStringLiteral("Edit ")) + KindName(mKind));
     mText->setText(mRecord.TX);
-    const QString original = mIsNew ? QString() : OriginalRoleText(mRecord.ID, mRecord.TX);
+    const QString original = IsAdding() ? QString() : OriginalRoleText(mRecord.ID, mRecord.TX);
     mRoleHint->setText(QStringLiteral("originally ") + original);
     mRoleHint->setVisible(!original.isEmpty());
-    mSaveNew->setVisible(mIsNew);
+    SaveAndNewButton()->setVisible(IsAdding());
     LoadExtra();
     txt_Change();
     mText->selectAll();
     mText->setFocus();
+    MarkClean();
 }
 
 void frmOptionsEntry::txt_Change() {
     const bool hasText = !mText->text().trimmed().isEmpty();
-    mSave->setEnabled(hasText);
-    mSaveNew->setEnabled(hasText);
+    SaveButton()->setEnabled(hasText);
+    SaveAndNewButton()->setEnabled(hasText);
 }
 
-bool frmOptionsEntry::IsDirty() const {
-    return mText->text() != mLoadedText || ExtraIsDirty();
+QStringList frmOptionsEntry::Snapshot() const {
+    return {mText->text(), ExtraText()};
 }
 
 bool frmOptionsEntry::SaveRecord() {
@@ -118,32 +114,22 @@ bool frmOptionsEntry::SaveRecord() {
     clsDICT row = mRecord;
     row.TX = mText->text().trimmed();
     StoreExtra(row);
-    if (!row.Save(mIsNew))
-        return false; // the message is shown; the editor stays open with what was typed
+    // A refused row (a duplicate, say) is shown; the editor stays open with what was typed.
+    if (!RecordIO::Attempt([this, &row] { row.Save(IsAdding()); }))
+        return false;
     mRecord = row;
-    mLoadedText = mText->text();
-    emit Refresh(mRecord);
     return true;
 }
 
-void frmOptionsEntry::cmdSave_Click() {
-    if (SaveRecord())
-        accept();
-}
-
-void frmOptionsEntry::cmdSaveNew_Click() {
-    if (!SaveRecord())
-        return;
+void frmOptionsEntry::StartNew() {
     mRecord = clsDICT(mKind);
-    mIsNew = true;
-    mLoadedText.clear();
+    SetAdding(true);
     ShowRecord();
 }
 
 void frmOptionsEntry::reject() {
-    const CloseChoice choice = AskBeforeClose(IsDirty() && mSave->isEnabled());
-    if (choice == CloseChoice::Save)
-        cmdSave_Click();
-    else if (choice == CloseChoice::Discard)
+    if (SaveButton()->isEnabled())
+        frmEditorBase::reject();
+    else
         QDialog::reject();
 }

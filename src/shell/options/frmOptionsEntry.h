@@ -1,19 +1,17 @@
 #pragma once
 
 #include "core/clsDICT.h"
-
-#include <QDialog>
+#include "shell/frmEditorBase.h"
 
 class QFormLayout;
 class QLabel;
 class QLineEdit;
-class QPushButton;
 
 // The editor of one dictionary row with a single text (payers, roles, titles, songlists, vendor and
 // budget categories). It is handed its row, whether it is new, and the kind; each saved row is told to
-// the opener by Refresh. Children: "lblHeader", "txt", "lblRoleHint", "cmdSave", "cmdSaveNew",
-// "cmdCancel".
-class frmOptionsEntry : public QDialog {
+// the opener by Added or Updated with its key, and Record() holds it. Children: "lblHeader", "txt",
+// "lblRoleHint", "cmdSave", "cmdSaveNew", "cmdCancel".
+class frmOptionsEntry : public frmEditorBase {
     Q_OBJECT
 
 public:
@@ -23,13 +21,9 @@ public:
     static QString KindName(int kind);
 
     const clsDICT& Record() const { return mRecord; }
-    bool IsNew() const { return mIsNew; }
-
-signals:
-    // A row was saved (added or changed).
-    void Refresh(const clsDICT& record);
 
 public slots:
+    // An emptied text can't be saved, so closing then asks nothing.
     void reject() override;
 
 protected:
@@ -38,26 +32,22 @@ protected:
     // Puts the row's extra value into the fields, and back into the row before it is saved.
     virtual void LoadExtra() {}
     virtual void StoreExtra(clsDICT& /*row*/) const {}
-    virtual bool ExtraIsDirty() const { return false; }
+    virtual QString ExtraText() const { return {}; }
     // Makes the header, the hint and the buttons fit the row.
     void ShowRecord();
 
+    QStringList Snapshot() const override;
+    bool SaveRecord() override;
+    QString RecordKey() const override { return mRecord.ID; }
+    void StartNew() override;
+
 private:
-    bool SaveRecord();
-    void cmdSave_Click();
-    void cmdSaveNew_Click();
     void txt_Change();
-    bool IsDirty() const;
 
     clsDICT mRecord;
-    bool mIsNew;
     int mKind;
-    QString mLoadedText;
     QFormLayout* mForm = nullptr;
     QLabel* mHeader = nullptr;
     QLineEdit* mText = nullptr;
     QLabel* mRoleHint = nullptr;
-    QPushButton* mSave = nullptr;
-    QPushButton* mSaveNew = nullptr;
-    QPushButton* mCancel = nullptr;
 };

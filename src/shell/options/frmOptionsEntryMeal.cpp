@@ -19,13 +19,12 @@ void frmOptionsEntryMeal::LoadExtra() {
     if (!mPrice)
         return; // the base editor shows the row before the price field exists
     mPrice->setValue(Record().PRICE_NB.toDouble());
-    mLoadedPrice = mPrice->Text();
 }
 
 void frmOptionsEntryMeal::StoreExtra(clsDICT& row) const {
     row.PRICE_NB = QString::number(mPrice->Value(), 'f', 2);
 }
 
-bool frmOptionsEntryMeal::ExtraIsDirty() const {
-    return mPrice->Text() != mLoadedPrice;
+QString frmOptionsEntryMeal::ExtraText() const {
+    return mPrice ? mPrice->Text() : QString();
 }

@@ -15,9 +15,8 @@ public:
 protected:
     void LoadExtra() override;
     void StoreExtra(clsDICT& row) const override;
-    bool ExtraIsDirty() const override;
+    QString ExtraText() const override;
 
 private:
     usrNumberBox* mPrice = nullptr;
-    QString mLoadedPrice;
 };

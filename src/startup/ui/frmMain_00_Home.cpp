@@ -1,6 +1,7 @@
 #include "startup/ui/frmMain_00_Home.h"
 
 #include "core/FilterCode.h"
+#include "core/RecordIO.h"
 #include "core/clsApp.h"
 #include "core/modGeneral.h"
 #include "guests/clsCONTACT.h"
@@ -93,7 +94,7 @@ frmMain_00_Home::frmMain_00_Home(QWidget* parent) : usrPage(parent) {
     layout->addWidget(BuildLinks());
     layout->addStretch(1);
     ArrangeCards();
-    FillCounts();
+    RecordIO::Attempt([this] { FillCounts(); });
 
     timer = new QTimer(this);
     timer->setObjectName(QStringLiteral("timer"));

@@ -1,15 +1,14 @@
 #include "startup/ui/frmMain_00_Welcome.h"
 
 #include "core/RecordIO.h"
-#include "core/clsDB.h"
 #include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
-#include "planning/clsBUDGET.h"
 #include "planning/clsBUDGET_CATEGORY_DICT.h"
 #include "planning/clsEVENT.h"
 #include "shell/controls/usrNumberBox.h"
 #include "shell/mdiMain.h"
 #include "shell/modPages.h"
+#include "startup/modWedding.h"
 
 #include <QButtonGroup>
 #include <QCalendarWidget>
@@ -269,11 +268,7 @@ void frmMain_00_Welcome::ParseName(bool bride) {
 }
 
 void frmMain_00_Welcome::ChooseIcon(bool bride, int index) {
-    clsVOWREN row;
-    row.VOWREN_ID = bride ? QStringLiteral("1") : QStringLiteral("2");
-    row.VOWREN_TX = QString::number(index);
-    if (row.Save(false))
-        gVowren().OpenRecords();
+    RecordIO::Attempt([bride, index] { gVowren().QuickUpdate(bride ? 1 : 2, QString::number(index)); });
     const QString key = (bride ? QStringLiteral("BRIDE") : QStringLiteral("GROOM")) + QString::number(index);
     (bride ? imgBride : imgGroom)->setPixmap(mdiMain::BrideGroomIcon(key).pixmap(QSize(56, 56), devicePixelRatioF()));
 }
@@ -367,7 +362,7 @@ QWidget* frmMain_00_Welcome::BuildBudget() {
     usrNumber->setAllowNegation(false);
     usrNumber->setMinimumValue(0);
     usrNumber->setMaximumWidth(220);
-    usrNumber->setValue(clsBUDGET_CATEGORY_DICT::TotalSumEstimates());
+    usrNumber->setValue(RecordIO::Read([] { return clsBUDGET_CATEGORY_DICT::TotalSumEstimates(); }));
     caption->setBuddy(usrNumber);
     connect(usrNumber, &usrNumberBox::Change, this, &frmMain_00_Welcome::FillEstimates);
     connect(usrNumber, &QLineEdit::returnPressed, this, &frmMain_00_Welcome::OnContinue);
@@ -540,21 +535,8 @@ void frmMain_00_Welcome::OnContinue() {
 
 // The couple, the wedding day and the budget are one piece of work: all of it is kept, or none.
 bool frmMain_00_Welcome::Finish() {
-    const bool done = RecordIO::Attempt([this] {
-        clsTransaction tx(gDB());
-        clsCONTACT::SaveCouple(mBride, mGroom);
-        clsEVENT::SaveWeddingDay(WeddingDateTimeText());
-        clsBUDGET_CATEGORY_DICT::SaveEstimates(Estimates());
-        // Every expense is due on the wedding day until told otherwise.
-        clsBUDGET::SetEveryDueDate(FormatDate(monthYear->selectedDate()));
-        tx.Commit();
-    });
-    RecordIO::Attempt([] {
-        gBride().OpenRecord(QStringLiteral("1"));
-        gGroom().OpenRecord(QStringLiteral("2"));
-    });
-    gWeddingEvent().OpenRecord(QStringLiteral("1"));
-    gVowren().OpenRecords();
+    const bool done = RecordIO::Attempt(
+        [this] { modWedding::SaveFirstStart(mBride, mGroom, WeddingDateTimeText(), Estimates()); });
     if (done)
         emit UpdateWeddingCouple();
     return done;
