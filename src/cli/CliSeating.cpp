@@ -11,8 +11,6 @@
 namespace {
 
 const QString kTablesUsage = QStringLiteral("tables [--add N [--seats S] [--shape K] | --swap A B]");
-// Twips of one pixel on the usual screen of 96 dots an inch.
-constexpr double kTwipsPerPixel = 15.0;
 
 // A whole number from `lowest` to `highest`, or nothing.
 std::optional<int> WholeNumber(const QString& text, int lowest, int highest) {
@@ -57,7 +55,7 @@ int AddTables(const QStringList& args, QTextStream& out, QTextStream& err) {
         return kExitFailed;
     try {
         model.DINING_TABLE_NB = clsDINING_TABLE::NEXT_NB();
-        const QStringList keys = clsDINING_TABLE::AddTables(*count, model, kTwipsPerPixel);
+        const QStringList keys = clsDINING_TABLE::AddTables(*count, model);
         QStringList numbers;
         for (const QString& key : keys) {
             clsDINING_TABLE table;
@@ -128,7 +126,8 @@ int RunTentcards(const QStringList& args, QTextStream& out, QTextStream& err) {
 CliCommand TablesCommand() {
     return {
         QStringLiteral("tables"), kTablesUsage,
-        QStringLiteral("List every table with its seats taken (\"Table #n: t of s seats taken\"); add N tables in rows of 12 across the floor (the next numbers, 8 seats and round "
+        QStringLiteral("List every table with its seats taken (\"Table #n: t of s seats taken\"); add N "
+                       "tables in rows of 12 across the floor (the next numbers, 8 seats and round "
                        "unless told), or swap the guests and labels of the tables numbered A and B; all or "
                        "nothing."),
         RunTables};

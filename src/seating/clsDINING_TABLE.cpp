@@ -88,8 +88,8 @@ QPoint FloorCell(int index) {
     return {index % clsDINING_TABLE::TablesPerRow, index / clsDINING_TABLE::TablesPerRow};
 }
 
-QString Twips(int cell, double twipsPerPixel) {
-    return QString::number(qRound(twipsPerPixel * clsDINING_TABLE::TablePitchPixels * cell));
+QString Twips(int cell) {
+    return QString::number(clsDINING_TABLE::TwipsPerPixel * clsDINING_TABLE::TablePitchPixels * cell);
 }
 
 } // namespace
@@ -110,7 +110,7 @@ void clsDINING_TABLE::CheckNumber(const QString& number, const QString& ownKey) 
         throw clsDbError(QStringLiteral("Table number is already in use."), SQLITE_CONSTRAINT);
 }
 
-QStringList clsDINING_TABLE::AddTables(int count, const clsDINING_TABLE& model, double twipsPerPixel) {
+QStringList clsDINING_TABLE::AddTables(int count, const clsDINING_TABLE& model) {
     QStringList keys;
     clsTransaction tx(gDB());
     for (int i = 0; i < count; ++i) {
@@ -125,9 +125,9 @@ QStringList clsDINING_TABLE::AddTables(int count, const clsDINING_TABLE& model, 
             table.DINING_TABLE_NM.clear();
         }
         const QPoint cell = FloorCell(i);
-        table.POS_X = Twips(cell.x(), twipsPerPixel);
+        table.POS_X = Twips(cell.x());
         // The horizontal factor for both, as the floor has always placed them.
-        table.POS_Y = Twips(cell.y(), twipsPerPixel);
+        table.POS_Y = Twips(cell.y());
         table.Save(true);
         keys.append(table.DINING_TABLE_ID);
     }

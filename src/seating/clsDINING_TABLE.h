@@ -47,12 +47,14 @@ public:
     // New tables stand in rows of this many, this many pixels apart, from the top left of the floor.
     static constexpr int TablesPerRow = 12;
     static constexpr int TablePitchPixels = 32;
+    // Positions are kept in twips; the floor is drawn at this many twips to the pixel.
+    static constexpr int TwipsPerPixel = 15;
     // Refuses a number that is not a whole number above 0, or that another table (not ownKey) has.
     static void CheckNumber(const QString& number, const QString& ownKey = QString());
     // Adds count tables shaped, seated and (for a single table) numbered and labelled like the model;
     // more than one take the next free numbers and no label. They go in rows across the floor, the
-    // place given in twips at twipsPerPixel. All or nothing; the new keys in order.
-    static QStringList AddTables(int count, const clsDINING_TABLE& model, double twipsPerPixel);
+    // place given in twips. All or nothing; the new keys in order.
+    static QStringList AddTables(int count, const clsDINING_TABLE& model);
     // Saves an edited table after the number check.
     void SaveEdited();
     // The two tables exchange their guests (and the guests' tent cards) and their labels; numbers,

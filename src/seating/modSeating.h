@@ -13,7 +13,7 @@
 namespace modSeating {
 
 // Positions on the floor are kept in twips; the floor is drawn at this many twips to the pixel.
-inline constexpr int kTwipsPerPixel = 15;
+inline constexpr int kTwipsPerPixel = clsDINING_TABLE::TwipsPerPixel;
 // The pitch of new tables and of the floor's grid.
 inline constexpr int kCellPixels = 32;
 // A table dropped on the floor is taken by the middle of a cell.

@@ -243,7 +243,7 @@ private slots:
         QFETCH(int, rowPixels);
         AddTable("2");
         const QStringList keys =
-            clsDINING_TABLE::AddTables(count, Model(QStringLiteral("9"), QStringLiteral("Family")), 15.0);
+            clsDINING_TABLE::AddTables(count, Model(QStringLiteral("9"), QStringLiteral("Family")));
         QCOMPARE(keys.size(), count);
         clsDINING_TABLE table;
         QVERIFY(table.OpenRecord(keys.at(index)));
@@ -257,12 +257,12 @@ private slots:
 
     void aRefusedAddLeavesNoTable() {
         AddTable("4");
-        QCOMPARE(Refusal([] { clsDINING_TABLE::AddTables(1, Model(QStringLiteral("4")), 15.0); }),
+        QCOMPARE(Refusal([] { clsDINING_TABLE::AddTables(1, Model(QStringLiteral("4"))); }),
                  QStringLiteral("Table number is already in use."));
         TestDatabase::Exec("CREATE TRIGGER third_fails BEFORE INSERT ON DINING_TABLE "
                            "WHEN (SELECT COUNT(*) FROM DINING_TABLE) >= 3 "
                            "BEGIN SELECT RAISE(ABORT, 'disk full'); END");
-        QCOMPARE(Refusal([] { clsDINING_TABLE::AddTables(5, Model(QString()), 15.0); }),
+        QCOMPARE(Refusal([] { clsDINING_TABLE::AddTables(5, Model(QString())); }),
                  QStringLiteral("disk full"));
         QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM DINING_TABLE"), QStringLiteral("1"));
     }

@@ -2,7 +2,6 @@
 
 #include "seating/ui/modTableShapes.h"
 #include "shell/controls/modLayout.h"
-#include "shell/modFormPlace.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -191,9 +190,8 @@ bool frmTable::SaveRecord() {
         return true;
     }
     const int count = mCount->currentText().toInt();
-    const double twips = modFormPlace::TwipsPerPixel(this);
     QStringList keys;
-    if (!RecordIO::Attempt([&] { keys = clsDINING_TABLE::AddTables(count, table, twips); }))
+    if (!RecordIO::Attempt([&] { keys = clsDINING_TABLE::AddTables(count, table); }))
         return false;
     mKeys = keys;
     RecordIO::Attempt([&] { mTable.OpenRecord(keys.last()); });
