@@ -28,7 +28,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
-#include <QScrollBar>
 #include <QSplitter>
 #include <QTreeWidget>
 #include <QUndoCommand>
@@ -335,21 +334,9 @@ void frmMain_04_Attendees_Tables::showEvent(QShowEvent* event) {
     if (mShown)
         return;
     mShown = true;
-    ScrollToTopLeft();
     emit Breadcrumb(QStringLiteral("Attendees>Table layout"));
 }
 
-// The floor opens where its first tables stand, whatever the view did while it was laid out.
-void frmMain_04_Attendees_Tables::ScrollToTopLeft() {
-    picFloor->horizontalScrollBar()->setValue(picFloor->horizontalScrollBar()->minimum());
-    picFloor->verticalScrollBar()->setValue(picFloor->verticalScrollBar()->minimum());
-}
-
-void frmMain_04_Attendees_Tables::resizeEvent(QResizeEvent* event) {
-    usrPage::resizeEvent(event);
-    if (!mShown)
-        ScrollToTopLeft();
-}
 
 void frmMain_04_Attendees_Tables::Leaving() {
     WriteLayoutPicture();

@@ -93,10 +93,8 @@ public slots:
 protected:
     void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void ScrollToTopLeft();
     struct Guest {
         QString ListName;
         QString TreeName;
