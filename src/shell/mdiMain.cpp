@@ -310,6 +310,9 @@ void mdiMain::BuildMenus() {
     file->addAction(options);
     file->addSeparator();
     file->addAction(exit);
+    mEditMenu = menuBar()->addMenu(QStringLiteral("&Edit"));
+    mEditMenu->setObjectName(QStringLiteral("mnuEdit"));
+    mEditMenu->menuAction()->setVisible(false);
     mGoMenu = menuBar()->addMenu(QStringLiteral("&Go"));
     mGoMenu->setObjectName(QStringLiteral("mnuGo"));
     mGoMenu->setToolTipsVisible(true);
@@ -451,6 +454,16 @@ void mdiMain::AttachPage(usrPage* page) {
     ConnectPage(page);
     mPageLayout->addWidget(page);
     page->show();
+    UpdateEditMenu();
+}
+
+// The Edit menu holds what the page in front offers, and is hidden when it offers nothing.
+void mdiMain::UpdateEditMenu() {
+    mEditMenu->clear();
+    const usrPage* page = mSubPage ? mSubPage.data() : mPage.data();
+    const QList<QAction*> actions = page ? page->EditActions() : QList<QAction*>();
+    mEditMenu->addActions(actions);
+    mEditMenu->menuAction()->setVisible(!actions.isEmpty());
 }
 
 void mdiMain::UnloadPage() {
@@ -460,6 +473,7 @@ void mdiMain::UnloadPage() {
     mPage = nullptr;
     old->Leaving();
     DetachPage(old);
+    UpdateEditMenu();
 }
 
 void mdiMain::DetachPage(usrPage* page) {
@@ -484,6 +498,7 @@ bool mdiMain::ShowSubPage(int index, const QString& formName) {
         mPage->hide();
         mPageLayout->addWidget(page);
         page->show();
+        UpdateEditMenu();
     }
     QGuiApplication::restoreOverrideCursor();
     return page != nullptr;
@@ -496,6 +511,7 @@ void mdiMain::CloseSubPage() {
     mSubPage = nullptr;
     old->Leaving();
     DetachPage(old);
+    UpdateEditMenu();
     if (!mPage)
         return;
     SetBreadcrumb(modPages::Caption(gApp().ShowForm()), QStringLiteral("Home"));

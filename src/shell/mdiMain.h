@@ -86,6 +86,7 @@ private:
     void AttachPage(usrPage* page);
     void UnloadPage();
     void DetachPage(usrPage* page);
+    void UpdateEditMenu();
     void ConnectPage(usrPage* page);
     void ShowFirstPage(int index);
     void EnableToolbar(bool enable);
@@ -122,6 +123,7 @@ private:
     QMenu* mPopQuill = nullptr;
     QMenu* mPopPlaylist = nullptr;
     QMenu* mGoMenu = nullptr;
+    QMenu* mEditMenu = nullptr;
     QTimer* timer = nullptr;
 
     QPointer<usrPage> mPage;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
+
+class QAction;
 
 // A page of the main window. The frame connects to these signals when it shows the page; a page raises
 // only those it needs.
@@ -18,6 +21,9 @@ public:
     // The page is about to go (another page was chosen, its sub-page was closed, the window closes):
     // the last chance to write what it keeps on leaving.
     virtual void Leaving() {}
+    // The page's entries of the frame's Edit menu (Undo and Redo, say); the menu is there only while
+    // the page shown offers some.
+    virtual QList<QAction*> EditActions() const { return {}; }
 
 signals:
     // Change to another page (or 13, the options dialog).

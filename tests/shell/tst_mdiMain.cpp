@@ -13,6 +13,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QToolButton>
 #include <QtTest>
@@ -27,8 +28,13 @@ public:
     void GoToTopLevel() override { ++TopLevelCalls; }
     void SubPageClosed(const QString& formName) override { ClosedSubPages << formName; }
     void Leaving() override { ++Left; }
+    QList<QAction*> EditActions() const override { return OfferEdit ? QList<QAction*>{mEdit} : QList<QAction*>(); }
+    static inline bool OfferEdit = false;
     static inline QStringList ClosedSubPages;
     static inline int Left = 0;
+
+private:
+    QAction* mEdit = new QAction(QStringLiteral("&Undo"), this);
 };
 
 namespace {
@@ -53,6 +59,7 @@ void RegisterScreens() {
     FakePage::TopLevelCalls = 0;
     FakePage::ClosedSubPages.clear();
     FakePage::Left = 0;
+    FakePage::OfferEdit = false;
 }
 
 QDateTime Before(const QString& wedding, qint64 seconds) { return ParseDateTimeText(wedding).addSecs(-seconds); }
@@ -299,6 +306,25 @@ private slots:
         window.ShowPage(0);
         QCOMPARE(FakePage::Left, 3);
         QVERIFY(!window.CurrentSubPage());
+    }
+
+    // The Edit menu is there only while the page in front offers entries for it.
+    void editMenuFollowsThePageInFront() {
+        TestDatabase db;
+        GatherCoreInformation();
+        RegisterScreens();
+        mdiMain window;
+        auto* edit = window.findChild<QMenu*>(QStringLiteral("mnuEdit"));
+        QVERIFY(window.ShowPage(5));
+        QVERIFY(!edit->menuAction()->isVisible());
+        FakePage::OfferEdit = true;
+        QVERIFY(window.ShowSubPage(5, QStringLiteral("frmFake_Sub")));
+        QVERIFY(edit->menuAction()->isVisible());
+        QCOMPARE(edit->actions(), window.CurrentSubPage()->EditActions());
+        FakePage::OfferEdit = false;
+        window.CloseSubPage();
+        QVERIFY(!edit->menuAction()->isVisible());
+        QVERIFY(edit->actions().isEmpty());
     }
 
     // Home's seating and travel links lead to the attendees page's sub-pages, once those exist.

@@ -143,10 +143,10 @@ QIcon GuestIcon(const QString& contactId) {
 frmMain_04_Attendees_Tables::frmMain_04_Attendees_Tables(QWidget* parent) : usrPage(parent) {
     setObjectName(modPages::TablesSubPage());
     mUndo = new QUndoStack(this);
-    auto* undo = mUndo->createUndoAction(this, QStringLiteral("&Undo"));
+    auto* undo = mUndoAction = mUndo->createUndoAction(this, QStringLiteral("&Undo"));
     undo->setObjectName(QStringLiteral("mnuUndo"));
     undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
-    auto* redo = mUndo->createRedoAction(this, QStringLiteral("&Redo"));
+    auto* redo = mRedoAction = mUndo->createRedoAction(this, QStringLiteral("&Redo"));
     redo->setObjectName(QStringLiteral("mnuRedo"));
     redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
     auto* fit = new QAction(QStringLiteral("Fit the floor"), this);

@@ -73,6 +73,7 @@ public:
     QStringList GuestsAt(const QString& tableId) const;
     QString StatusLine() const;
     QUndoStack* UndoStack() const { return mUndo; }
+    QList<QAction*> EditActions() const override { return {mUndoAction, mRedoAction}; }
     QGraphicsScene* Floor() const { return mFloor; }
     QGraphicsView* FloorView() const { return picFloor; }
     usrHyperlink* Action(int index) const { return linkAction.value(index); }
@@ -151,6 +152,8 @@ private:
     QMenu* mnuHiddenTableLayoutRoot = nullptr;
     QMenu* mnuHiddenSeatedAttendeeRoot = nullptr;
     QUndoStack* mUndo = nullptr;
+    QAction* mUndoAction = nullptr;
+    QAction* mRedoAction = nullptr;
 
     QHash<QString, usrDiningTable*> mTables;      // table id -> its item on the floor
     QHash<QString, QTreeWidgetItem*> mTableNodes; // table id -> its node
