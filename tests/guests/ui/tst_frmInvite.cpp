@@ -255,10 +255,6 @@ private slots:
         QTest::addColumn<QString>("table");
         QTest::newRow("the guest cannot be written") << "INSERT"
                                                      << "CONTACT";
-        QTest::newRow("a person cannot be put on it") << "UPDATE"
-                                                      << "CONTACT";
-        QTest::newRow("the envelope cannot be written") << "INSERT"
-                                                        << "INVITE";
     }
     void saveIsAllOrNothing() {
         QFETCH(QString, event);
