@@ -344,8 +344,8 @@ void clsPdfDialect::PaintPage(QPainter& painter, int page, int pages) const {
 
 double clsPdfDialect::PaintCentred(QPainter& painter, const QString& rtf, double points, double top) const {
     double height = 0;
-    const auto layout = LayOutText(rtf, DeviceFont(points), mFrame.TableWidth, clsRTFCell::AlignCenter,
-                                   Qt::black, &height);
+    const auto layout =
+        LayOutText(rtf, DeviceFont(points), mFrame.TableWidth, clsRTFCell::AlignCenter, Qt::black, &height);
     layout->draw(&painter, QPointF(mLeft, top));
     return top + height;
 }

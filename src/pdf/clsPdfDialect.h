@@ -99,7 +99,7 @@ private:
     };
 
     std::unique_ptr<QBuffer> mBuffer;
-    std::unique_ptr<QPdfWriter> mPdf; // also the device the text is laid out for
+    std::unique_ptr<QPdfWriter> mPdf;                // also the device the text is laid out for
     std::unique_ptr<clsPdfDialect>* mKeep = nullptr; // where a finished document goes instead of a file
     Frame mFrame;
     const clsRTFMasterTemp* mSettings = nullptr;

@@ -34,9 +34,12 @@ QString PdfText(const QString& file, int page = 0) {
 }
 
 QString PageSize(const QString& file) {
-    const QRegularExpressionMatch match = QRegularExpression(QStringLiteral(R"(Page size:\s+([\d.]+) x ([\d.]+) pts)"))
-                                              .match(Run(QStringLiteral("pdfinfo"), {file}));
-    return QStringLiteral("%1 x %2").arg(qRound(match.captured(1).toDouble())).arg(qRound(match.captured(2).toDouble()));
+    const QRegularExpressionMatch match =
+        QRegularExpression(QStringLiteral(R"(Page size:\s+([\d.]+) x ([\d.]+) pts)"))
+            .match(Run(QStringLiteral("pdfinfo"), {file}));
+    return QStringLiteral("%1 x %2")
+        .arg(qRound(match.captured(1).toDouble()))
+        .arg(qRound(match.captured(2).toDouble()));
 }
 
 QString Squeezed(const QString& text) {
@@ -190,7 +193,8 @@ private slots:
         const QString written = WriteTable(*again, rows);
         QVERIFY(!written.isEmpty());
         const QRegularExpression date(QStringLiteral("As of [^\n]*")); // the minute may turn between the two
-        QCOMPARE(Squeezed(PdfText(printer.outputFileName()).remove(date)), Squeezed(PdfText(written).remove(date)));
+        QCOMPARE(Squeezed(PdfText(printer.outputFileName()).remove(date)),
+                 Squeezed(PdfText(written).remove(date)));
         QVERIFY(PdfText(printer.outputFileName(), 2).contains(QLatin1String("Guest Name")));
     }
 

@@ -1,3 +1,4 @@
+#include "pdf/clsPdfDialect.h"
 #include "reports/modReportRegistry.h"
 #include "reports/ui/frmReports.h"
 #include "reports/ui/frmReportsCustomFilter.h"
@@ -10,6 +11,7 @@
 void RegisterReportScreens() {
     RegisterReportClasses();
     ReportDialogs::RegisterOwnDialogs();
+    clsPdfDialect::Register();
 
     modScreenshots::Register(QStringLiteral("frmReports"), []() -> QWidget* {
         auto* form = new frmReports(nullptr);
