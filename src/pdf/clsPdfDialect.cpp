@@ -7,7 +7,6 @@
 #include "reports/clsRTFMasterTemp.h"
 
 #include <QFontMetricsF>
-#include <QImage>
 #include <QPainter>
 #include <QPen>
 #include <QTextLayout>
@@ -128,6 +127,8 @@ bool clsPdfDialect::Begin(const clsRTFMaster& writer, const clsRTFMasterTemp& se
     mLeft = Twips(writer.MARGIN_LEFT);
     mBodyBottom = mPaperHeight - Twips(writer.MARGIN_BOTTOM);
     mHeaderOnEveryPage = writer.PRINT_HEADER_ICON;
+    if (mHeaderOnEveryPage)
+        mLogo = QImage::fromData(clsRTFMaster::LogoJpeg(), "JPEG");
     mTitle = writer.TITLE.Rtf();
     mDate = writer.PRINT_HEADER_DATE ? clsRTFMaster::HeaderDateText(Now()) : QString();
     mStatistics = writer.STATISTICS.Rtf();
@@ -163,12 +164,15 @@ std::shared_ptr<QTextLayout> clsPdfDialect::LayOutText(const QString& rtf, const
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTextDirection(Qt::LayoutDirectionAuto);
     layout->setTextOption(option);
-    QTextLayout::FormatRange whole;
-    whole.start = 0;
-    whole.length = static_cast<int>(styled.Text.size());
-    whole.format.setForeground(color);
-    styled.Formats.prepend(whole);
-    layout->setFormats(styled.Formats);
+    if (color != QColor(Qt::black)) { // black text takes the painter's pen, with no formats to keep
+        QTextLayout::FormatRange whole;
+        whole.start = 0;
+        whole.length = static_cast<int>(styled.Text.size());
+        whole.format.setForeground(color);
+        styled.Formats.prepend(whole);
+    }
+    if (!styled.Formats.isEmpty())
+        layout->setFormats(styled.Formats);
     layout->setCacheEnabled(true);
     double y = 0;
     layout->beginLayout();
@@ -346,6 +350,7 @@ double clsPdfDialect::PaintCentred(QPainter& painter, const QString& rtf, double
     double height = 0;
     const auto layout =
         LayOutText(rtf, DeviceFont(points), mFrame.TableWidth, clsRTFCell::AlignCenter, Qt::black, &height);
+    painter.setPen(Qt::black);
     layout->draw(&painter, QPointF(mLeft, top));
     return top + height;
 }
@@ -357,8 +362,7 @@ void clsPdfDialect::PaintHeader(QPainter& painter, int page) const {
     if (mHeaderOnEveryPage || page == 0) {
         double top = mHeaderOnEveryPage ? mFrame.HeaderTop : mFrame.Top;
         if (mHeaderOnEveryPage)
-            painter.drawImage(QRectF(mLeft, top, kLogoWidth, kLogoHeight),
-                              QImage::fromData(clsRTFMaster::LogoJpeg(), "JPEG"));
+            painter.drawImage(QRectF(mLeft, top, kLogoWidth, kLogoHeight), mLogo);
         top = centred(mTitle, kTitlePoints, top);
         if (!mDate.isEmpty())
             centred(RtfMarkup::EscapeText(mDate), kDatePoints, top);
@@ -389,6 +393,7 @@ void clsPdfDialect::PaintPiece(QPainter& painter, const Piece& piece) const {
                        VerticalShare(cell.Look.CELL_VERTICAL_ALIGNMENT);
             painter.save();
             painter.setClipRect(box); // an exact height cuts what does not fit
+            painter.setPen(Qt::black);
             const double x = cell.Left + mFrame.CellLeft;
             const double shift = top - cell.Text->lineAt(from).y();
             for (int line = from; line < to; ++line) {

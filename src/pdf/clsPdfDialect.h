@@ -5,6 +5,7 @@
 #include <QBuffer>
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QPdfWriter>
 #include <QString>
 #include <functional>
@@ -112,6 +113,7 @@ private:
     double mBodyBottom = 0;
     double mCursor = 0;
     bool mHeaderOnEveryPage = true;
+    QImage mLogo; // one picture for every page, so that the document holds it once
     QString mTitle;
     QString mDate;
     QString mStatistics;

@@ -7,6 +7,7 @@
 #include "shell/modScreenshots.h"
 
 #include <QCheckBox>
+#include <QRadioButton>
 
 void RegisterReportScreens() {
     RegisterReportClasses();
@@ -17,6 +18,7 @@ void RegisterReportScreens() {
         auto* form = new frmReports(nullptr);
         form->RPT_ROW = clsReportCatalogue::Attendees;
         form->FilterIndex = 98;
+        form->findChild<QRadioButton*>(QStringLiteral("opt_3"))->setChecked(true); // the PDF choice
         return form;
     });
     modScreenshots::Register(QStringLiteral("frmReportsCustomFilter"), []() -> QWidget* {
