@@ -7,7 +7,6 @@
 #include "reports/clsRTFMasterTemp.h"
 
 #include <QFontMetricsF>
-#include <QImage>
 #include <QPainter>
 #include <QPen>
 #include <QTextLayout>
@@ -68,11 +67,26 @@ double LinesHeight(const QTextLayout& layout, int from, int to) {
 
 } // namespace
 
-clsPdfDialect::clsPdfDialect() = default;
+clsPdfDialect::clsPdfDialect() : mBuffer(std::make_unique<QBuffer>()) {}
+clsPdfDialect::clsPdfDialect(clsPdfDialect&&) noexcept = default;
 clsPdfDialect::~clsPdfDialect() = default;
 
 void clsPdfDialect::Register() {
     clsPageDialect::Register([] { return std::make_unique<clsPdfDialect>(); });
+}
+
+std::unique_ptr<clsPdfDialect> clsPdfDialect::LayOutOnly(const std::function<void()>& run) {
+    std::unique_ptr<clsPdfDialect> kept;
+    clsPageDialect::Register([&kept] {
+        auto dialect = std::make_unique<clsPdfDialect>();
+        dialect->mKeep = &kept;
+        return dialect;
+    });
+    struct Again {
+        ~Again() { Register(); } // also when the run throws
+    } again;
+    run();
+    return kept;
 }
 
 QFont clsPdfDialect::DeviceFont(double points, bool bold) const {
@@ -83,19 +97,25 @@ QFont clsPdfDialect::DeviceFont(double points, bool bold) const {
 }
 
 double clsPdfDialect::CellPadding(bool vertical) const {
-    if (vertical)
-        return mWriter->CELL_MARGIN_TOP + mWriter->CELL_MARGIN_BOTTOM + 2 * kParagraphSpace;
-    return mWriter->CELL_MARGIN_LEFT + mWriter->CELL_MARGIN_RIGHT;
+    return vertical ? mFrame.CellPaddingY : mFrame.CellPaddingX;
 }
 
 bool clsPdfDialect::Begin(const clsRTFMaster& writer, const clsRTFMasterTemp& settings) {
-    mWriter = &writer;
     mSettings = &settings;
+    mFrame = {Twips(writer.MARGIN_HEADER),
+              Twips(writer.MARGIN_TOP),
+              Twips(writer.MARGIN_FOOTER),
+              writer.PRINT_FOOTER,
+              static_cast<double>(writer.TABLE_WIDTH()),
+              static_cast<double>(writer.CELL_MARGIN_LEFT),
+              static_cast<double>(writer.CELL_MARGIN_TOP),
+              static_cast<double>(writer.CELL_MARGIN_LEFT + writer.CELL_MARGIN_RIGHT),
+              writer.CELL_MARGIN_TOP + writer.CELL_MARGIN_BOTTOM + 2 * kParagraphSpace};
     mFontName = writer.FONT_NAME;
     mHalfPoints = clsRTFMaster::HalfPoints(writer.FONT_SIZE);
-    if (mHalfPoints == 0 || !mBuffer.open(QIODevice::WriteOnly))
+    if (mHalfPoints == 0 || !mBuffer->open(QIODevice::WriteOnly))
         return false;
-    mPdf = std::make_unique<QPdfWriter>(&mBuffer);
+    mPdf = std::make_unique<QPdfWriter>(mBuffer.get());
     mPdf->setPageSize(QPageSize(writer.A4 ? QPageSize::A4 : QPageSize::Letter));
     mPdf->setPageOrientation(writer.LANDSCAPE ? QPageLayout::Landscape : QPageLayout::Portrait);
     mPdf->setPageMargins(QMarginsF(0, 0, 0, 0));
@@ -107,6 +127,8 @@ bool clsPdfDialect::Begin(const clsRTFMaster& writer, const clsRTFMasterTemp& se
     mLeft = Twips(writer.MARGIN_LEFT);
     mBodyBottom = mPaperHeight - Twips(writer.MARGIN_BOTTOM);
     mHeaderOnEveryPage = writer.PRINT_HEADER_ICON;
+    if (mHeaderOnEveryPage)
+        mLogo = QImage::fromData(clsRTFMaster::LogoJpeg(), "JPEG");
     mTitle = writer.TITLE.Rtf();
     mDate = writer.PRINT_HEADER_DATE ? clsRTFMaster::HeaderDateText(Now()) : QString();
     mStatistics = writer.STATISTICS.Rtf();
@@ -142,12 +164,15 @@ std::shared_ptr<QTextLayout> clsPdfDialect::LayOutText(const QString& rtf, const
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTextDirection(Qt::LayoutDirectionAuto);
     layout->setTextOption(option);
-    QTextLayout::FormatRange whole;
-    whole.start = 0;
-    whole.length = static_cast<int>(styled.Text.size());
-    whole.format.setForeground(color);
-    styled.Formats.prepend(whole);
-    layout->setFormats(styled.Formats);
+    if (color != QColor(Qt::black)) { // black text takes the painter's pen, with no formats to keep
+        QTextLayout::FormatRange whole;
+        whole.start = 0;
+        whole.length = static_cast<int>(styled.Text.size());
+        whole.format.setForeground(color);
+        styled.Formats.prepend(whole);
+    }
+    if (!styled.Formats.isEmpty())
+        layout->setFormats(styled.Formats);
     layout->setCacheEnabled(true);
     double y = 0;
     layout->beginLayout();
@@ -205,7 +230,7 @@ void clsPdfDialect::Row(const QList<clsRTFCell>& cells, bool rowHeader, int exac
 
 void clsPdfDialect::Paragraph(const RtfMarkup& text) {
     clsRTFCell line;
-    line.CELLX = mWriter->TABLE_WIDTH();
+    line.CELLX = static_cast<int>(mFrame.TableWidth);
     line.CELL_TX = text;
     line.CELL_BORDER = clsRTFCell::NoBorder;
     mLastWasHeader = false;
@@ -284,24 +309,37 @@ void clsPdfDialect::PlaceSplit(const LaidRow& row) {
 }
 
 QByteArray clsPdfDialect::Finish() {
-    {
-        QPainter painter;
-        if (!painter.begin(mPdf.get()))
-            return {};
-        const int pages = static_cast<int>(mPages.size());
-        for (int page = 0; page < pages; ++page) {
-            if (page > 0 && !mPdf->newPage())
-                return {};
-            PaintPage(painter, page, pages);
-        }
-        if (!painter.end())
-            return {};
+    if (mKeep) {
+        *mKeep = std::make_unique<clsPdfDialect>(std::move(*this));
+        (*mKeep)->mKeep = nullptr;
+        return {};
     }
+    if (!Paint(*mPdf))
+        return {};
     mPdf.reset(); // the document is complete in the buffer once the writer is gone
-    return mBuffer.data();
+    return mBuffer->data();
 }
 
-void clsPdfDialect::PaintPage(QPainter& painter, int page, int pages) {
+QPageLayout clsPdfDialect::PageLayout() const {
+    return mPdf ? mPdf->pageLayout() : QPageLayout();
+}
+
+bool clsPdfDialect::Paint(QPagedPaintDevice& device) const {
+    QPainter painter;
+    if (!mPdf || !painter.begin(&device))
+        return false;
+    // The pages are laid out in twips; a device of another resolution sees them scaled.
+    painter.scale(device.logicalDpiX() / double(kTwipsPerInch), device.logicalDpiY() / double(kTwipsPerInch));
+    const int pages = static_cast<int>(mPages.size());
+    for (int page = 0; page < pages; ++page) {
+        if (page > 0 && !device.newPage())
+            return false;
+        PaintPage(painter, page, pages);
+    }
+    return painter.end();
+}
+
+void clsPdfDialect::PaintPage(QPainter& painter, int page, int pages) const {
     PaintHeader(painter, page);
     for (const Piece& piece : mPages[static_cast<size_t>(page)])
         PaintPiece(painter, piece);
@@ -310,8 +348,9 @@ void clsPdfDialect::PaintPage(QPainter& painter, int page, int pages) {
 
 double clsPdfDialect::PaintCentred(QPainter& painter, const QString& rtf, double points, double top) const {
     double height = 0;
-    const auto layout = LayOutText(rtf, DeviceFont(points), mWriter->TABLE_WIDTH(), clsRTFCell::AlignCenter,
-                                   Qt::black, &height);
+    const auto layout =
+        LayOutText(rtf, DeviceFont(points), mFrame.TableWidth, clsRTFCell::AlignCenter, Qt::black, &height);
+    painter.setPen(Qt::black);
     layout->draw(&painter, QPointF(mLeft, top));
     return top + height;
 }
@@ -321,10 +360,9 @@ void clsPdfDialect::PaintHeader(QPainter& painter, int page) const {
         return PaintCentred(painter, rtf, points, top);
     };
     if (mHeaderOnEveryPage || page == 0) {
-        double top = mHeaderOnEveryPage ? Twips(mWriter->MARGIN_HEADER) : Twips(mWriter->MARGIN_TOP);
+        double top = mHeaderOnEveryPage ? mFrame.HeaderTop : mFrame.Top;
         if (mHeaderOnEveryPage)
-            painter.drawImage(QRectF(mLeft, top, kLogoWidth, kLogoHeight),
-                              QImage::fromData(clsRTFMaster::LogoJpeg(), "JPEG"));
+            painter.drawImage(QRectF(mLeft, top, kLogoWidth, kLogoHeight), mLogo);
         top = centred(mTitle, kTitlePoints, top);
         if (!mDate.isEmpty())
             centred(RtfMarkup::EscapeText(mDate), kDatePoints, top);
@@ -332,11 +370,11 @@ void clsPdfDialect::PaintHeader(QPainter& painter, int page) const {
 }
 
 void clsPdfDialect::PaintFooter(QPainter& painter, int page, int pages) const {
-    if (!mWriter->PRINT_FOOTER)
+    if (!mFrame.PrintFooter)
         return;
     const QString footer = QStringLiteral("Page %1 of %2").arg(page + 1).arg(pages);
     const double height = QFontMetricsF(DeviceFont(kFooterPoints)).height();
-    PaintCentred(painter, footer, kFooterPoints, mPaperHeight - Twips(mWriter->MARGIN_FOOTER) - height);
+    PaintCentred(painter, footer, kFooterPoints, mPaperHeight - mFrame.Footer - height);
 }
 
 void clsPdfDialect::PaintPiece(QPainter& painter, const Piece& piece) const {
@@ -349,13 +387,14 @@ void clsPdfDialect::PaintPiece(QPainter& painter, const Piece& piece) const {
         const auto [from, to] = piece.Lines[i];
         if (from < to) {
             const double text = LinesHeight(*cell.Text, from, to);
-            double top = piece.Top + mWriter->CELL_MARGIN_TOP + kParagraphSpace;
+            double top = piece.Top + mFrame.CellTop + kParagraphSpace;
             if (piece.Whole)
                 top += std::max(0.0, piece.Height - CellPadding(true) - text) *
                        VerticalShare(cell.Look.CELL_VERTICAL_ALIGNMENT);
             painter.save();
             painter.setClipRect(box); // an exact height cuts what does not fit
-            const double x = cell.Left + mWriter->CELL_MARGIN_LEFT;
+            painter.setPen(Qt::black);
+            const double x = cell.Left + mFrame.CellLeft;
             const double shift = top - cell.Text->lineAt(from).y();
             for (int line = from; line < to; ++line) {
                 const QTextLine textLine = cell.Text->lineAt(line);

@@ -5,11 +5,14 @@
 #include <QBuffer>
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QPdfWriter>
 #include <QString>
+#include <functional>
 #include <memory>
 #include <vector>
 
+class QPagedPaintDevice;
 class QPainter;
 class QTextLayout;
 
@@ -20,6 +23,7 @@ class QTextLayout;
 class clsPdfDialect final : public clsPageDialect {
 public:
     clsPdfDialect();
+    clsPdfDialect(clsPdfDialect&&) noexcept;
     ~clsPdfDialect() override;
 
     bool Begin(const clsRTFMaster& writer, const clsRTFMasterTemp& settings) override;
@@ -27,9 +31,18 @@ public:
     void Paragraph(const RtfMarkup& text) override;
     void SetFontHalfPoints(int halfPoints) override;
     QByteArray Finish() override;
+    bool WritesFile() const override { return mKeep == nullptr; }
+
+    // Paints the pages onto any paged device: the PDF writer, a printer, a print preview. The device
+    // takes the document's paper from PageLayout(); the painting is scaled to its resolution.
+    bool Paint(QPagedPaintDevice& device) const;
+    QPageLayout PageLayout() const;
 
     // Makes this the writer's PDF dialect for the rest of the run; needs a QGuiApplication.
     static void Register();
+    // Runs `run` (which builds a report) with the pages laid out but no file written, and gives back
+    // the last document laid out, or null. The ordinary PDF dialect is registered again afterwards.
+    static std::unique_ptr<clsPdfDialect> LayOutOnly(const std::function<void()>& run);
 
     // A cell laid out: its box across the table and its lines.
     struct Cell {
@@ -64,7 +77,7 @@ private:
     double Room() const { return mBodyBottom - mCursor; }
     double HeaderRowsHeight() const;
     bool PageHasRows() const { return mCursor > mBodyTop + HeaderRowsHeight(); }
-    void PaintPage(QPainter& painter, int page, int pages);
+    void PaintPage(QPainter& painter, int page, int pages) const;
     void PaintHeader(QPainter& painter, int page) const;
     void PaintFooter(QPainter& painter, int page, int pages) const;
     double PaintCentred(QPainter& painter, const QString& rtf, double points, double top) const;
@@ -73,9 +86,23 @@ private:
     QFont DeviceFont(double points, bool bold = false) const;
     double CellPadding(bool vertical) const;
 
-    QBuffer mBuffer;
-    std::unique_ptr<QPdfWriter> mPdf;
-    const clsRTFMaster* mWriter = nullptr;
+    // What the painting needs of the writer, which is gone by the time a kept document is painted.
+    struct Frame {
+        double HeaderTop = 0;
+        double Top = 0;
+        double Footer = 0; // from the bottom edge
+        bool PrintFooter = true;
+        double TableWidth = 0;
+        double CellLeft = 0;
+        double CellTop = 0;
+        double CellPaddingX = 0;
+        double CellPaddingY = 0;
+    };
+
+    std::unique_ptr<QBuffer> mBuffer;
+    std::unique_ptr<QPdfWriter> mPdf;                // also the device the text is laid out for
+    std::unique_ptr<clsPdfDialect>* mKeep = nullptr; // where a finished document goes instead of a file
+    Frame mFrame;
     const clsRTFMasterTemp* mSettings = nullptr;
     QString mFontName;
     int mHalfPoints = 18;
@@ -86,6 +113,7 @@ private:
     double mBodyBottom = 0;
     double mCursor = 0;
     bool mHeaderOnEveryPage = true;
+    QImage mLogo; // one picture for every page, so that the document holds it once
     QString mTitle;
     QString mDate;
     QString mStatistics;

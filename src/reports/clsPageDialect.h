@@ -29,6 +29,9 @@ public:
     virtual void SetFontHalfPoints(int halfPoints) = 0;
     // The finished document; empty when painting failed.
     virtual QByteArray Finish() = 0;
+    // False for a dialect that only lays the pages out for the screen or a printer: the writer then
+    // opens no file, and Finish gives back nothing.
+    virtual bool WritesFile() const { return true; }
 
     // The layer that paints says how to make its dialect; an empty maker takes it back.
     static void Register(Maker maker);

@@ -176,6 +176,8 @@ bool clsRTFMaster::RTFOpen() {
     }
     if (WritesPdf() && !OpenPages())
         return false;
+    if (mPages && !mPages->WritesFile())
+        return true; // laid out for the screen or a printer: no file at all
     QDir().mkpath(gApp().ReportPath());
     // Each run makes a new file: a report of the same name (one started in the same second) stays.
     if (!mFile.OpenFile(FULL_FILE_NAME(), TextFile::ForWriting,
@@ -267,6 +269,11 @@ void clsRTFMaster::WriteLogoShape() {
 }
 
 bool clsRTFMaster::RTFClose() {
+    if (mPages && !mPages->WritesFile()) {
+        mPages->Finish();
+        mPages.reset();
+        return false; // nothing written
+    }
     if (!mFile.IsOpen())
         return false;
     if (mPages) {

@@ -381,8 +381,9 @@ clsReportCatalogue::Selection clsReportCatalogue::OpeningSelection(int RPT_ROW, 
 }
 
 void clsReportCatalogue::TakeSettings(const Choices& choices, clsRTFMasterTemp& settings) {
-    // Only the first option writes RTF: the CSV choice turns it off.
-    settings.USE_RTF = choices.ReportType == WordRtf;
+    // The CSV choice turns RTF off; PDF is the laid-out document in its own dialect.
+    settings.USE_PDF = choices.ReportType == PortableDocument;
+    settings.USE_RTF = choices.ReportType == WordRtf || settings.USE_PDF;
     settings.FONT_NAME = choices.FontName;
     settings.FONT_SIZE = choices.FontSize;
     settings.A4 = choices.PaperSizeIndex == 1;

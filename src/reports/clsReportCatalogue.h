@@ -62,8 +62,8 @@ public:
         bool Available = false;
     };
 
-    // The three kinds of output the screen offers.
-    enum ReportType : int { WordRtf = 0, CommaSeparated = 1, Labels = 2 };
+    // The kinds of output the screen offers. Labels are always RTF.
+    enum ReportType : int { WordRtf = 0, CommaSeparated = 1, Labels = 2, PortableDocument = 3 };
 
     // The state of the screen's commands for the selection and the chosen output.
     class Commands {

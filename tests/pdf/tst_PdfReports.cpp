@@ -5,6 +5,8 @@
 #include "reports/clsRTFMaster.h"
 #include "reports/clsRTFMasterTemp.h"
 
+#include <QDir>
+#include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -29,6 +31,15 @@ QString PdfText(const QString& file, int page = 0) {
         args << QStringLiteral("-f") << QString::number(page) << QStringLiteral("-l")
              << QString::number(page);
     return Run(QStringLiteral("pdftotext"), args << file << QStringLiteral("-"));
+}
+
+QString PageSize(const QString& file) {
+    const QRegularExpressionMatch match =
+        QRegularExpression(QStringLiteral(R"(Page size:\s+([\d.]+) x ([\d.]+) pts)"))
+            .match(Run(QStringLiteral("pdfinfo"), {file}));
+    return QStringLiteral("%1 x %2")
+        .arg(qRound(match.captured(1).toDouble()))
+        .arg(qRound(match.captured(2).toDouble()));
 }
 
 QString Squeezed(const QString& text) {
@@ -145,14 +156,46 @@ private slots:
         QFETCH(QString, size);
         auto writer = Writer(a4, landscape);
         const QString file = WriteTable(*writer, {{"Name"}, {"Anna"}});
-        const QString info = Run(QStringLiteral("pdfinfo"), {file});
-        const QRegularExpressionMatch match =
-            QRegularExpression(QStringLiteral(R"(Page size:\s+([\d.]+) x ([\d.]+) pts)")).match(info);
-        QVERIFY2(match.hasMatch(), qPrintable(info));
-        QCOMPARE(QStringLiteral("%1 x %2")
-                     .arg(qRound(match.captured(1).toDouble()))
-                     .arg(qRound(match.captured(2).toDouble())),
-                 size);
+        QCOMPARE(PageSize(file), size);
+    }
+
+    // Laid out only, nothing is written; the kept pages then print on a device of any resolution
+    // just as the file has them, on the paper of the report.
+    void keptPagesPrintAsWritten_data() {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<bool>("a4");
+        QTest::addColumn<QString>("size");
+        QTest::addRow("screen resolution, Letter") << int(QPrinter::ScreenResolution) << false << "792 x 612";
+        QTest::addRow("printer resolution, A4") << int(QPrinter::HighResolution) << true << "842 x 595";
+    }
+    void keptPagesPrintAsWritten() {
+        QFETCH(int, mode);
+        QFETCH(bool, a4);
+        QFETCH(QString, size);
+        QList<QStringList> rows{{"Guest Name", "Meal"}};
+        for (int i = 1; i <= 80; ++i)
+            rows.append({QStringLiteral("Guest %1").arg(i), QStringLiteral("Fish")});
+        auto writer = Writer(a4);
+        const auto pages = clsPdfDialect::LayOutOnly([&] { QVERIFY(WriteTable(*writer, rows).isEmpty()); });
+        QVERIFY(pages);
+        QVERIFY(QDir(gApp().ReportPath()).isEmpty());
+        QVERIFY(mHome->Messages().Prompts.isEmpty());
+
+        QPrinter printer(static_cast<QPrinter::PrinterMode>(mode));
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(mHome->File(QStringLiteral("printed.pdf")));
+        printer.setPageLayout(pages->PageLayout());
+        printer.setFullPage(true);
+        QVERIFY(pages->Paint(printer));
+        QCOMPARE(PageSize(printer.outputFileName()), size);
+
+        auto again = Writer(a4); // the file-writing dialect is back
+        const QString written = WriteTable(*again, rows);
+        QVERIFY(!written.isEmpty());
+        const QRegularExpression date(QStringLiteral("As of [^\n]*")); // the minute may turn between the two
+        QCOMPARE(Squeezed(PdfText(printer.outputFileName()).remove(date)),
+                 Squeezed(PdfText(written).remove(date)));
+        QVERIFY(PdfText(printer.outputFileName(), 2).contains(QLatin1String("Guest Name")));
     }
 
     void everyFontEmbedded() {

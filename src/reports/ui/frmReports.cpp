@@ -175,19 +175,27 @@ QWidget* frmReports::MakeGrids() {
 QWidget* frmReports::MakeReportType() {
     auto* box = new QGroupBox(QStringLiteral("Report Type"), this);
     auto* layout = new QVBoxLayout(box);
-    const char* captions[] = {"Microsoft Word (.RTF)", "Comma Separated Values (.CSV)", "Labels (.RTF)"};
-    const char* icons[] = {"rtf", "csv", "labels"};
-    for (int i = 0; i < 3; ++i) {
-        opt[i] = new QRadioButton(QString::fromLatin1(captions[i]), box);
-        opt[i]->setObjectName(QStringLiteral("opt_") + QString::number(i));
-        opt[i]->setIcon(ReportIcons::Icon(QString::fromLatin1(icons[i])));
-        opt[i]->setIconSize(QSize(22, 22));
-        opt[i]->setChecked(i == 0);
-        connect(opt[i], &QRadioButton::toggled, this, [this](bool on) {
+    struct Choice {
+        int Type;
+        const char* Caption;
+        const char* Icon;
+    };
+    const Choice choices[] = {{C::WordRtf, "Microsoft Word (.RTF)", "rtf"},
+                              {C::CommaSeparated, "Comma Separated Values (.CSV)", "csv"},
+                              {C::PortableDocument, "Portable Document Format (.PDF)", "pdf"},
+                              {C::Labels, "Labels (.RTF)", "labels"}};
+    for (const Choice& choice : choices) {
+        QRadioButton*& button = opt[choice.Type];
+        button = new QRadioButton(QString::fromLatin1(choice.Caption), box);
+        button->setObjectName(QStringLiteral("opt_") + QString::number(choice.Type));
+        button->setIcon(ReportIcons::Icon(QString::fromLatin1(choice.Icon)));
+        button->setIconSize(QSize(22, 22));
+        button->setChecked(choice.Type == C::WordRtf);
+        connect(button, &QRadioButton::toggled, this, [this](bool on) {
             if (on)
                 UpdateCommands();
         });
-        layout->addWidget(opt[i]);
+        layout->addWidget(button);
     }
     layout->addStretch();
     return box;
@@ -263,16 +271,26 @@ QWidget* frmReports::MakeCommands() {
     cmdRun = new QPushButton(QStringLiteral("Run"), bar);
     cmdRun->setObjectName(QStringLiteral("cmdRun"));
     cmdRun->setDefault(true);
+    cmdPreview = new QPushButton(QStringLiteral("Preview"), bar);
+    cmdPreview->setObjectName(QStringLiteral("cmdPreview"));
+    cmdPreview->setAutoDefault(false);
+    cmdPrint = new QPushButton(QStringLiteral("Print…"), bar);
+    cmdPrint->setObjectName(QStringLiteral("cmdPrint"));
+    cmdPrint->setAutoDefault(false);
     cmdCancel = new QPushButton(QStringLiteral("Cancel"), bar);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     cmdCancel->setAutoDefault(false);
     connect(cmdRun, &QPushButton::clicked, this, &frmReports::cmdRun_Click);
+    connect(cmdPreview, &QPushButton::clicked, this, &frmReports::cmdPreview_Click);
+    connect(cmdPrint, &QPushButton::clicked, this, &frmReports::cmdPrint_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* layout = new QHBoxLayout(bar);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(linkAction);
     layout->addWidget(lblStatus, 1);
+    layout->addWidget(cmdPreview);
+    layout->addWidget(cmdPrint);
     layout->addWidget(cmdRun);
     layout->addWidget(cmdCancel);
     return bar;
@@ -368,14 +386,16 @@ void frmReports::UpdateCommands() {
         type = C::WordRtf;
     const C::Commands commands = C::CommandState(section, mRows, row, type, labelDesk);
 
-    opt[2]->setText(commands.LabelsCaption);
-    opt[2]->setEnabled(commands.LabelsEnabled && labelDialog);
-    opt[2]->setToolTip(labelDialog ? QString() : QString::fromLatin1(kNotAvailable));
+    opt[C::Labels]->setText(commands.LabelsCaption);
+    opt[C::Labels]->setEnabled(commands.LabelsEnabled && labelDialog);
+    opt[C::Labels]->setToolTip(labelDialog ? QString() : QString::fromLatin1(kNotAvailable));
     if (!opt[commands.ReportType]->isChecked()) {
         const QSignalBlocker blocker(opt[commands.ReportType]);
         opt[commands.ReportType]->setChecked(true);
     }
     cmdRun->setEnabled(commands.RunEnabled);
+    cmdPreview->setEnabled(commands.RunEnabled && CanLayOut());
+    cmdPrint->setEnabled(cmdPreview->isEnabled());
     if (row < 0 && !mRows.isEmpty())
         SetStatus(QString::fromLatin1(kSectionNotAvailable));
     else if (lblStatus->text() == QLatin1String(kSectionNotAvailable))
@@ -384,9 +404,17 @@ void frmReports::UpdateCommands() {
 }
 
 int frmReports::CheckedReportType() const {
-    if (opt[2]->isChecked())
-        return C::Labels;
-    return opt[1]->isChecked() ? C::CommaSeparated : C::WordRtf;
+    for (int type = 0; type < int(std::size(opt)); ++type)
+        if (opt[type]->isChecked())
+            return type;
+    return C::WordRtf;
+}
+
+bool frmReports::CanLayOut() const {
+    if (CheckedReportType() == C::Labels || FilterRowIndex() < 0)
+        return false;
+    const clsReportRoute route = C::Route(SectionKey(), mRows, FilterRowIndex());
+    return route.Dialog.isEmpty() && ReportDialogs::RouteAvailable(route) && !route.ClassName.isEmpty();
 }
 
 clsReportCatalogue::Choices frmReports::Choices() const {
@@ -407,13 +435,28 @@ void frmReports::cmdRun_Click() {
     const int row = FilterRowIndex();
     if (row < 0)
         return;
-    if (opt[2]->isChecked()) {
+    if (opt[C::Labels]->isChecked()) {
         const bool labelDesk = ReportDialogs::LabelDeskActive();
         ReportDialogs::Open(this, C::LabelRoute(section, mRows, row, labelDesk));
         return;
     }
     C::TakeSettings(Choices(), gRTFMasterTemp());
     RunRoute(C::Route(section, mRows, row));
+}
+
+clsReportRoute frmReports::TakeRoute() const {
+    C::TakeSettings(Choices(), gRTFMasterTemp());
+    return C::Route(SectionKey(), mRows, FilterRowIndex());
+}
+
+void frmReports::cmdPreview_Click() {
+    if (CanLayOut())
+        ReportDialogs::Preview(this, TakeRoute());
+}
+
+void frmReports::cmdPrint_Click() {
+    if (CanLayOut())
+        ReportDialogs::Print(this, TakeRoute());
 }
 
 void frmReports::RunRoute(const clsReportRoute& route) {
@@ -479,6 +522,7 @@ void frmReports::LoadSettings() {
     SetFontLinks(Setting("Font", "Verdana"), Setting("FontSize", "9"));
     cboPaperSize->setCurrentIndex(IndexSetting("PaperSize", cboPaperSize->count()));
     cboPaperOrientation->setCurrentIndex(IndexSetting("PaperOrientation", cboPaperOrientation->count()));
+    opt[IndexSetting("ReportType", int(std::size(opt)))]->setChecked(true);
     if (!gVowren().Contains(QString::number(FirstColorIndex)))
         RecordIO::Read([] { return gVowren().OpenRecords(); });
     const clsColor defaults[] = {clsRTFMasterTemp::DefaultHeaderColor(),
@@ -497,6 +541,7 @@ void frmReports::SaveSettings() const {
     SaveSetting("FontSize", mFontSize);
     SaveSetting("PaperSize", QString::number(cboPaperSize->currentIndex()));
     SaveSetting("PaperOrientation", QString::number(cboPaperOrientation->currentIndex()));
+    SaveSetting("ReportType", QString::number(CheckedReportType()));
 }
 
 // ---- Form events ----

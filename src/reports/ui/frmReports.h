@@ -15,7 +15,8 @@ class usrHyperlink;
 
 // "Print Reports": the one place where the user picks a report. The sections on the left, the filter
 // rows of the chosen section with their counts on the right, the output options below; Run writes the
-// report into the report folder and opens it. The form stays open for the next report.
+// report into the report folder and opens it, Preview and Print lay its pages out for the screen or a
+// printer without writing a file. The form stays open for the next report.
 class frmReports : public QDialog {
     Q_OBJECT
 public:
@@ -64,6 +65,12 @@ private:
     void linkFont_Click();
     void linkAction_Click();
     void cmdRun_Click();
+    void cmdPreview_Click();
+    void cmdPrint_Click();
+    // Can the selected row's report be laid out in pages (a report class, no dialog to ask first)?
+    bool CanLayOut() const;
+    // The selected row's route with the output options taken into the settings.
+    clsReportRoute TakeRoute() const;
     void RunRoute(const clsReportRoute& route);
     void SetStatus(const QString& text);
 
@@ -75,7 +82,7 @@ private:
 
     QTreeWidget* gridReport = nullptr;
     QTreeWidget* gridFilter = nullptr;
-    QRadioButton* opt[3] = {};
+    QRadioButton* opt[4] = {}; // by clsReportCatalogue::ReportType
     QComboBox* cboPaperSize = nullptr;
     QComboBox* cboPaperOrientation = nullptr;
     usrHyperlink* linkFont = nullptr;
@@ -84,5 +91,7 @@ private:
     usrHyperlink* linkAction = nullptr;
     QLabel* lblStatus = nullptr;
     QPushButton* cmdRun = nullptr;
+    QPushButton* cmdPreview = nullptr;
+    QPushButton* cmdPrint = nullptr;
     QPushButton* cmdCancel = nullptr;
 };

@@ -3,15 +3,21 @@
 #include "core/RecordIO.h"
 #include "core/ShowMessage.h"
 #include "core/modGeneral.h"
+#include "pdf/clsPdfDialect.h"
 #include "platform/clsShell.h"
+#include "reports/clsRTFMasterTemp.h"
 #include "reports/clsReportClasses.h"
 #include "reports/modReportRegistry.h"
+#include "reports/modReportRunner.h"
 #include "reports/ui/frmReports.h"
 #include "reports/ui/frmReportsCustomFilter.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QHash>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
 
 // The pictures sit in a resource file of a static library: it is linked in by name.
 static void InitReportResources() {
@@ -106,6 +112,63 @@ QString BuildAndShow(const clsReportRoute& route) {
     if (!file.isEmpty() && !gShell().OpenDocument(file))
         ShowMessage(gShell().Message(), Msg::Exclamation, ProgramTitle());
     return file;
+}
+
+std::unique_ptr<clsPdfDialect> LayOut(const clsReportRoute& route) {
+    WaitCursor wait;
+    const clsRTFMasterTemp& settings = gRTFMasterTemp();
+    const modReportRunner::Output pages{true, true, settings.LANDSCAPE,
+                                        settings.A4}; // whatever the file type
+    std::unique_ptr<clsPdfDialect> laid;
+    RecordIO::Attempt(
+        [&] { laid = clsPdfDialect::LayOutOnly([&] { modReportRunner::Write(route, pages); }); });
+    return laid;
+}
+
+bool PrintPages(const clsPdfDialect& pages, QPrinter& printer) {
+    printer.setFullPage(true); // the pages carry their own margins
+    return pages.Paint(printer);
+}
+
+namespace {
+
+// The route's pages and a printer of their paper; the printer is null when nothing was laid out.
+std::pair<std::unique_ptr<clsPdfDialect>, std::unique_ptr<QPrinter>>
+PagesAndPrinter(const clsReportRoute& route) {
+    auto pages = LayOut(route);
+    if (!pages)
+        return {};
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setPageLayout(pages->PageLayout());
+    printer->setDocName(route.FilterText.isEmpty() ? ProgramTitle() : route.FilterText);
+    return {std::move(pages), std::move(printer)};
+}
+
+void CouldNotPrint() {
+    ShowMessage(QStringLiteral("The report could not be printed. Check the printer and try again."),
+                Msg::OKOnly | Msg::Exclamation, ProgramTitle());
+}
+
+} // namespace
+
+void Preview(QWidget* parent, const clsReportRoute& route) {
+    const auto laid = PagesAndPrinter(route);
+    if (!laid.second)
+        return;
+    const clsPdfDialect& pages = *laid.first;
+    QPrintPreviewDialog dialog(laid.second.get(), parent);
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
+                     [&pages](QPrinter* device) { PrintPages(pages, *device); });
+    dialog.exec();
+}
+
+void Print(QWidget* parent, const clsReportRoute& route) {
+    const auto laid = PagesAndPrinter(route);
+    if (!laid.second)
+        return;
+    QPrintDialog dialog(laid.second.get(), parent);
+    if (dialog.exec() == QDialog::Accepted && !PrintPages(*laid.first, *laid.second))
+        CouldNotPrint();
 }
 
 void ShowPicture(const clsReportRoute& route) {

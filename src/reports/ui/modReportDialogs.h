@@ -5,8 +5,11 @@
 #include <QIcon>
 #include <QString>
 #include <functional>
+#include <memory>
 
+class QPrinter;
 class QWidget;
+class clsPdfDialect;
 
 // The screens' side of running reports: the entry point every page's print command calls, the dialogs
 // a report row can lead to (registered by name, as the routes name them), and the one way a report is
@@ -44,6 +47,15 @@ bool RouteAvailable(const clsReportRoute& route);
 // Builds the route's report under a wait cursor and opens the file with the desktop. Gives back the
 // file written, or empty when nothing was written.
 QString BuildAndShow(const clsReportRoute& route);
+// The route's report laid out in pages (in the paper and font the settings hold now) with no file
+// written; null when it could not be laid out (the user has been told why).
+std::unique_ptr<clsPdfDialect> LayOut(const clsReportRoute& route);
+// Paints the pages onto the printer, which takes their paper and orientation. False when it failed.
+bool PrintPages(const clsPdfDialect& pages, QPrinter& printer);
+// Shows the route's pages in the print preview; nothing is written.
+void Preview(QWidget* parent, const clsReportRoute& route);
+// Sends the route's pages to a printer chosen in the print dialog.
+void Print(QWidget* parent, const clsReportRoute& route);
 // Opens the picture the route names, or tells the user how to make it.
 void ShowPicture(const clsReportRoute& route);
 

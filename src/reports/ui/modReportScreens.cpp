@@ -1,3 +1,4 @@
+#include "pdf/clsPdfDialect.h"
 #include "reports/modReportRegistry.h"
 #include "reports/ui/frmReports.h"
 #include "reports/ui/frmReportsCustomFilter.h"
@@ -6,15 +7,18 @@
 #include "shell/modScreenshots.h"
 
 #include <QCheckBox>
+#include <QRadioButton>
 
 void RegisterReportScreens() {
     RegisterReportClasses();
     ReportDialogs::RegisterOwnDialogs();
+    clsPdfDialect::Register();
 
     modScreenshots::Register(QStringLiteral("frmReports"), []() -> QWidget* {
         auto* form = new frmReports(nullptr);
         form->RPT_ROW = clsReportCatalogue::Attendees;
         form->FilterIndex = 98;
+        form->findChild<QRadioButton*>(QStringLiteral("opt_3"))->setChecked(true); // the PDF choice
         return form;
     });
     modScreenshots::Register(QStringLiteral("frmReportsCustomFilter"), []() -> QWidget* {

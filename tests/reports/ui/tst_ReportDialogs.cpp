@@ -3,9 +3,11 @@
 #include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
 #include "guests/GuestTestData.h"
+#include "pdf/clsPdfDialect.h"
 #include "platform/clsShell.h"
 #include "reports/clsRTFMasterTemp.h"
 #include "reports/clsReportClasses.h"
+#include "reports/modReportRegistry.h"
 #include "reports/ui/frmReports.h"
 #include "reports/ui/frmReportsCustomFilter.h"
 #include "reports/ui/frmReportsFont.h"
@@ -15,8 +17,11 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QPrinter>
+#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
@@ -134,6 +139,8 @@ private slots:
         QTest::mouseClick(opt2, Qt::LeftButton);
         QVERIFY(opt2->isChecked());
         QCOMPARE(cmdRun->text(), QStringLiteral("Continue"));
+        QVERIFY(
+            !Child<QPushButton>(*form, QStringLiteral("cmdPreview"))->isEnabled()); // labels are not pages
         QTest::mouseClick(cmdRun, Qt::LeftButton);
         QCOMPARE(labelRoutes.size(), 1);
         QCOMPARE(labelRoutes[0].FormNumber, int(C::Contacts));
@@ -181,6 +188,7 @@ private slots:
 
     void customFilterRowOpensTheDialog() {
         auto form = OpenReports(C::Attendees, C::CustomFilterKey);
+        QVERIFY(!Child<QPushButton>(*form, QStringLiteral("cmdPrint"))->isEnabled()); // its dialog asks first
         QString header;
         OnNextDialog([&](QWidget* dialog) {
             QVERIFY(dialog);
@@ -200,6 +208,7 @@ private slots:
             form->mfrmReportsFont_FontChanged(QStringLiteral("DejaVu Serif"), QStringLiteral("12"));
             Child<QComboBox>(*form, QStringLiteral("cboPaperSize"))->setCurrentIndex(1);
             Child<QComboBox>(*form, QStringLiteral("cboPaperOrientation"))->setCurrentIndex(1);
+            QTest::mouseClick(Child<QRadioButton>(*form, QStringLiteral("opt_3")), Qt::LeftButton);
             QTest::mouseClick(Child<QPushButton>(*form, QStringLiteral("cmdCancel")), Qt::LeftButton);
         }
         const QString key = FormRegistryKey(QStringLiteral("frmReports"));
@@ -207,6 +216,7 @@ private slots:
         QCOMPARE(gRegistry().GetSetting(key, QStringLiteral("FontSize"), {}), QStringLiteral("12"));
         QCOMPARE(gRegistry().GetSetting(key, QStringLiteral("PaperSize"), {}), QStringLiteral("1"));
         QCOMPARE(gRegistry().GetSetting(key, QStringLiteral("PaperOrientation"), {}), QStringLiteral("1"));
+        QCOMPARE(gRegistry().GetSetting(key, QStringLiteral("ReportType"), {}), QStringLiteral("3"));
 
         auto again = OpenReports(C::Contacts, 0);
         QCOMPARE(Child<usrHyperlink>(*again, QStringLiteral("linkFont"))->Caption(),
@@ -216,8 +226,59 @@ private slots:
         QCOMPARE(again->Choices().PaperSizeIndex, 1);
         QCOMPARE(again->Choices().PaperOrientationIndex, 1);
         QCOMPARE(again->Choices().SubHeader, clsColor(1, 2, 3));
-        // The report type always starts at RTF.
-        QVERIFY(Child<QRadioButton>(*again, QStringLiteral("opt_0"))->isChecked());
+        QVERIFY(Child<QRadioButton>(*again, QStringLiteral("opt_3"))->isChecked());
+    }
+
+    void runWritesTheChosenDialect_data() {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<bool>("rtf");
+        QTest::addColumn<bool>("pdf");
+        QTest::addRow("RTF") << "opt_0" << true << false;
+        QTest::addRow("CSV") << "opt_1" << false << false;
+        QTest::addRow("PDF") << "opt_3" << true << true;
+    }
+    void runWritesTheChosenDialect() {
+        QFETCH(QString, option);
+        QFETCH(bool, rtf);
+        QFETCH(bool, pdf);
+        gRTFMasterTemp().USE_PDF = !pdf;
+        auto form = OpenReports(C::Contacts, 0);
+        QTest::mouseClick(Child<QRadioButton>(*form, option), Qt::LeftButton);
+        QVERIFY(Child<QPushButton>(*form, QStringLiteral("cmdPreview"))->isEnabled());
+        QTest::mouseClick(Child<QPushButton>(*form, QStringLiteral("cmdRun")), Qt::LeftButton);
+        QCOMPARE(gBuilt.size(), 1);
+        QCOMPARE(gRTFMasterTemp().USE_RTF, rtf);
+        QCOMPARE(gRTFMasterTemp().USE_PDF, pdf);
+    }
+
+    // What Preview and Print paint: the report's pages on the printer, and no file in the folder.
+    void previewPagesPrintWithoutAFile() {
+        const QStringList fakes = clsReportClasses::Names();
+        RegisterReportClasses(); // the real contacts report, for this test only
+        const auto unregister = qScopeGuard([&fakes] {
+            for (const QString& name : clsReportClasses::Names())
+                if (!fakes.contains(name))
+                    clsReportClasses::Unregister(name);
+        });
+        gRTFMasterTemp().A4 = true;
+        gRTFMasterTemp().USE_RTF = false; // CSV chosen: the preview still shows pages
+        const QList<C::FilterRow> rows = C::FilterRows(C::Contacts);
+        const auto pages = ReportDialogs::LayOut(C::Route(C::Contacts, rows, 0));
+        QVERIFY(pages);
+        QVERIFY(QDir(gApp().ReportPath()).isEmpty());
+        QPrinter printer;
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(mDb->File(QStringLiteral("printed.pdf")));
+        printer.setPageLayout(pages->PageLayout());
+        QVERIFY(ReportDialogs::PrintPages(*pages, printer));
+        QProcess reader;
+        reader.start(QStringLiteral("pdftotext"), {printer.outputFileName(), QStringLiteral("-")});
+        if (!reader.waitForFinished(60000))
+            QSKIP("pdftotext (poppler-utils) is not installed");
+        const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+        for (const char* name : {"Carl", "Dora", "Emil", "Fay", "Page 1 of 1"})
+            QVERIFY2(text.contains(QLatin1String(name)), qPrintable(text));
+        QCOMPARE(printer.pageLayout().pageSize().id(), QPageSize::A4);
     }
 
     void chosenColorIsStoredAtOnceAndReachesTheReports() {
