@@ -460,6 +460,26 @@ void RelabelAfterLeaving(const QString& inviteId) {
 
 } // namespace
 
+QStringList clsCONTACT::ChangeMany(const QStringList& contactIds,
+                                   const std::function<void(clsCONTACT&)>& change, bool RefreshInvite,
+                                   const clsProgress& progress) {
+    QStringList saved;
+    clsTransaction tx(gDB());
+    int done = 0;
+    for (const QString& id : contactIds) {
+        clsCONTACT contact;
+        if (contact.OpenRecord(id)) {
+            change(contact);
+            contact.Save(false, RefreshInvite);
+            saved.append(contact.CONTACT_ID);
+        }
+        if (progress)
+            progress(++done, static_cast<int>(contactIds.size()));
+    }
+    tx.Commit();
+    return saved;
+}
+
 clsDeleteResult clsCONTACT::DeleteMany(const QStringList& contactIds, const clsProgress& progress) {
     clsDeleteResult result;
     clsTransaction tx(gDB());

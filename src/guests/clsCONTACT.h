@@ -152,6 +152,11 @@ public:
     // nobody is left on. One transaction, one step of progress per person and per invitation. The
     // bride and the groom are kept. Throws on a failure, with nothing changed.
     static clsDeleteResult DeleteMany(const QStringList& contactIds, const clsProgress& progress = {});
+    // Opens, changes and saves each person in the order given, all or nothing; a key that is gone is
+    // passed over. The keys saved, in order. Throws on a failure, with nothing changed.
+    static QStringList ChangeMany(const QStringList& contactIds,
+                                  const std::function<void(clsCONTACT&)>& change, bool RefreshInvite,
+                                  const clsProgress& progress = {});
     // The bride and the groom: contact rows 1 and 2, and whoever holds their roles 1 and 2.
     static bool IsCouple(const QString& contactId, const QString& roleId);
     // A role is held by one person: it is taken from whoever has it, then given to the contact (or to

@@ -286,6 +286,31 @@ void clsINVITE::Delete(const QString& inviteId) {
     DeleteMany({inviteId}, false);
 }
 
+clsINVITE::SentResult clsINVITE::MarkSent(const QStringList& inviteIds, bool sent,
+                                          const clsProgress& progress) {
+    SentResult result;
+    clsTransaction tx(gDB());
+    int done = 0;
+    for (const QString& id : inviteIds) {
+        clsINVITE invite;
+        if (invite.OpenRecord(id, false)) {
+            if (invite.OUTER_ENVELOPE_ADDRESS_TX.isEmpty()) {
+                result.SkippedUnaddressed = result.SkippedUnaddressed || sent;
+            } else {
+                invite.INVITE_SENT_FG = sent ? QStringLiteral("Y") : QStringLiteral("N");
+                if (!sent)
+                    invite.RSVP_RECEIVED_FG = QStringLiteral("N");
+                invite.Save(false);
+                result.Saved.append(invite.INVITE_ID);
+            }
+        }
+        if (progress)
+            progress(++done, static_cast<int>(inviteIds.size()));
+    }
+    tx.Commit();
+    return result;
+}
+
 clsDeleteResult clsINVITE::DeleteMany(const QStringList& inviteIds, bool KeepSent, const clsProgress& progress) {
     clsDeleteResult result;
     clsTransaction tx(gDB());

@@ -76,6 +76,14 @@ public:
     // The same for each invitation, in one transaction, one step of progress each. With KeepSent an
     // invitation whose card is out stays (it is Kept). Throws on a failure, with nothing changed.
     static clsDeleteResult DeleteMany(const QStringList& inviteIds, bool KeepSent, const clsProgress& progress = {});
+    // Marks each invitation sent or not (not sent also takes back its reply), in one transaction, one step
+    // of progress each. An envelope without an address can't go out: such an invitation is passed over,
+    // and SkippedUnaddressed says so when marking sent. Throws on a failure, with nothing changed.
+    struct SentResult {
+        QStringList Saved;
+        bool SkippedUnaddressed = false;
+    };
+    static SentResult MarkSent(const QStringList& inviteIds, bool sent, const clsProgress& progress = {});
     // Removes every invitation no contact points to.
     static void DeleteInvitesWithNoGuests();
 

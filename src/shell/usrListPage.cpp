@@ -557,28 +557,6 @@ void usrListPage::StepProgress() { mProgress->setProgressValue(mProgress->Progre
 
 void usrListPage::EndProgress() { mProgress->setProgressVisible(false); }
 
-bool usrListPage::RunOverKeys(const QList<qint64>& keys, const std::function<void(qint64)>& step) {
-    BeginProgress(static_cast<int>(keys.size()));
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    bool ok = true;
-    try {
-        clsTransaction tx(gDB());
-        for (auto key = keys.crbegin(); key != keys.crend(); ++key) {
-            step(*key);
-            StepProgress();
-        }
-        tx.Commit();
-    } catch (const clsDbError& e) {
-        QApplication::restoreOverrideCursor();
-        RecordIO::Report(e);
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        ok = false;
-    }
-    QApplication::restoreOverrideCursor();
-    EndProgress();
-    return ok;
-}
-
 void usrListPage::SaveState() {
     if (!mLoaded)
         return;

@@ -128,9 +128,6 @@ protected:
     void BeginProgress(int count);
     void StepProgress();
     void EndProgress();
-    // Runs step for each key from the last to the first, with progress and a wait cursor, in one
-    // transaction: all or nothing. False after the error was shown.
-    bool RunOverKeys(const QList<qint64>& keys, const std::function<void(qint64)>& step);
     // A key of the page, heard wherever the focus is inside it.
     QShortcut* AddShortcut(const QKeySequence& keys, const std::function<void()>& run);
     // Writes the grid's layout and the last key to the settings; pages call it when they are left.

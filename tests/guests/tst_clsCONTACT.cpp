@@ -614,6 +614,25 @@ private slots:
         QVERIFY(db->Messages().Prompts.isEmpty());
     }
 
+    // A change of several people is all or nothing; a key that has gone meanwhile is passed over.
+    void changeManyIsAllOrNothing() {
+        QStringList ids;
+        AddInvitation({"Mr.|John||Smith||", "Mrs.|Mary||Smith||", "Ms.|Ann||Lee||"}, {}, &ids);
+        const auto side = [](clsCONTACT& c) { c.FRIEND_OF_CD = QStringLiteral("2"); };
+        const QStringList contacts = Dump("CONTACT");
+        Exec(QStringLiteral("CREATE TRIGGER third_fails BEFORE UPDATE ON CONTACT WHEN OLD.CONTACT_ID = %1 "
+                            "BEGIN SELECT RAISE(ABORT, 'refused'); END")
+                 .arg(ids[2]));
+        QVERIFY_THROWS_EXCEPTION(clsDbError, clsCONTACT::ChangeMany(ids, side, true));
+        QCOMPARE(Dump("CONTACT"), contacts);
+        Exec("DROP TRIGGER third_fails");
+        QCOMPARE(clsCONTACT::ChangeMany({ids[1], "999", ids[0]}, side, true), (QStringList{ids[1], ids[0]}));
+        QCOMPARE(Scalar(QStringLiteral(
+                            "SELECT group_concat(FRIEND_OF_CD) FROM CONTACT WHERE CONTACT_ID IN (%1, %2)")
+                            .arg(ids[0], ids[1])),
+                 QStringLiteral("2,2"));
+    }
+
     void personWithGiftsCannotBeDeleted() {
         QStringList ids;
         AddInvitation({"Mr.|John||Smith||", "|John's|Guest||||0"}, {}, &ids);

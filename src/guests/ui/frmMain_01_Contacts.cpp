@@ -194,15 +194,11 @@ bool frmMain_01_Contacts::ChangeSelected(const std::function<void(clsCONTACT&)>&
     const QList<qint64> keys = SelectedKeys();
     if (keys.isEmpty())
         return false;
-    QList<QString> saved;
-    const bool ok = RunOverKeys(keys, [&](qint64 key) {
-        clsCONTACT contact;
-        if (!contact.OpenRecord(QString::number(key)))
-            return;
-        change(contact);
-        contact.Save(false, true);
-        saved.append(contact.CONTACT_ID);
-    });
+    QStringList saved;
+    const bool ok = modBulkDelete::RunWithProgress(
+        this, QStringLiteral("Saving contacts…"), [&](const clsProgress& progress) {
+            saved = clsCONTACT::ChangeMany(modBulkDelete::LastToFirst(keys), change, true, progress);
+        });
     if (ok) {
         for (const QString& id : saved)
             mfrmContact_Updated(id);

@@ -203,32 +203,20 @@ int frmMain_02_Invitations::MarkSelectedSent(bool sent) {
     const QList<qint64> keys = SelectedKeys();
     if (keys.isEmpty())
         return 0;
-    QStringList saved;
-    bool skipped = false;
-    const bool ok = RunOverKeys(keys, [&](qint64 key) {
-        clsINVITE invite;
-        if (!invite.OpenRecord(QString::number(key), false))
-            return;
-        // The address lives with the primary contact; an envelope without one can't go out.
-        if (invite.OUTER_ENVELOPE_ADDRESS_TX.isEmpty()) {
-            skipped = skipped || sent;
-            return;
-        }
-        invite.INVITE_SENT_FG = sent ? QStringLiteral("Y") : QStringLiteral("N");
-        if (!sent)
-            invite.RSVP_RECEIVED_FG = QStringLiteral("N");
-        invite.Save(false);
-        saved.append(invite.INVITE_ID);
-    });
+    clsINVITE::SentResult result;
+    const bool ok = modBulkDelete::RunWithProgress(
+        this, QStringLiteral("Saving invitations…"), [&](const clsProgress& progress) {
+            result = clsINVITE::MarkSent(modBulkDelete::LastToFirst(keys), sent, progress);
+        });
     if (!ok)
         return 0;
-    for (const QString& inviteId : saved)
+    for (const QString& inviteId : std::as_const(result.Saved))
         RefreshRow(inviteId);
     RefreshPanel();
-    if (skipped)
+    if (result.SkippedUnaddressed)
         ShowMessage(QStringLiteral("Invitations with no address cannot be marked as sent."),
                     Msg::Exclamation);
-    return static_cast<int>(saved.size());
+    return static_cast<int>(result.Saved.size());
 }
 
 int frmMain_02_Invitations::DeleteSelected() {

@@ -1,13 +1,14 @@
 #include "guests/ui/frmMain_04_Attendees.h"
 
-#include "core/ShowMessage.h"
 #include "core/FilterCode.h"
+#include "core/ShowMessage.h"
 #include "core/clsApp.h"
 #include "core/clsDICT.h"
 #include "core/modGeneral.h"
 #include "guests/clsCONTACT.h"
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmAttendee.h"
+#include "guests/ui/modBulkDelete.h"
 #include "reports/clsReportCatalogue.h"
 #include "shell/controls/ControlIcons.h"
 #include "shell/controls/usrHyperlink.h"
@@ -285,20 +286,17 @@ bool frmMain_04_Attendees::ChangeSelected(const std::function<void(clsCONTACT&)>
     const QList<qint64> keys = SelectedKeys();
     if (keys.isEmpty())
         return false;
-    QList<clsCONTACT> saved;
-    const bool ok = RunOverKeys(keys, [&](qint64 key) {
-        clsCONTACT contact;
-        if (!contact.OpenRecord(QString::number(key)))
-            return;
-        change(contact);
-        contact.Save(false, false); // neither meal nor side changes an envelope
-        saved.append(contact);
-    });
+    QStringList saved;
+    const bool ok = modBulkDelete::RunWithProgress(
+        this, QStringLiteral("Saving attendees…"), [&](const clsProgress& progress) {
+            // Neither meal nor side changes an envelope.
+            saved = clsCONTACT::ChangeMany(modBulkDelete::LastToFirst(keys), change, false, progress);
+        });
     if (ok) {
-        for (const clsCONTACT& contact : std::as_const(saved)) {
+        for (const QString& id : std::as_const(saved)) {
             clsCONTACT shown; // read again, for the meal's text
-            if (RecordIO::Read([&] { return shown.OpenRecord(contact.CONTACT_ID); }))
-                SetRowCells(RowOfKey(contact.CONTACT_ID.toLongLong()), shown);
+            if (RecordIO::Read([&] { return shown.OpenRecord(id); }))
+                SetRowCells(RowOfKey(id.toLongLong()), shown);
         }
     }
     RefreshPanel();
