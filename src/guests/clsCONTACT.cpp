@@ -473,8 +473,7 @@ QStringList clsCONTACT::ChangeMany(const QStringList& contactIds,
             contact.Save(false, RefreshInvite);
             saved.append(contact.CONTACT_ID);
         }
-        if (progress)
-            progress(++done, static_cast<int>(contactIds.size()));
+        StepProgress(progress, done, contactIds.size());
     }
     tx.Commit();
     return saved;
@@ -486,10 +485,7 @@ clsDeleteResult clsCONTACT::DeleteMany(const QStringList& contactIds, const clsP
     const Leaving leaving = WhoLeaves(contactIds, result);
     const int total = static_cast<int>(leaving.People.size() + leaving.Invites.size());
     int done = 0;
-    const auto step = [&] {
-        if (progress)
-            progress(++done, total);
-    };
+    const auto step = [&] { StepProgress(progress, done, total); };
     for (const QString& id : leaving.People) {
         gDB().Execute(QStringLiteral("DELETE FROM CONTACT WHERE CONTACT_ID = ?"), {id});
         result.Deleted.append(id);

@@ -18,6 +18,11 @@ struct clsDeleteResult {
 
 // How far a long run has come: done of total steps.
 using clsProgress = std::function<void(int done, int total)>;
+// One more step of a run over total items; nothing when nobody listens.
+inline void StepProgress(const clsProgress& progress, int& done, qsizetype total) {
+    if (progress)
+        progress(++done, static_cast<int>(total));
+}
 
 // One person of the wedding: the bride (ROLE_ID 1), the groom (ROLE_ID 2), a friend or relative, or
 // the guest an invited person brings. Attendance, meal, table, flight and hotel are columns of the

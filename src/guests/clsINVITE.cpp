@@ -304,8 +304,7 @@ clsINVITE::SentResult clsINVITE::MarkSent(const QStringList& inviteIds, bool sen
                 result.Saved.append(invite.INVITE_ID);
             }
         }
-        if (progress)
-            progress(++done, static_cast<int>(inviteIds.size()));
+        StepProgress(progress, done, inviteIds.size());
     }
     tx.Commit();
     return result;
@@ -335,8 +334,7 @@ clsDeleteResult clsINVITE::DeleteMany(const QStringList& inviteIds, bool KeepSen
             gDB().Execute(QStringLiteral("DELETE FROM INVITE WHERE INVITE_ID = ?"), {id});
             result.Deleted.append(row.Row(0).at(0));
         }
-        if (progress)
-            progress(++done, total);
+        StepProgress(progress, done, total);
     }
     // Brought guests exist only through an invitation.
     gDB().Execute(QStringLiteral("DELETE FROM CONTACT WHERE GUEST_OF_ID Is Not Null AND INVITE_ID Is Null"));

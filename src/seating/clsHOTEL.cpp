@@ -55,7 +55,7 @@ bool clsHOTEL::Patch_7_Apply() {
 }
 
 void clsHOTEL::Delete(const QString& key) {
-    gDB().Execute(QStringLiteral("DELETE FROM HOTEL WHERE HOTEL_ID = ?"), {key});
+    RecordIO::Delete(QStringLiteral("HOTEL"), QStringLiteral("HOTEL_ID"), key);
 }
 
 QString clsHOTEL::MapURL(int countryIndex) const {

@@ -151,7 +151,7 @@ bool clsTENTCARD::CreateTable() {
 }
 
 void clsTENTCARD::Delete(const QString& tentcardId) {
-    gDB().Execute(QStringLiteral("DELETE FROM TENTCARD WHERE TENTCARD_ID = ?"), {tentcardId});
+    RecordIO::Delete(QStringLiteral("TENTCARD"), QStringLiteral("TENTCARD_ID"), tentcardId);
 }
 
 void clsTENTCARD::DeleteAll() {
@@ -193,7 +193,7 @@ QList<clsTENTCARD> clsTENTCARD::OpenRecords() {
 
 void clsTENTCARD::RefreshTentcards() {
     clsTransaction tx(gDB());
-    gDB().Execute(QStringLiteral("DELETE FROM TENTCARD"));
+    DeleteAll();
     const bool formal = EtiquetteIsFormal();
     // Seated people by invitation and table; the bride and the groom sort as one invitation of their own.
     const QList<clsCONTACT> seated = clsCONTACT::OpenRecords(

@@ -1,5 +1,6 @@
 #include "seating/modSeating.h"
 
+#include "core/RecordIO.h"
 #include "core/clsDB.h"
 #include "guests/clsCONTACT.h"
 
@@ -14,24 +15,6 @@ QString TableNotFound(const QString& tableId) {
     return QStringLiteral("There is no dining table with the key %1.").arg(tableId);
 }
 
-// Where each of the people sits now; a key that is no contact throws.
-Seats CurrentSeats(const QStringList& contactIds) {
-    Seats seats;
-    for (const QString& id : contactIds) {
-        const clsRecordset rs =
-            gDB().Execute(QStringLiteral("SELECT DINING_TABLE_ID FROM CONTACT WHERE CONTACT_ID = ?"), {id});
-        if (rs.IsEmpty())
-            throw clsDbError(QStringLiteral("There is no contact with the key %1.").arg(id), 0);
-        seats.insert(id, rs.Scalar());
-    }
-    return seats;
-}
-
-void WriteSeat(const QString& contactId, const QString& tableId) {
-    gDB().Execute(QStringLiteral("UPDATE CONTACT SET DINING_TABLE_ID = ? WHERE CONTACT_ID = ?"),
-                  {tableId.isEmpty() ? QVariant() : QVariant(tableId), contactId});
-}
-
 Seats SeatsAtTables(const QString& where, const QVariantList& values = {}) {
     Seats seats;
     const clsRecordset rs = gDB().Execute(
@@ -39,6 +22,23 @@ Seats SeatsAtTables(const QString& where, const QVariantList& values = {}) {
     for (int row = 0; row < rs.RowCount(); ++row)
         seats.insert(rs.Row(row).value(0), rs.Row(row).value(1));
     return seats;
+}
+
+// Where each of the people sits now, read at once; a key that is no contact throws.
+Seats CurrentSeats(const QStringList& contactIds) {
+    QVariantList keys(contactIds.cbegin(), contactIds.cend());
+    const QString marks = QStringList(contactIds.size(), QStringLiteral("?")).join(QLatin1Char(','));
+    const Seats seats = SeatsAtTables(QStringLiteral("CONTACT_ID IN (") + marks + QLatin1Char(')'), keys);
+    for (const QString& id : contactIds) {
+        if (!seats.contains(id))
+            throw clsDbError(QStringLiteral("There is no contact with the key %1.").arg(id), 0);
+    }
+    return seats;
+}
+
+void WriteSeat(const QString& contactId, const QString& tableId) {
+    gDB().Execute(QStringLiteral("UPDATE CONTACT SET DINING_TABLE_ID = ? WHERE CONTACT_ID = ?"),
+                  {RecordIO::ToDbValue(QStringLiteral("DINING_TABLE_ID"), tableId), contactId});
 }
 
 } // namespace

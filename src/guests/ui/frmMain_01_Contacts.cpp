@@ -1,14 +1,14 @@
 #include "guests/ui/frmMain_01_Contacts.h"
 
-#include "core/ShowMessage.h"
 #include "core/FilterCode.h"
+#include "core/ShowMessage.h"
 #include "core/clsApp.h"
 #include "core/clsDICT.h"
 #include "guests/clsCONTACT.h"
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmContact.h"
 #include "guests/ui/frmContactEmail.h"
-#include "guests/ui/modBulkDelete.h"
+#include "guests/ui/modBulkRun.h"
 #include "platform/clsShell.h"
 #include "reports/clsReportCatalogue.h"
 #include "reports/modReportRunner.h"
@@ -178,13 +178,13 @@ int frmMain_01_Contacts::DeleteSelected() {
         return 0;
     clsCONTACT first;
     RecordIO::Read([&] { return first.OpenRecord(QString::number(keys.first())); });
-    if (!modBulkDelete::Confirm(keys.size(), first.ListName(), QStringLiteral(" Contacts")))
+    if (!modBulkRun::Confirm(keys.size(), first.ListName(), QStringLiteral(" Contacts")))
         return 0;
     // The bride and the groom stay; nobody is told.
     clsDeleteResult result;
-    const bool ok = modBulkDelete::RunWithProgress(
+    const bool ok = modBulkRun::RunWithProgress(
         this, QStringLiteral("Deleting contacts…"), [&](const clsProgress& progress) {
-            result = clsCONTACT::DeleteMany(modBulkDelete::LastToFirst(keys), progress);
+            result = clsCONTACT::DeleteMany(modBulkRun::LastToFirst(keys), progress);
         });
     Reload();
     return ok ? static_cast<int>(keys.size() - result.Kept.size() - result.Missing.size()) : 0;
@@ -195,9 +195,9 @@ bool frmMain_01_Contacts::ChangeSelected(const std::function<void(clsCONTACT&)>&
     if (keys.isEmpty())
         return false;
     QStringList saved;
-    const bool ok = modBulkDelete::RunWithProgress(
+    const bool ok = modBulkRun::RunWithProgress(
         this, QStringLiteral("Saving contacts…"), [&](const clsProgress& progress) {
-            saved = clsCONTACT::ChangeMany(modBulkDelete::LastToFirst(keys), change, true, progress);
+            saved = clsCONTACT::ChangeMany(modBulkRun::LastToFirst(keys), change, true, progress);
         });
     if (ok) {
         for (const QString& id : saved)

@@ -1,13 +1,13 @@
 #include "guests/ui/frmMain_02_Invitations.h"
 
-#include "core/ShowMessage.h"
 #include "core/FilterCode.h"
+#include "core/ShowMessage.h"
 #include "core/clsApp.h"
 #include "guests/clsINVITE.h"
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmInvite.h"
 #include "guests/ui/frmInviteRSVPIDs.h"
-#include "guests/ui/modBulkDelete.h"
+#include "guests/ui/modBulkRun.h"
 #include "reports/clsReportCatalogue.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/grid/modGrid.h"
@@ -204,9 +204,9 @@ int frmMain_02_Invitations::MarkSelectedSent(bool sent) {
     if (keys.isEmpty())
         return 0;
     clsINVITE::SentResult result;
-    const bool ok = modBulkDelete::RunWithProgress(
+    const bool ok = modBulkRun::RunWithProgress(
         this, QStringLiteral("Saving invitations…"), [&](const clsProgress& progress) {
-            result = clsINVITE::MarkSent(modBulkDelete::LastToFirst(keys), sent, progress);
+            result = clsINVITE::MarkSent(modBulkRun::LastToFirst(keys), sent, progress);
         });
     if (!ok)
         return 0;
@@ -225,12 +225,12 @@ int frmMain_02_Invitations::DeleteSelected() {
         return 0;
     clsINVITE first;
     RecordIO::Read([&] { return first.OpenRecord(QString::number(keys.first())); });
-    if (!modBulkDelete::Confirm(keys.size(), first.DISPLAY_AS_TX, QStringLiteral(" Invitations")))
+    if (!modBulkRun::Confirm(keys.size(), first.DISPLAY_AS_TX, QStringLiteral(" Invitations")))
         return 0;
     clsDeleteResult result;
-    const bool ok = modBulkDelete::RunWithProgress(
+    const bool ok = modBulkRun::RunWithProgress(
         this, QStringLiteral("Deleting invitations…"), [&](const clsProgress& progress) {
-            result = clsINVITE::DeleteMany(modBulkDelete::LastToFirst(keys), true, progress);
+            result = clsINVITE::DeleteMany(modBulkRun::LastToFirst(keys), true, progress);
         });
     if (!result.Kept.isEmpty())
         ShowMessage(QStringLiteral("Unable to delete ") + QString::number(result.Kept.size()) +

@@ -8,7 +8,7 @@
 #include "guests/clsCONTACT.h"
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmAttendee.h"
-#include "guests/ui/modBulkDelete.h"
+#include "guests/ui/modBulkRun.h"
 #include "reports/clsReportCatalogue.h"
 #include "shell/controls/ControlIcons.h"
 #include "shell/controls/usrHyperlink.h"
@@ -287,10 +287,10 @@ bool frmMain_04_Attendees::ChangeSelected(const std::function<void(clsCONTACT&)>
     if (keys.isEmpty())
         return false;
     QStringList saved;
-    const bool ok = modBulkDelete::RunWithProgress(
+    const bool ok = modBulkRun::RunWithProgress(
         this, QStringLiteral("Saving attendees…"), [&](const clsProgress& progress) {
             // Neither meal nor side changes an envelope.
-            saved = clsCONTACT::ChangeMany(modBulkDelete::LastToFirst(keys), change, false, progress);
+            saved = clsCONTACT::ChangeMany(modBulkRun::LastToFirst(keys), change, false, progress);
         });
     if (ok) {
         for (const QString& id : std::as_const(saved)) {

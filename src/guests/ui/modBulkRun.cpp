@@ -1,4 +1,4 @@
-#include "guests/ui/modBulkDelete.h"
+#include "guests/ui/modBulkRun.h"
 
 #include "core/RecordIO.h"
 #include "core/ShowMessage.h"
@@ -9,7 +9,7 @@
 #include <QProgressDialog>
 #include <optional>
 
-namespace modBulkDelete {
+namespace modBulkRun {
 
 bool Confirm(qsizetype count, const QString& name, const QString& plural) {
     const QString subject = count == 1 ? QString(QLatin1Char('\'') + name + QLatin1Char('\''))
@@ -58,4 +58,4 @@ bool RunWithProgress(usrListPage* page, const QString& label,
     return false;
 }
 
-} // namespace modBulkDelete
+} // namespace modBulkRun

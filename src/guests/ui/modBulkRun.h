@@ -11,7 +11,7 @@ class usrListPage;
 
 // What the guest pages share when they delete or change a selection: the question, the order of the
 // keys, and the progress of a long run.
-namespace modBulkDelete {
+namespace modBulkRun {
 
 // "Delete 'Lee, Ann'?" for one record, "Delete 3 Contacts?" for more (plural: " Contacts"); true on Yes.
 bool Confirm(qsizetype count, const QString& name, const QString& plural);
@@ -22,4 +22,4 @@ QStringList LastToFirst(const QList<qint64>& keys);
 bool RunWithProgress(usrListPage* page, const QString& label,
                      const std::function<void(const clsProgress&)>& run);
 
-} // namespace modBulkDelete
+} // namespace modBulkRun
