@@ -5,9 +5,9 @@ set -euo pipefail
 
 VOWREN_PACKAGES=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-svg-dev libgl-dev libglx-dev
+    qt6-base-dev qt6-svg-dev qt6-charts-dev qt6-webengine-dev libgl-dev libglx-dev
     libsqlite3-dev libbenchmark-dev ccache lld
-    fonts-dejavu-core poppler-utils
+    fonts-dejavu-core poppler-utils python3-vobject
 )
 
 vowren_missing_packages() {

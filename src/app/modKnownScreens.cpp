@@ -3,6 +3,7 @@
 #include "app/modKnownScreens.h"
 
 #include "guests/ui/modGuestPages.h"
+#include "planning/ui/modPlanningPages.h"
 #include "reports/ui/modReportDialogs.h"
 #include "seating/ui/modSeatingPages.h"
 #include "shell/frmFeatureTour.h"
@@ -18,6 +19,7 @@
 #include "shell/options/frmOptions.h"
 #include "startup/ui/frmMain_00_Home.h"
 #include "startup/ui/frmMain_00_Welcome.h"
+#include "widgets/ui/modWidgetPages.h"
 
 #include <QDialog>
 
@@ -32,6 +34,8 @@ void RegisterKnownScreens() {
     RegisterReports(ShowReports);
     RegisterGuestPages();
     RegisterSeatingPages();
+    RegisterPlanningPages();
+    RegisterWidgetPages();
     RegisterReportScreens();
 
     modScreenshots::Register(QStringLiteral("frmAbout"), [] { return mdiMain::MakeAbout(nullptr); });

@@ -1,0 +1,7 @@
+#include "widgets/ui/modWidgetPages.h"
+
+#include "shell/modPages.h"
+#include "shell/modScreenshots.h"
+
+void RegisterWidgetPages() {
+}
