@@ -28,6 +28,7 @@ CliCommand SeatCommand();
 CliCommand UnseatCommand();
 CliCommand TablesCommand();
 CliCommand TentcardsCommand();
+CliCommand ImportCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

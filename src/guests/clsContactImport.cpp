@@ -254,7 +254,8 @@ clsImportTable clsContactImport::ReadFile(const QString& path, QChar delimiter) 
     try {
         if (clsVCardReader::LooksLikeVCard(bytes))
             return clsVCardReader::Read(bytes);
-        return clsCSVReader::Read(CsvText(path, bytes), delimiter);
+        const QString text = CsvText(path, bytes);
+        return clsCSVReader::Read(text, delimiter.isNull() ? clsCSVReader::GuessDelimiter(text) : delimiter);
     } catch (const clsDbError& e) {
         if (e.Message().startsWith(QDir::toNativeSeparators(path)))
             throw;

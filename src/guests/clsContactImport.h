@@ -50,7 +50,8 @@ struct clsImportResult {
 class clsContactImport {
 public:
     // The file as a table. Throws clsDbError with a message that names the file and the line: a file
-    // missing, empty, binary, too big, cut short or in an encoding nobody knows.
+    // missing, empty, binary, too big, cut short or in an encoding nobody knows. A null delimiter is
+    // guessed from the first line.
     static clsImportTable ReadFile(const QString& path, QChar delimiter);
     // True when the file holds vCards rather than comma-separated values.
     static bool IsVCardFile(const QString& path);

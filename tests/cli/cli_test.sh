@@ -221,6 +221,31 @@ check "unseat needs keys" 2 'usage: unseat ID' "$cli" unseat
 check "unseat one" 0 "^Unseated: ${ids[0]}$" "$cli" unseat "${ids[0]}"
 check "tables after unseating one" 0 '^Table #1: 11 of 12 seats taken$' "$cli" tables
 
+# Importing contacts: CSV or vCard by content, the suggested mapping or --map, all or nothing.
+"$cli" init >/dev/null
+imports="$home/import files"
+mkdir -p "$imports"
+printf 'First Name,Last Name,E-mail 1 - Value,Phone 1 - Value,Address 1 - Postal Code,Title,RSVP ID\r\nJohn,Smith,js@x.example,555-1 ::: 555-9,1970,Mr.,41\r\nMary,Smith,,,,Mrs.,41\r\n"Zoë ""Z""",Lee,,,,,\r\n' >"$imports/google export.txt"
+contacts_before=$(value "SELECT COUNT(*) FROM CONTACT")
+check "import dry run prints the preview" 0 '^"Mr\.","John",,"Smith",,,,,"1970",,,"js@x\.example","555-1",' "$cli" import "$imports/google export.txt" --dry-run
+check "a dry run changes nothing" 0 "^$contacts_before\$" value "SELECT COUNT(*) FROM CONTACT"
+check "import a Google file" 0 '^Added 3 contacts, replaced 0, left out 0; made 1 invitations$' "$cli" import "$imports/google export.txt" --five-digit-zip
+check "the couple's envelope" 0 '^Mr\. and Mrs\. John Smith$' value "SELECT OUTER_ENVELOPE_TX FROM INVITE WHERE INVITE_RSVP_ID = 41"
+check "the zip has five digits" 0 '01970' value "SELECT ADDRESS_TX FROM CONTACT WHERE EMAIL_TX = 'js@x.example'"
+check "again, replacing" 0 '^Added 0 contacts, replaced 3,' "$cli" import "$imports/google export.txt"
+check "again, allowing duplicates" 0 '^Added 3 contacts, replaced 0,' "$cli" import "$imports/google export.txt" --duplicates allow
+check "the names as they stood" 0 '^2$' value "SELECT COUNT(*) FROM CONTACT WHERE FIRST_NM = 'Zoë \"Z\"'"
+printf 'BEGIN:VCARD\r\nVERSION:3.0\r\nN:Okafor;Ada;;;\r\nTEL;TYPE=cell:555-7\r\nEND:VCARD\r\n' >"$imports/card.csv"
+check "a vCard by its content" 0 '^Added 1 contacts' "$cli" import "$imports/card.csv"
+printf 'Given;Cell\nBo;555-3\n' >"$imports/mapped.csv"
+check "import with --map" 0 '^,"Bo",,,,,,,,,,,"555-3",' "$cli" import "$imports/mapped.csv" --delimiter ';' --map "Given=FIRST_NM" --map "cell=PHONE_TX" --dry-run
+printf 'First,Last\nAnn,Lee\n"Bo,Li\n' >"$imports/broken.csv"
+contacts_before=$(value "SELECT COUNT(*) FROM CONTACT")
+check "a broken file is refused by file and line" 1 'broken\.csv, line 3: .*Nothing was imported\.$' "$cli" import "$imports/broken.csv"
+check "nothing of a broken file remains" 0 "^$contacts_before\$" value "SELECT COUNT(*) FROM CONTACT"
+check "import with a bad option" 2 'usage: import FILE' "$cli" import "$imports/mapped.csv" --duplicates sometimes
+check "import with an unknown field" 1 '"FAX_TX" is no field' "$cli" import "$imports/mapped.csv" --map "Cell=FAX_TX"
+
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
 check "the damaged file is untouched" 0 'not a database at all' cat "$home/Database/Vowren.quilldata"
