@@ -3,7 +3,6 @@
 
 #include "core/ShowMessage.h"
 #include "core/clsDB.h"
-#include "core/modGeneral.h"
 #include "guests/clsContactImport.h"
 
 #include <optional>
@@ -81,16 +80,9 @@ QList<clsIMPORT_FIELD> MappingOf(const clsImportTable& table, const ImportArgs& 
 
 // The preview as CSV under the captions of the fields, as the template has them.
 void PrintPreview(const QList<clsImportRow>& rows, QTextStream& out) {
-    QStringList line;
-    for (const clsIMPORT_FIELD::SystemField& field : clsIMPORT_FIELD::SystemFields())
-        line << QuoteCSV(field.Caption);
-    out << line.join(QLatin1Char(',')) << '\n';
-    for (const clsImportRow& row : rows) {
-        line.clear();
-        for (const clsIMPORT_FIELD::SystemField& field : clsIMPORT_FIELD::SystemFields())
-            line << QuoteCSV(row.Field(field.Field));
-        out << line.join(QLatin1Char(',')) << '\n';
-    }
+    out << clsContactImport::CaptionsCsvRecord() << '\n';
+    for (const clsImportRow& row : rows)
+        out << row.CsvRecord() << '\n';
 }
 
 int RunImport(const QStringList& argList, QTextStream& out, QTextStream& err) {

@@ -1,5 +1,7 @@
 #include "guests/clsContactImport.h"
 
+#include "core/clsApp.h"
+#include "core/modGeneral.h"
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
 #include "guests/clsParseAddress.h"
@@ -229,6 +231,20 @@ QString& clsImportRow::Field(const QString& field) {
     return this->*member;
 }
 
+QString clsImportRow::CsvRecord() const {
+    QStringList values;
+    for (const clsIMPORT_FIELD::SystemField& field : clsIMPORT_FIELD::SystemFields())
+        values << QuoteCSV(Field(field.Field));
+    return values.join(QLatin1Char(','));
+}
+
+QString clsContactImport::CaptionsCsvRecord() {
+    QStringList captions;
+    for (const clsIMPORT_FIELD::SystemField& field : clsIMPORT_FIELD::SystemFields())
+        captions << QuoteCSV(field.Caption);
+    return captions.join(QLatin1Char(','));
+}
+
 // ---- Reading the file --------------------------------------------------------------------------------
 
 bool clsContactImport::IsVCardFile(const QString& path) {
@@ -261,6 +277,19 @@ clsImportTable clsContactImport::ReadFile(const QString& path, QChar delimiter) 
             throw;
         throw clsDbError(QDir::toNativeSeparators(path) + QStringLiteral(", ") + e.Message(), e.Code());
     }
+}
+
+QString clsContactImport::TemplateFile() {
+    const QString path = QDir(gApp().TemplatePath()).filePath(QStringLiteral("Contacts.csv"));
+    if (QFile::exists(path))
+        return path;
+    QFile file(path);
+    if (!QDir().mkpath(gApp().TemplatePath()) || !file.open(QIODevice::WriteOnly))
+        throw clsDbError(QStringLiteral("The template %1 cannot be written: %2")
+                             .arg(QDir::toNativeSeparators(path), file.errorString()),
+                         0);
+    file.write("\xEF\xBB\xBF" + CaptionsCsvRecord().toUtf8() + "\r\n");
+    return path;
 }
 
 // ---- The mapping ------------------------------------------------------------------------------------
@@ -304,13 +333,14 @@ void clsContactImport::MapColumn(QList<clsIMPORT_FIELD>& mapping, const QString&
     auto named = std::find_if(mapping.begin(), mapping.end(), [&](const clsIMPORT_FIELD& c) {
         return c.IMPORT_FIELD_NM.compare(column, Qt::CaseInsensitive) == 0;
     });
-    if (named == mapping.end())
+    if (named == mapping.end() && !column.isEmpty())
         throw clsDbError(QStringLiteral("The file has no column \"%1\".").arg(column), 0);
     for (clsIMPORT_FIELD& other : mapping) {
         if (other.MAP_IMPORT_FIELD_NM == field)
             other.MAP_IMPORT_FIELD_NM.clear();
     }
-    named->MAP_IMPORT_FIELD_NM = field;
+    if (named != mapping.end())
+        named->MAP_IMPORT_FIELD_NM = field;
 }
 
 // ---- The preview ------------------------------------------------------------------------------------

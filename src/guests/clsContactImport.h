@@ -28,6 +28,8 @@ struct clsImportRow {
     // The value of a system field by its name (TITLE_TX ... RSVP_ID).
     QString Field(const QString& field) const;
     QString& Field(const QString& field);
+    // The values of the system's fields as one CSV record, in the order of the mapping grid.
+    QString CsvRecord() const;
 };
 Q_DECLARE_TYPEINFO(clsImportRow, Q_RELOCATABLE_TYPE);
 
@@ -61,7 +63,8 @@ public:
     static QList<clsIMPORT_FIELD> SuggestedMapping(const QStringList& headers);
     // Puts a mapping into IMPORT_FIELD in place of whatever stood there, as one piece of work.
     static void SaveMapping(const QList<clsIMPORT_FIELD>& mapping);
-    // Maps a column (by its name, any case) to a field, freeing the field from any other column. Throws
+    // Maps a column (by its name, any case) to a field, freeing the field from any other column; an empty
+    // column name only frees the field. Throws
     // clsDbError for a column the file doesn't have or a field the import doesn't know.
     static void MapColumn(QList<clsIMPORT_FIELD>& mapping, const QString& column, const QString& field);
 
@@ -82,6 +85,12 @@ public:
 
     // The file's values as the contact keeps them (names, A-B list, friend of, flags, zip, address).
     static void FillContact(clsCONTACT& contact, const clsImportRow& row, bool isNew, bool fiveDigitZip);
+
+    // The captions of the system's fields as one CSV record: the template's header.
+    static QString CaptionsCsvRecord();
+    // The template of a file to fill by hand: Templates/Contacts.csv, its header the captions of the fields
+    // (written when it is missing). Its path; throws clsDbError when it can't be written.
+    static QString TemplateFile();
 
     // A file bigger than this is no address book: it is refused before it is read.
     static constexpr qint64 kMaxFileBytes = 32 * 1024 * 1024;
