@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <QTextStream>
 #include <functional>
+#include <optional>
 #include <vector>
 
 // One command of vowren-cli: its name, a line of help, and what it does with the arguments after it.
@@ -41,6 +42,9 @@ bool StartForReading(QTextStream& err);
 
 // Prints every table with its seats taken, "Table #n: t of s seats taken"; the exit status.
 int ListTables(QTextStream& out, QTextStream& err);
+
+// The value after the option at i, moving i past it; nothing when the option ends the line.
+std::optional<QString> OptionValue(const QStringList& args, qsizetype& i);
 
 // Keys and numbers on the command line: whole numbers above 0, at least one of them.
 bool AreKeys(const QStringList& keys);

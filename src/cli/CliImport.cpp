@@ -5,13 +5,11 @@
 #include "core/clsDB.h"
 #include "guests/clsContactImport.h"
 
-#include <optional>
-
 namespace {
 
-const QString kUsage = QStringLiteral(
-    "import FILE [--delimiter ','|';'|'\\t'] [--duplicates allow|replace] [--five-digit-zip] "
-    "[--map \"File column=FIELD_NM\"]... [--dry-run]");
+const QString kUsage =
+    QStringLiteral("import FILE [--delimiter ','|';'|'\\t'] [--duplicates allow|replace] [--five-digit-zip] "
+                   "[--map \"File column=FIELD_NM\"]... [--dry-run]");
 
 struct ImportArgs {
     QString File;
@@ -33,11 +31,7 @@ QChar DelimiterOf(const QString& text) {
 QString ParseArgs(const QStringList& args, ImportArgs& parsed) {
     for (qsizetype i = 0; i < args.size(); ++i) {
         const QString& arg = args.at(i);
-        const auto value = [&]() -> std::optional<QString> {
-            if (i + 1 >= args.size())
-                return std::nullopt;
-            return args.at(++i);
-        };
+        const auto value = [&] { return OptionValue(args, i); };
         if (arg == QLatin1String("--five-digit-zip")) {
             parsed.Options.FiveDigitZip = true;
         } else if (arg == QLatin1String("--dry-run")) {
@@ -117,9 +111,10 @@ int RunImport(const QStringList& argList, QTextStream& out, QTextStream& err) {
 } // namespace
 
 CliCommand ImportCommand() {
-    return {QStringLiteral("import"), kUsage,
-            QStringLiteral("Import contacts from a CSV or vCard file with the suggested mapping (or --map), one "
-                           "invitation per run of rows with one RSVP ID; all or nothing. --dry-run prints the "
-                           "preview as CSV and changes nothing."),
-            RunImport};
+    return {
+        QStringLiteral("import"), kUsage,
+        QStringLiteral("Import contacts from a CSV or vCard file with the suggested mapping (or --map), one "
+                       "invitation per run of rows with one RSVP ID; all or nothing. --dry-run prints the "
+                       "preview as CSV and changes nothing."),
+        RunImport};
 }

@@ -62,7 +62,8 @@ public:
             }
         }
         if (quoted)
-            Refuse(startLine, QStringLiteral("a field opened with a double quote on this line is never closed"));
+            Refuse(startLine,
+                   QStringLiteral("a field opened with a double quote on this line is never closed"));
         fields << field;
         return fields;
     }

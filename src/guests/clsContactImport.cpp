@@ -54,7 +54,8 @@ RowField MemberOf(const QString& field) {
 }
 
 [[noreturn]] void Refuse(const QString& path, int line, const QString& why) {
-    throw clsDbError(QStringLiteral("%1, line %2: %3").arg(QDir::toNativeSeparators(path)).arg(line).arg(why), 0);
+    throw clsDbError(QStringLiteral("%1, line %2: %3").arg(QDir::toNativeSeparators(path)).arg(line).arg(why),
+                     0);
 }
 
 // The first byte that Windows-1252 has no character for.
@@ -145,25 +146,62 @@ QString FriendOf(const QString& value, const QString& kept) {
 }
 
 QString FiveDigits(const QString& zip) {
-    const bool digits = !zip.isEmpty() && std::all_of(zip.begin(), zip.end(), [](QChar c) { return c.isDigit(); });
+    const bool digits =
+        !zip.isEmpty() && std::all_of(zip.begin(), zip.end(), [](QChar c) { return c.isDigit(); });
     return digits && zip.size() < 5 ? zip.rightJustified(5, QLatin1Char('0')) : zip;
+}
+
+// The invitations that OpenRecordByRSVP_ID finds, by RSVP ID, read once for the whole import: the first of
+// each number that has a primary contact.
+QHash<QString, QString> InvitationsByRSVP() {
+    QHash<QString, QString> invitations;
+    gDB().Stream(QStringLiteral("SELECT INVITE.INVITE_RSVP_ID, INVITE.INVITE_ID FROM INVITE INNER JOIN CONTACT ON "
+                                "INVITE.INVITE_ID = CONTACT.INVITE_ID WHERE CONTACT.PRIMARY_CONTACT_FG = 'Y' AND "
+                                "INVITE.INVITE_RSVP_ID IS NOT NULL ORDER BY INVITE.INVITE_ID"),
+                 {}, [](const QStringList&) {},
+                 [&](QStringList& row) {
+                     if (!invitations.contains(row.value(0)))
+                         invitations.insert(row.value(0), row.value(1));
+                 });
+    return invitations;
+}
+
+// A new invitation for people who had none of this number: labelled from them as they stand, then saved,
+// and each of them put on it in the order of the file, the first primary.
+void NewInvitation(clsINVITE& invite, QList<clsCONTACT> people) {
+    for (qsizetype i = 0; i < people.size(); ++i) {
+        people[i].SORT_ORDER_NB = QString::number(i + 1);
+        people[i].PRIMARY_CONTACT_FG = i == 0 ? QStringLiteral("Y") : QStringLiteral("N");
+        if (!clsCONTACT::IsCouple(people[i].CONTACT_ID, people[i].ROLE_ID))
+            invite.GUESTS.append(people[i]);
+    }
+    invite.RefreshLabeling(false, false);
+    invite.Save(true);
+    for (clsCONTACT& person : people) {
+        person.INVITE_ID = invite.INVITE_ID;
+        person.Save(false, false);
+    }
 }
 
 // The people of one RSVP ID, put on the invitation of that ID (made when there is none) in the order of
 // the file, the first of them primary; the invitations they left are noted.
-void JoinInvitation(const QString& rsvpId, const QList<clsCONTACT>& people, QSet<QString>& left,
-                    QSet<QString>& joined) {
+void JoinInvitation(const QString& rsvpId, const QList<clsCONTACT>& people, QHash<QString, QString>& byRSVP,
+                    QSet<QString>& left, QSet<QString>& joined) {
     clsINVITE invite;
-    const bool found = invite.OpenRecordByRSVP_ID(rsvpId, false);
-    if (!found)
-        invite.INVITE_RSVP_ID = rsvpId;
+    const bool found = invite.OpenRecord(byRSVP.value(rsvpId), false);
     for (const clsCONTACT& person : people) {
         if (!person.INVITE_ID.isEmpty() && person.INVITE_ID != invite.INVITE_ID)
             left.insert(person.INVITE_ID);
     }
-    invite.SaveWithPeople(!found, people);
-    invite.RefreshLabeling(true, false);
-    invite.Save(false);
+    if (found) {
+        invite.SaveWithPeople(false, people);
+        invite.RefreshLabeling(true, false);
+        invite.Save(false);
+    } else {
+        invite.INVITE_RSVP_ID = rsvpId;
+        NewInvitation(invite, people);
+        byRSVP.insert(rsvpId, invite.INVITE_ID);
+    }
     joined.insert(invite.INVITE_ID);
 }
 
@@ -172,7 +210,8 @@ void RelabelLeftInvitations(const QSet<QString>& left, const QSet<QString>& join
     for (const QString& inviteId : left) {
         if (joined.contains(inviteId))
             continue;
-        if (RecordIO::Count(QStringLiteral("SELECT COUNT(*) FROM CONTACT WHERE INVITE_ID = ?"), {inviteId}) == 0) {
+        if (RecordIO::Count(QStringLiteral("SELECT COUNT(*) FROM CONTACT WHERE INVITE_ID = ?"), {inviteId}) ==
+            0) {
             clsINVITE::Delete(inviteId);
             continue;
         }
@@ -187,6 +226,7 @@ void RelabelLeftInvitations(const QSet<QString>& left, const QSet<QString>& join
 
 // Consecutive contacts of one non-empty RSVP ID make one invitation; the number made.
 int GroupByRSVP(const QList<clsCONTACT>& contacts, const QStringList& rsvpIds) {
+    QHash<QString, QString> byRSVP = InvitationsByRSVP();
     QSet<QString> left;
     QSet<QString> joined;
     int made = 0;
@@ -196,7 +236,7 @@ int GroupByRSVP(const QList<clsCONTACT>& contacts, const QStringList& rsvpIds) {
         while (end < contacts.size() && !id.isEmpty() && rsvpIds.at(end) == id)
             ++end;
         if (!id.isEmpty()) {
-            JoinInvitation(id, contacts.mid(i, end - i), left, joined);
+            JoinInvitation(id, contacts.mid(i, end - i), byRSVP, left, joined);
             ++made;
         }
         i = end;
@@ -257,10 +297,11 @@ clsImportTable clsContactImport::ReadFile(const QString& path, QChar delimiter) 
     if (!file.exists())
         Refuse(path, 1, QStringLiteral("there is no such file"));
     if (file.size() > kMaxFileBytes)
-        Refuse(path, 1, QStringLiteral("the file is %1 MB; a file of contacts is never above %2 MB, so this is "
-                                       "not one")
-                            .arg(file.size() / (1024 * 1024))
-                            .arg(kMaxFileBytes / (1024 * 1024)));
+        Refuse(path, 1,
+               QStringLiteral("the file is %1 MB; a file of contacts is never above %2 MB, so this is "
+                              "not one")
+                   .arg(file.size() / (1024 * 1024))
+                   .arg(kMaxFileBytes / (1024 * 1024)));
     if (!file.open(QIODevice::ReadOnly))
         Refuse(path, 1, QStringLiteral("the file cannot be read (%1)").arg(file.errorString()));
     const QByteArray bytes = file.readAll();
@@ -320,15 +361,17 @@ void clsContactImport::SaveMapping(const QList<clsIMPORT_FIELD>& mapping) {
     tx.Commit();
 }
 
-void clsContactImport::MapColumn(QList<clsIMPORT_FIELD>& mapping, const QString& column, const QString& field) {
+void clsContactImport::MapColumn(QList<clsIMPORT_FIELD>& mapping, const QString& column,
+                                 const QString& field) {
     if (!MemberOf(field))
         throw clsDbError(QStringLiteral("\"%1\" is no field the import fills; the fields are %2.")
-                             .arg(field, [] {
-                                 QStringList names;
-                                 for (const auto& entry : RowFields())
-                                     names << entry.first;
-                                 return names.join(QStringLiteral(", "));
-                             }()),
+                             .arg(field,
+                                  [] {
+                                      QStringList names;
+                                      for (const auto& entry : RowFields())
+                                          names << entry.first;
+                                      return names.join(QStringLiteral(", "));
+                                  }()),
                          0);
     auto named = std::find_if(mapping.begin(), mapping.end(), [&](const clsIMPORT_FIELD& c) {
         return c.IMPORT_FIELD_NM.compare(column, Qt::CaseInsensitive) == 0;
@@ -345,7 +388,8 @@ void clsContactImport::MapColumn(QList<clsIMPORT_FIELD>& mapping, const QString&
 
 // ---- The preview ------------------------------------------------------------------------------------
 
-QList<clsImportRow> clsContactImport::Preview(const clsImportTable& table, const QList<clsIMPORT_FIELD>& mapping) {
+QList<clsImportRow> clsContactImport::Preview(const clsImportTable& table,
+                                              const QList<clsIMPORT_FIELD>& mapping) {
     struct Source {
         int Index;
         RowField Member;
@@ -385,7 +429,8 @@ void clsContactImport::MarkDuplicates(QList<clsImportRow>& rows) {
 
 // ---- The import -------------------------------------------------------------------------------------
 
-void clsContactImport::FillContact(clsCONTACT& contact, const clsImportRow& row, bool isNew, bool fiveDigitZip) {
+void clsContactImport::FillContact(clsCONTACT& contact, const clsImportRow& row, bool isNew,
+                                   bool fiveDigitZip) {
     const auto take = [isNew](QString& target, const QString& value) {
         if (isNew || !value.isEmpty())
             target = value;
@@ -434,7 +479,8 @@ clsImportResult clsContactImport::Import(const QList<clsImportRow>& rows, const 
             clsCONTACT contact;
             const bool isNew = !(options.ReplaceDuplicates && contact.OpenRecord(row.DuplicateOf));
             FillContact(contact, row, isNew, options.FiveDigitZip);
-            contact.Save(isNew, !isNew);
+            // A person with an RSVP ID is labelled with the rest of the invitation below.
+            contact.Save(isNew, !isNew && row.RSVP_ID.isEmpty());
             ++(isNew ? result.Added : result.Replaced);
             contacts << contact;
             rsvpIds << row.RSVP_ID;

@@ -10,8 +10,24 @@
 
 namespace {
 
-enum Column { Title, First, Middle, Last, Suffix, Address, City, State, Zip, Country, Nickname, Email, Phone,
-              Phone2, Notes, ColumnCount };
+enum Column {
+    Title,
+    First,
+    Middle,
+    Last,
+    Suffix,
+    Address,
+    City,
+    State,
+    Zip,
+    Country,
+    Nickname,
+    Email,
+    Phone,
+    Phone2,
+    Notes,
+    ColumnCount
+};
 
 [[noreturn]] void Refuse(int line, const QString& why) {
     throw clsDbError(QStringLiteral("line %1: %2").arg(line).arg(why), 0);
@@ -84,8 +100,8 @@ QByteArray DecodeQuotedPrintable(const QByteArray& text) {
 
 // One property: "item1.TEL;TYPE=home,voice;PREF=1:+1 555 0100" read as its name, types and parameters.
 struct Property {
-    QString Name;                  // upper case, without its group
-    QStringList Types;             // upper case: TYPE values and the bare parameters of 2.1
+    QString Name;                   // upper case, without its group
+    QStringList Types;              // upper case: TYPE values and the bare parameters of 2.1
     QHash<QString, QString> Params; // by upper-case name
     QByteArray Raw;
     int Line = 0;
@@ -246,7 +262,9 @@ private:
             number.remove(0, 4);
         if (number.isEmpty())
             return;
-        QStringList& list = property.Is("CELL") ? mCellPhones : property.Is("HOME") ? mHomePhones : mOtherPhones;
+        QStringList& list = property.Is("CELL")   ? mCellPhones
+                            : property.Is("HOME") ? mHomePhones
+                                                  : mOtherPhones;
         list << number;
     }
 
@@ -300,9 +318,9 @@ bool IsMarker(const Property& property, const char* name, const char* value) {
 } // namespace
 
 const QStringList& clsVCardReader::Headers() {
-    static const QStringList headers = {"Title",   "First",    "Middle", "Last",  "Suffix",
-                                        "Address", "City",     "State",  "Zip",   "Country",
-                                        "Nickname", "E-mail",  "Phone",  "Phone 2", "Notes"};
+    static const QStringList headers = {"Title",    "First",  "Middle", "Last",    "Suffix",
+                                        "Address",  "City",   "State",  "Zip",     "Country",
+                                        "Nickname", "E-mail", "Phone",  "Phone 2", "Notes"};
     return headers;
 }
 

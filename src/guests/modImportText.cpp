@@ -55,8 +55,8 @@ bool IsUtf16(const QByteArray& bytes) {
 }
 
 QString DecodeUtf16(const QByteArray& bytes) {
-    const bool bigEndian = StartsWith(bytes, {0xFE, 0xFF}) ||
-                           (!StartsWith(bytes, {0xFF, 0xFE}) && ZeroByteSide(bytes) < 0);
+    const bool bigEndian =
+        StartsWith(bytes, {0xFE, 0xFF}) || (!StartsWith(bytes, {0xFF, 0xFE}) && ZeroByteSide(bytes) < 0);
     QStringDecoder decoder(bigEndian ? QStringConverter::Utf16BE : QStringConverter::Utf16LE);
     QString text = decoder(bytes);
     if (text.startsWith(QChar(0xFEFF)))

@@ -73,16 +73,16 @@ private slots:
         QTest::newRow("tab, CR alone") << QByteArray("First\tLast\rAnn\tLee\rBo\tLi") << QChar('\t') << fl
                                        << QStringList{"Bo", "Li"} << 2 << 3;
         QTest::newRow("quotes: delimiter, doubled quote, line breaks")
-            << QByteArray("First,Last\r\n\"Ann, \"\"Nan\"\"\",\"Lee\nSmith\r\nJones\"\r\nBo,Li\r\n") << QChar(',')
-            << fl << QStringList{"Bo", "Li"} << 2 << 5;
+            << QByteArray("First,Last\r\n\"Ann, \"\"Nan\"\"\",\"Lee\nSmith\r\nJones\"\r\nBo,Li\r\n")
+            << QChar(',') << fl << QStringList{"Bo", "Li"} << 2 << 5;
         QTest::newRow("quoted line breaks kept as CR LF")
             << QByteArray("First,Last\n\"Ann\nMarie\",Lee\n") << QChar(',') << fl
             << QStringList{"Ann\r\nMarie", "Lee"} << 1 << 2;
         QTest::newRow("UTF-8 with BOM, any script and emoji")
             << QByteArray("\xEF\xBB\xBF") + QString::fromUtf8("First,Last\nZoë 💍,Ōtsuka 大塚\n").toUtf8()
             << QChar(',') << fl << Card({"Zoë 💍", "Ōtsuka 大塚"}) << 1 << 2;
-        QTest::newRow("UTF-8 without BOM") << QString::fromUtf8("First,Last\nJosé,Núñez\n").toUtf8() << QChar(',')
-                                           << fl << Card({"José", "Núñez"}) << 1 << 2;
+        QTest::newRow("UTF-8 without BOM") << QString::fromUtf8("First,Last\nJosé,Núñez\n").toUtf8()
+                                           << QChar(',') << fl << Card({"José", "Núñez"}) << 1 << 2;
         QTest::newRow("UTF-16 LE with BOM")
             << Utf16(QString::fromUtf8("First,Last\r\nRenée,Ça 😀\r\n"), false, true) << QChar(',') << fl
             << Card({"Renée", "Ça 😀"}) << 1 << 2;
@@ -94,14 +94,14 @@ private slots:
                                       << fl << Card({"René’s €", "Müller"}) << 1 << 2;
         QTest::newRow("blank and repeated column names")
             << QByteArray("Phone,,phone, Phone \nA,B,C,D\n") << QChar(',')
-            << QStringList{"Phone", "Column 2", "phone (2)", "Phone (3)"} << QStringList{"A", "B", "C", "D"} << 1
-            << 2;
+            << QStringList{"Phone", "Column 2", "phone (2)", "Phone (3)"} << QStringList{"A", "B", "C", "D"}
+            << 1 << 2;
         QTest::newRow("short row filled, long row cut")
-            << QByteArray("First,Last\nAnn\nBo,Li,extra\n") << QChar(',') << fl << QStringList{"Bo", "Li"} << 2
-            << 3;
+            << QByteArray("First,Last\nAnn\nBo,Li,extra\n") << QChar(',') << fl << QStringList{"Bo", "Li"}
+            << 2 << 3;
         QTest::newRow("empty lines and empty records passed over")
-            << QByteArray("\nFirst,Last\n\n,\nAnn,Lee\n,,\n") << QChar(',') << fl << QStringList{"Ann", "Lee"} << 1
-            << 5;
+            << QByteArray("\nFirst,Last\n\n,\nAnn,Lee\n,,\n") << QChar(',') << fl << QStringList{"Ann", "Lee"}
+            << 1 << 5;
     }
     void csvFiles() {
         QFETCH(QByteArray, bytes);
@@ -119,14 +119,16 @@ private slots:
         QTest::addColumn<QString>("reason");
         QTest::newRow("empty") << QByteArray() << "line 1: the file is empty";
         QTest::newRow("blanks only") << QByteArray(" \r\n\t\n") << "line 1: the file is empty";
-        QTest::newRow("binary") << QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16) << "line 3: the file holds binary";
+        QTest::newRow("binary") << QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16)
+                                << "line 3: the file holds binary";
         QTest::newRow("header only") << QByteArray("First,Last\r\n") << "header line but no contacts";
         QTest::newRow("quote never closed") << QByteArray("First,Last\nAnn,Lee\n\"Bo,Li\nCy,Wu\n")
                                             << "line 3: a field opened with a double quote";
         QTest::newRow("row of 100,000 characters")
-            << QByteArray("First,Last\nAnn,Lee\nBo,") + QByteArray(100000, 'x') + "\n" << "line 3: a row of more";
-        QTest::newRow("no known encoding") << QByteArray("First,Last\nAnn,Lee\nB\x81o,Li\n")
-                                           << "line 3: the text is neither UTF-8";
+            << QByteArray("First,Last\nAnn,Lee\nBo,") + QByteArray(100000, 'x') + "\n"
+            << "line 3: a row of more";
+        QTest::newRow("no known encoding")
+            << QByteArray("First,Last\nAnn,Lee\nB\x81o,Li\n") << "line 3: the text is neither UTF-8";
         QTest::newRow("card without END:VCARD")
             << QByteArray("BEGIN:VCARD\nFN:Ann Lee\nEND:VCARD\nBEGIN:VCARD\nFN:Bo Li\n")
             << "line 4: the card that begins here has no END:VCARD";
@@ -136,8 +138,8 @@ private slots:
         QTest::newRow("unknown character set")
             << QByteArray("BEGIN:VCARD\nVERSION:2.1\nN;CHARSET=X-NOBODY:Lee;Ann\nEND:VCARD\n")
             << "line 3: the character set \"X-NOBODY\" is unknown";
-        QTest::newRow("cards without names") << QByteArray("BEGIN:VCARD\nTEL:1\nEND:VCARD\n")
-                                             << "none of the 1 cards holds a name";
+        QTest::newRow("cards without names")
+            << QByteArray("BEGIN:VCARD\nTEL:1\nEND:VCARD\n") << "none of the 1 cards holds a name";
     }
     void refused() {
         QFETCH(QByteArray, bytes);
@@ -149,7 +151,8 @@ private slots:
         } catch (const clsDbError& e) {
             message = e.Message();
         }
-        QVERIFY2(message.startsWith(QDir::toNativeSeparators(path) + QStringLiteral(", ")), qPrintable(message));
+        QVERIFY2(message.startsWith(QDir::toNativeSeparators(path) + QStringLiteral(", ")),
+                 qPrintable(message));
         QVERIFY2(message.contains(reason), qPrintable(message));
     }
 
@@ -180,28 +183,31 @@ private slots:
                           "ADR;TYPE=work:;;1 Office Park;Boston;MA;02101;USA\r\n"
                           "ADR;TYPE=home:;Apt 4;12 Oak St\\, Rear;Salem;MA;01970;USA\r\n"
                           "NOTE:Allergic to nuts\\; loves jazz\\nSecond line\\, too\r\nEND:VCARD\r\n")
-            << Card({"Dr.", "Ann", "Marie", "Lee", "PhD", "12 Oak St, Rear\r\nApt 4", "Salem", "MA", "01970", "USA",
-                     "Annie", "ann@home.example", "555-0101", "555-0102",
+            << Card({"Dr.", "Ann", "Marie", "Lee", "PhD", "12 Oak St, Rear\r\nApt 4", "Salem", "MA", "01970",
+                     "USA", "Annie", "ann@home.example", "555-0101", "555-0102",
                      "Allergic to nuts; loves jazz\r\nSecond line, too"});
         QTest::newRow("2.1: quoted-printable, soft breaks, Latin-1, bare types")
-            << QByteArray("BEGIN:VCARD\nVERSION:2.1\nN;CHARSET=ISO-8859-1;ENCODING=QUOTED-PRINTABLE:M=FCller;Ren=\n"
-                          "=E9e\nTEL;CELL:+49 170 1\nTEL;WORK;VOICE:+49 30 2\nEMAIL;INTERNET:r@x.example\n"
-                          "EMAIL;PREF;INTERNET:rene@x.example\n"
-                          "NOTE;ENCODING=QUOTED-PRINTABLE;CHARSET=UTF-8:Gr=C3=BC=C3=9Fe=0D=0Aaus Berlin\n"
-                          "END:VCARD\n")
+            << QByteArray(
+                   "BEGIN:VCARD\nVERSION:2.1\nN;CHARSET=ISO-8859-1;ENCODING=QUOTED-PRINTABLE:M=FCller;Ren=\n"
+                   "=E9e\nTEL;CELL:+49 170 1\nTEL;WORK;VOICE:+49 30 2\nEMAIL;INTERNET:r@x.example\n"
+                   "EMAIL;PREF;INTERNET:rene@x.example\n"
+                   "NOTE;ENCODING=QUOTED-PRINTABLE;CHARSET=UTF-8:Gr=C3=BC=C3=9Fe=0D=0Aaus Berlin\n"
+                   "END:VCARD\n")
             << Card({"", "Renée", "", "Müller", "", "", "", "", "", "", "", "rene@x.example", "+49 170 1",
                      "+49 30 2", "Grüße\r\naus Berlin"});
         QTest::newRow("4.0: folded lines, grouped address, uri telephone, PREF=1")
-            << QByteArray("BEGIN:VCARD\r\nVERSION:4.0\r\nN:Nakamura;Yui;;;\r\nEMAIL:a@x.example\r\n"
-                          "EMAIL;PREF=1:yui@x.exa\r\n mple\r\nTEL;VALUE=uri;TYPE=home:tel:+81-3-1234\r\n"
-                          "item1.ADR:;;1-2-3 Gin\r\n\tza;Chuo;Tokyo;104-0061;Japan\r\nitem1.X-ABLabel:other\r\n"
-                          "PHOTO;ENCODING=b;TYPE=JPEG:/9j/4AAQSkZJRgABAQ\r\n AAAQABAAD\r\nX-UNKNOWN;A=B:C\r\n"
-                          "END:VCARD\r\n")
+            << QByteArray(
+                   "BEGIN:VCARD\r\nVERSION:4.0\r\nN:Nakamura;Yui;;;\r\nEMAIL:a@x.example\r\n"
+                   "EMAIL;PREF=1:yui@x.exa\r\n mple\r\nTEL;VALUE=uri;TYPE=home:tel:+81-3-1234\r\n"
+                   "item1.ADR:;;1-2-3 Gin\r\n\tza;Chuo;Tokyo;104-0061;Japan\r\nitem1.X-ABLabel:other\r\n"
+                   "PHOTO;ENCODING=b;TYPE=JPEG:/9j/4AAQSkZJRgABAQ\r\n AAAQABAAD\r\nX-UNKNOWN;A=B:C\r\n"
+                   "END:VCARD\r\n")
             << Card({"", "Yui", "", "Nakamura", "", "1-2-3 Ginza", "Chuo", "Tokyo", "104-0061", "Japan", "",
                      "yui@x.example", "+81-3-1234", "", ""});
         QTest::newRow("Shift_JIS in quoted-printable")
-            << QByteArray("BEGIN:VCARD\nVERSION:2.1\nN;CHARSET=SHIFT_JIS;ENCODING=QUOTED-PRINTABLE:=8E=52=93=63;"
-                          "=91=BE=98=59\nEND:VCARD\n")
+            << QByteArray(
+                   "BEGIN:VCARD\nVERSION:2.1\nN;CHARSET=SHIFT_JIS;ENCODING=QUOTED-PRINTABLE:=8E=52=93=63;"
+                   "=91=BE=98=59\nEND:VCARD\n")
             << Card({"", "太郎", "", "山田", "", "", "", "", "", "", "", "", "", "", ""});
         QTest::newRow("no N: the full name is cut into its parts")
             << QByteArray("BEGIN:VCARD\nVERSION:3.0\nFN:Dr. Jane Quinn Public Jr.\nEND:VCARD\n")
@@ -226,9 +232,9 @@ private slots:
     }
 
     void severalCardsKeepTheirLines() {
-        const clsImportTable table =
-            Read("\xEF\xBB\xBF"
-                 "BEGIN:VCARD\nN:A;B\nEND:VCARD\n\nbegin:vcard\nn:C;D\nend:vcard\nBEGIN:VCARD\nFN:E F\nEND:VCARD\n");
+        const clsImportTable table = Read("\xEF\xBB\xBF"
+                                          "BEGIN:VCARD\nN:A;B\nEND:VCARD\n\nbegin:vcard\nn:C;D\nend:"
+                                          "vcard\nBEGIN:VCARD\nFN:E F\nEND:VCARD\n");
         QCOMPARE(table.Rows.size(), 3);
         QCOMPARE(table.Lines, (QList<int>{1, 5, 8}));
         QCOMPARE(table.Rows.at(1).at(1), QStringLiteral("D"));

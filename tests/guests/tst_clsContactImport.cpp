@@ -52,52 +52,92 @@ private slots:
     void realExports_data() {
         QTest::addColumn<QStringList>("header");
         QTest::addColumn<QStringList>("row");
-        QTest::addColumn<QStringList>("expected"); // title, first, middle, last, e-mail, phone, phone 2, address
+        QTest::addColumn<QStringList>(
+            "expected"); // title, first, middle, last, e-mail, phone, phone 2, address
 
-        const QStringList person = {"Mr.", "John", "Q", "Smith", "j@x.example", "555-1", "555-2",
-                                    "12 Oak St\r\nSalem, MA  01970"};
-        QTest::newRow("Google")
-            << QStringList{"First Name", "Middle Name", "Last Name", "Name Prefix", "Name Suffix", "Nickname",
-                           "E-mail 1 - Type", "E-mail 1 - Value", "Phone 1 - Type", "Phone 1 - Value",
-                           "Phone 2 - Value", "Address 1 - Street", "Address 1 - City", "Address 1 - Region",
-                           "Address 1 - Postal Code", "Address 1 - Country", "Notes"}
-            << QStringList{"John", "Q", "Smith", "Mr.", "", "", "* Home", "j@x.example ::: j2@x.example",
-                           "Mobile", "555-1 ::: 555-9", "555-2", "12 Oak St", "Salem", "MA", "01970",
-                           "United States", "a ::: b"}
-            << person;
+        const QStringList person = {"Mr.",         "John",  "Q",     "Smith",
+                                    "j@x.example", "555-1", "555-2", "12 Oak St\r\nSalem, MA  01970"};
+        QTest::newRow("Google") << QStringList{"First Name",
+                                               "Middle Name",
+                                               "Last Name",
+                                               "Name Prefix",
+                                               "Name Suffix",
+                                               "Nickname",
+                                               "E-mail 1 - Type",
+                                               "E-mail 1 - Value",
+                                               "Phone 1 - Type",
+                                               "Phone 1 - Value",
+                                               "Phone 2 - Value",
+                                               "Address 1 - Street",
+                                               "Address 1 - City",
+                                               "Address 1 - Region",
+                                               "Address 1 - Postal Code",
+                                               "Address 1 - Country",
+                                               "Notes"}
+                                << QStringList{"John",   "Q",
+                                               "Smith",  "Mr.",
+                                               "",       "",
+                                               "* Home", "j@x.example ::: j2@x.example",
+                                               "Mobile", "555-1 ::: 555-9",
+                                               "555-2",  "12 Oak St",
+                                               "Salem",  "MA",
+                                               "01970",  "United States",
+                                               "a ::: b"}
+                                << person;
         QTest::newRow("Google, older")
-            << QStringList{"Name", "Given Name", "Additional Name", "Family Name", "Name Prefix",
-                           "E-mail 1 - Value", "Phone 1 - Value", "Phone 2 - Value", "Address 1 - Street",
-                           "Address 1 - City", "Address 1 - Region", "Address 1 - Postal Code"}
-            << QStringList{"John Q Smith", "John", "Q", "Smith", "Mr.", "j@x.example", "555-1", "555-2",
-                           "12 Oak St", "Salem", "MA", "01970"}
+            << QStringList{"Name",
+                           "Given Name",
+                           "Additional Name",
+                           "Family Name",
+                           "Name Prefix",
+                           "E-mail 1 - Value",
+                           "Phone 1 - Value",
+                           "Phone 2 - Value",
+                           "Address 1 - Street",
+                           "Address 1 - City",
+                           "Address 1 - Region",
+                           "Address 1 - Postal Code"}
+            << QStringList{"John Q Smith", "John",  "Q",         "Smith", "Mr.", "j@x.example",
+                           "555-1",        "555-2", "12 Oak St", "Salem", "MA",  "01970"}
             << person;
-        QTest::newRow("Outlook")
-            << QStringList{"Title", "First Name", "Middle Name", "Last Name", "Suffix", "Home Street",
-                           "Home City", "Home State", "Home Postal Code", "Home Country/Region",
-                           "E-mail Address", "Home Phone", "Mobile Phone", "Notes"}
-            << QStringList{"Mr.", "John", "Q", "Smith", "", "12 Oak St", "Salem", "MA", "01970", "USA",
-                           "j@x.example", "555-1", "555-2", ""}
-            << person;
+        QTest::newRow("Outlook") << QStringList{"Title",
+                                                "First Name",
+                                                "Middle Name",
+                                                "Last Name",
+                                                "Suffix",
+                                                "Home Street",
+                                                "Home City",
+                                                "Home State",
+                                                "Home Postal Code",
+                                                "Home Country/Region",
+                                                "E-mail Address",
+                                                "Home Phone",
+                                                "Mobile Phone",
+                                                "Notes"}
+                                 << QStringList{"Mr.",         "John",  "Q",     "Smith", "",
+                                                "12 Oak St",   "Salem", "MA",    "01970", "USA",
+                                                "j@x.example", "555-1", "555-2", ""}
+                                 << person;
         QTest::newRow("Thunderbird")
-            << QStringList{"First Name", "Last Name", "Display Name", "Nickname", "Primary Email",
-                           "Secondary Email", "Work Phone", "Home Phone", "Mobile Number", "Home Address",
-                           "Home Address 2", "Home City", "Home State", "Home ZipCode", "Home Country"}
-            << QStringList{"John", "Smith", "John Smith", "", "j@x.example", "", "555-0", "555-1", "555-2",
-                           "12 Oak St", "", "Salem", "MA", "01970", ""}
-            << QStringList{"", "John", "", "Smith", "j@x.example", "555-1", "555-2",
-                           "12 Oak St\r\nSalem, MA  01970"};
+            << QStringList{"First Name",      "Last Name",  "Display Name", "Nickname",      "Primary Email",
+                           "Secondary Email", "Work Phone", "Home Phone",   "Mobile Number", "Home Address",
+                           "Home Address 2",  "Home City",  "Home State",   "Home ZipCode",  "Home Country"}
+            << QStringList{"John", "Smith", "John Smith", "",      "j@x.example",
+                           "",     "555-0", "555-1",      "555-2", "12 Oak St",
+                           "",     "Salem", "MA",         "01970", ""}
+            << QStringList{
+                   "", "John", "", "Smith", "j@x.example", "555-1", "555-2", "12 Oak St\r\nSalem, MA  01970"};
         QTest::newRow("a spreadsheet's own words")
-            << QStringList{"Prefix", "First name", "Middle", "Surname", "Email", "Phone", "Mobile", "Street",
-                           "City", "State", "Postal code"}
-            << QStringList{"Mr.", "John", "Q", "Smith", "j@x.example", "555-1", "555-2", "12 Oak St", "Salem",
-                           "MA", "01970"}
+            << QStringList{"Prefix", "First name", "Middle", "Surname", "Email",      "Phone",
+                           "Mobile", "Street",     "City",   "State",   "Postal code"}
+            << QStringList{"Mr.",   "John",      "Q",     "Smith", "j@x.example", "555-1",
+                           "555-2", "12 Oak St", "Salem", "MA",    "01970"}
             << person;
         QTest::newRow("the template's captions")
-            << QStringList{"Title", "First Name *", "Middle Name", "Last Name *", "Address", "City", "State",
-                           "Zip", "E-mail", "Phone", "Phone 2"}
-            << QStringList{"Mr.", "John", "Q", "Smith", "12 Oak St", "Salem", "MA", "01970", "j@x.example",
-                           "555-1", "555-2"}
+            << QStringList{"Title", "First Name *", "Middle Name", "Last Name *", "Address", "City",
+                           "State", "Zip",          "E-mail",      "Phone",       "Phone 2"}
+            << QStringList{"Mr.", "John",  "Q",           "Smith", "12 Oak St", "Salem",
+                           "MA",  "01970", "j@x.example", "555-1", "555-2"}
             << person;
     }
     void realExports() {
@@ -107,8 +147,8 @@ private slots:
         const clsImportResult result = ImportRows(header, {row});
         QCOMPARE(result.Added, 1);
         const clsCONTACT c = LastContact();
-        QCOMPARE((QStringList{c.TITLE_TX, c.FIRST_NM, c.MIDDLE_NM, c.LAST_NM, c.EMAIL_TX, c.PHONE_TX, c.PHONE2_TX,
-                              c.ADDRESS_TX}),
+        QCOMPARE((QStringList{c.TITLE_TX, c.FIRST_NM, c.MIDDLE_NM, c.LAST_NM, c.EMAIL_TX, c.PHONE_TX,
+                              c.PHONE2_TX, c.ADDRESS_TX}),
                  expected);
     }
 
@@ -128,23 +168,38 @@ private slots:
         QTest::addColumn<QString>("sql");
         QTest::addColumn<QString>("stored");
         const QString zip = QStringLiteral("SELECT ADDRESS_TX FROM CONTACT WHERE FIRST_NM = 'Ann'");
-        QTest::newRow("zip padded") << "Zip" << "1234" << true << zip << "01234";
-        QTest::newRow("zip as it stands without the option") << "Zip" << "1234" << false << zip << "1234";
-        QTest::newRow("zip plus four untouched") << "Zip" << "2101-1234" << true << zip << "2101-1234";
-        QTest::newRow("postcode with letters untouched") << "Zip" << "SW1A 1AA" << true << zip << "SW1A 1AA";
+        QTest::newRow("zip padded") << "Zip"
+                                    << "1234" << true << zip << "01234";
+        QTest::newRow("zip as it stands without the option") << "Zip"
+                                                             << "1234" << false << zip << "1234";
+        QTest::newRow("zip plus four untouched") << "Zip"
+                                                 << "2101-1234" << true << zip << "2101-1234";
+        QTest::newRow("postcode with letters untouched") << "Zip"
+                                                         << "SW1A 1AA" << true << zip << "SW1A 1AA";
         const QString ab = QStringLiteral("SELECT AB_LIST_CD FROM CONTACT WHERE FIRST_NM = 'Ann'");
-        QTest::newRow("B list stays") << "A-B" << "b" << false << ab << "B";
-        QTest::newRow("other list text is A") << "A-B" << "maybe" << false << ab << "A";
-        QTest::newRow("no list is A") << "A-B" << "" << false << ab << "A";
+        QTest::newRow("B list stays") << "A-B"
+                                      << "b" << false << ab << "B";
+        QTest::newRow("other list text is A") << "A-B"
+                                              << "maybe" << false << ab << "A";
+        QTest::newRow("no list is A") << "A-B"
+                                      << "" << false << ab << "A";
         const QString side = QStringLiteral("SELECT FRIEND_OF_CD FROM CONTACT WHERE FIRST_NM = 'Ann'");
-        QTest::newRow("friend of the bride") << "Friend Of" << "Bride" << false << side << "1";
-        QTest::newRow("friend of the groom") << "Friend Of" << "groom's side" << false << side << "2";
-        QTest::newRow("friend of both") << "Friend Of" << "BOTH" << false << side << "3";
-        QTest::newRow("friend of nobody known") << "Friend Of" << "neighbour" << false << side << "";
-        const QString child = QStringLiteral("SELECT CHILD_FG || GENDER_FG FROM CONTACT WHERE FIRST_NM = 'Ann'");
-        QTest::newRow("child yes") << "Child" << "Yes" << false << child << "YM";
-        QTest::newRow("child other") << "Child" << "no" << false << child << "NM";
-        QTest::newRow("gender female") << "Gender" << "female" << false << child << "NF";
+        QTest::newRow("friend of the bride") << "Friend Of"
+                                             << "Bride" << false << side << "1";
+        QTest::newRow("friend of the groom") << "Friend Of"
+                                             << "groom's side" << false << side << "2";
+        QTest::newRow("friend of both") << "Friend Of"
+                                        << "BOTH" << false << side << "3";
+        QTest::newRow("friend of nobody known") << "Friend Of"
+                                                << "neighbour" << false << side << "";
+        const QString child =
+            QStringLiteral("SELECT CHILD_FG || GENDER_FG FROM CONTACT WHERE FIRST_NM = 'Ann'");
+        QTest::newRow("child yes") << "Child"
+                                   << "Yes" << false << child << "YM";
+        QTest::newRow("child other") << "Child"
+                                     << "no" << false << child << "NM";
+        QTest::newRow("gender female") << "Gender"
+                                       << "female" << false << child << "NF";
     }
     void valuesAsStored() {
         QFETCH(QString, column);
@@ -163,7 +218,9 @@ private slots:
         QCOMPARE(c.FIRST_NM, QStringLiteral("UNKNOWN"));
         QCOMPARE(c.LAST_NM, QStringLiteral("(UNKNOWN)"));
         // The same row again is a duplicate of the contact it made.
-        QVERIFY(!PreviewOf({"First", "Last", "Email"}, {{"", "", "who@x.example"}}).first().DuplicateOf.isEmpty());
+        QVERIFY(!PreviewOf({"First", "Last", "Email"}, {{"", "", "who@x.example"}})
+                     .first()
+                     .DuplicateOf.isEmpty());
     }
 
     void aRepeatedImport_data() {
@@ -183,26 +240,26 @@ private slots:
         ImportRows(header, {{"Ann", "Lee", "ann@x.example", "555-1"}, {"Bo", "Li", "bo@x.example", "555-2"}});
         clsImportOptions options;
         options.ReplaceDuplicates = replace;
-        const clsImportResult again =
-            ImportRows(header, {{"Ann", "Lee", "ann@x.example", "555-9"}, {"Bo", "Li", "bo@x.example", ""}}, options);
+        const clsImportResult again = ImportRows(
+            header, {{"Ann", "Lee", "ann@x.example", "555-9"}, {"Bo", "Li", "bo@x.example", ""}}, options);
         QCOMPARE(again.Replaced, replace ? 2 : 0);
         QCOMPARE(again.Added, replace ? 0 : 2);
-        QCOMPARE(QString::number(Count(QStringLiteral("SELECT COUNT(*) FROM CONTACT")).toInt() - before.toInt()),
-                 contacts);
+        QCOMPARE(
+            QString::number(Count(QStringLiteral("SELECT COUNT(*) FROM CONTACT")).toInt() - before.toInt()),
+            contacts);
         QTEST(Count(QStringLiteral("SELECT group_concat(PHONE_TX) FROM (SELECT PHONE_TX FROM CONTACT WHERE "
                                    "EMAIL_TX IS NOT NULL ORDER BY CONTACT_ID)")),
               "phones");
     }
 
     void rsvpIdsMakeInvitationsWithThePrimaryFirst() {
-        const clsImportResult result = ImportRows(
-            {"Title", "First", "Last", "Address", "RSVP ID"},
-            {{"Mr.", "John", "Smith", "12 Oak St", "7"},
-             {"Mrs.", "Mary", "Smith", "", "7"},
-             {"", "Ann", "Lee", "", ""},
-             {"Herr", "Karl", "Braun", "", "8"},
-             {"Frau", "Eva", "Braun", "", "8"},
-             {"Ms.", "Cy", "Wu", "", "7"}});
+        const clsImportResult result = ImportRows({"Title", "First", "Last", "Address", "RSVP ID"},
+                                                  {{"Mr.", "John", "Smith", "12 Oak St", "7"},
+                                                   {"Mrs.", "Mary", "Smith", "", "7"},
+                                                   {"", "Ann", "Lee", "", ""},
+                                                   {"Herr", "Karl", "Braun", "", "8"},
+                                                   {"Frau", "Eva", "Braun", "", "8"},
+                                                   {"Ms.", "Cy", "Wu", "", "7"}});
         QCOMPARE(result.Added, 6);
         QCOMPARE(result.Invitations, 3); // 7, 8, and 7 again: only consecutive rows share one
         clsINVITE brauns;
@@ -214,7 +271,8 @@ private slots:
         // The later group of 7 took the invitation over; the Smiths are left without one.
         QCOMPARE(Count(QStringLiteral("SELECT DISPLAY_AS_TX FROM INVITE WHERE INVITE_RSVP_ID = '7'")),
                  QStringLiteral("Wu, Cy"));
-        QCOMPARE(Count(QStringLiteral("SELECT COUNT(*) FROM CONTACT WHERE LAST_NM = 'Smith' AND INVITE_ID IS NULL")),
+        QCOMPARE(Count(QStringLiteral(
+                     "SELECT COUNT(*) FROM CONTACT WHERE LAST_NM = 'Smith' AND INVITE_ID IS NULL")),
                  QStringLiteral("2"));
         QCOMPARE(Count(QStringLiteral("SELECT COUNT(*) FROM INVITE")), QStringLiteral("2"));
     }
@@ -258,7 +316,8 @@ private slots:
         QCOMPARE(mapping.at(0).MAP_IMPORT_FIELD_NM, QStringLiteral("FIRST_NM"));
         QCOMPARE(mapping.at(1).MAP_IMPORT_FIELD_NM, QString());
         QCOMPARE(mapping.at(2).MAP_IMPORT_FIELD_NM, QStringLiteral("PHONE_TX"));
-        QVERIFY(ErrorOf([&] { clsContactImport::MapColumn(mapping, "Fax", "PHONE_TX"); }).contains("no column"));
+        QVERIFY(
+            ErrorOf([&] { clsContactImport::MapColumn(mapping, "Fax", "PHONE_TX"); }).contains("no column"));
         QVERIFY(ErrorOf([&] { clsContactImport::MapColumn(mapping, "Cell", "FAX_TX"); }).contains("FAX_TX"));
         clsContactImport::SaveMapping(mapping);
         QCOMPARE(clsIMPORT_FIELD::GetIMPORT_FIELD_NM("PHONE_TX"), QStringLiteral("Cell"));

@@ -41,7 +41,8 @@ const ColumnSource kColumns[clsImportPreviewModel::ColumnCount] = {
 } // namespace
 
 clsImportPreviewModel::clsImportPreviewModel(QObject* parent)
-    : QAbstractTableModel(parent), mDuplicate(QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning)) {}
+    : QAbstractTableModel(parent),
+      mDuplicate(QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning)) {}
 
 void clsImportPreviewModel::SetRows(QList<clsImportRow> rows) {
     beginResetModel();
@@ -51,12 +52,13 @@ void clsImportPreviewModel::SetRows(QList<clsImportRow> rows) {
 }
 
 int clsImportPreviewModel::TickedCount() const {
-    return static_cast<int>(std::count_if(mRows.begin(), mRows.end(), [](const clsImportRow& r) { return r.Ticked; }));
+    return static_cast<int>(
+        std::count_if(mRows.begin(), mRows.end(), [](const clsImportRow& r) { return r.Ticked; }));
 }
 
 int clsImportPreviewModel::DuplicateCount() const {
-    return static_cast<int>(
-        std::count_if(mRows.begin(), mRows.end(), [](const clsImportRow& r) { return !r.DuplicateOf.isEmpty(); }));
+    return static_cast<int>(std::count_if(mRows.begin(), mRows.end(),
+                                          [](const clsImportRow& r) { return !r.DuplicateOf.isEmpty(); }));
 }
 
 void clsImportPreviewModel::TickAll(bool ticked) {

@@ -27,7 +27,8 @@ namespace {
 const QString kForm = QStringLiteral("frmContactImport");
 
 QString DuplicateOption() {
-    return gRegistry().GetSetting(FormRegistryKey(kForm), QStringLiteral("DuplicateOption"), QStringLiteral("1"));
+    return gRegistry().GetSetting(FormRegistryKey(kForm), QStringLiteral("DuplicateOption"),
+                                  QStringLiteral("1"));
 }
 
 } // namespace
@@ -132,7 +133,8 @@ QWidget* frmContactImport::Options() {
 }
 
 bool frmContactImport::Load(const clsImportTable& table, bool csvRoute) {
-    setWindowTitle(QStringLiteral("Load Contacts from ") + (csvRoute ? QStringLiteral("CSV") : QStringLiteral("vCard")));
+    setWindowTitle(QStringLiteral("Load Contacts from ") +
+                   (csvRoute ? QStringLiteral("CSV") : QStringLiteral("vCard")));
     QList<clsImportRow> rows;
     const bool read = RecordIO::Attempt([&] {
         rows = clsContactImport::Preview(table, csvRoute ? clsIMPORT_FIELD::OpenRecords(false)

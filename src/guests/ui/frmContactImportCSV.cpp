@@ -150,7 +150,8 @@ void frmContactImportCSV::ShowColumns(int row, const QString& current, const QSt
         mGrid->setCellWidget(row, 1, box);
         // Queued: the choice fills every drop-down anew, this one too.
         connect(box, &QComboBox::currentTextChanged, this, [this, row](const QString& column) {
-            QMetaObject::invokeMethod(this, [this, row, column] { Choose(row, column); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this, row, column] { Choose(row, column); }, Qt::QueuedConnection);
         });
     }
     QStringList choices = free;

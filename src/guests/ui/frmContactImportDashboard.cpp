@@ -22,7 +22,8 @@ frmContactImportDashboard::FileChooser& Chooser() {
     return chooser;
 }
 
-QRadioButton* Route(int index, const QString& caption, const QString& text, QWidget* parent, QVBoxLayout* layout) {
+QRadioButton* Route(int index, const QString& caption, const QString& text, QWidget* parent,
+                    QVBoxLayout* layout) {
     auto* option = new QRadioButton(caption, parent);
     option->setObjectName(QStringLiteral("opt_%1").arg(index));
     QFont bold = option->font();
@@ -50,8 +51,9 @@ frmContactImportDashboard::frmContactImportDashboard(QWidget* parent) : QDialog(
     mCsv = Route(0, QStringLiteral("Import from CSV file"),
                  QStringLiteral("Load contacts from a comma separated values file"), this, layout);
     Route(1, QStringLiteral("Import vCard Contacts"),
-          QStringLiteral("Build your Vowren Contact list quickly by importing the vCard file that Google, Apple, "
-                         "Outlook or Thunderbird exports"),
+          QStringLiteral(
+              "Build your Vowren Contact list quickly by importing the vCard file that Google, Apple, "
+              "Outlook or Thunderbird exports"),
           this, layout);
     mCsv->setChecked(true);
 
@@ -73,7 +75,8 @@ frmContactImportDashboard::frmContactImportDashboard(QWidget* parent) : QDialog(
     resize(460, 300);
 }
 
-QString frmContactImportDashboard::ChooseFile(QWidget* parent, const QString& caption, const QString& filter) {
+QString frmContactImportDashboard::ChooseFile(QWidget* parent, const QString& caption,
+                                              const QString& filter) {
     if (Chooser())
         return Chooser()(parent, caption, filter);
     return QFileDialog::getOpenFileName(parent, caption, QString(), filter);

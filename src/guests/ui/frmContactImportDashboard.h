@@ -16,7 +16,8 @@ public:
     explicit frmContactImportDashboard(QWidget* parent = nullptr);
 
     // Asks for a file to read; the file dialog unless a test put its own chooser in place.
-    using FileChooser = std::function<QString(QWidget* parent, const QString& caption, const QString& filter)>;
+    using FileChooser =
+        std::function<QString(QWidget* parent, const QString& caption, const QString& filter)>;
     static QString ChooseFile(QWidget* parent, const QString& caption, const QString& filter);
     static void SetFileChooser(FileChooser chooser);
 

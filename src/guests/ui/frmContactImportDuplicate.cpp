@@ -30,9 +30,10 @@ frmContactImportDuplicate::frmContactImportDuplicate(int count, QWidget* parent)
     legendRow->addWidget(mark);
     legendRow->addWidget(legend, 1);
 
-    auto* text = new QLabel(QStringLiteral("A duplicate indicates that an identical first name, last name and email "
-                                           "address of a guest have already been entered or imported into Vowren"),
-                            this);
+    auto* text =
+        new QLabel(QStringLiteral("A duplicate indicates that an identical first name, last name and email "
+                                  "address of a guest have already been entered or imported into Vowren"),
+                   this);
     text->setObjectName(QStringLiteral("lblText"));
     text->setWordWrap(true);
     auto* dontShow = new QCheckBox(QStringLiteral("Don't show this again"), this);

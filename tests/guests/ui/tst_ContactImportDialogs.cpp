@@ -71,7 +71,8 @@ private slots:
                    "Mrs.;Mary;Smith;;;9\r\n"
                    ";\"Zo\xC3\xAB; \"\"Z\"\"\";Lee;;;\r\n");
         file.close();
-        frmContactImportDashboard::SetFileChooser([this](QWidget*, const QString&, const QString&) { return mFile; });
+        frmContactImportDashboard::SetFileChooser(
+            [this](QWidget*, const QString&, const QString&) { return mFile; });
         gApp().SetDelimiter(QStringLiteral(","));
     }
     void cleanup() {
@@ -117,9 +118,11 @@ private slots:
             QCOMPARE(Text(d, "lblCount"), QStringLiteral("0 of 3"));
             Click(d, "linkAction_2");
             QCOMPARE(Text(d, "lblCount"), QStringLiteral("3 of 3"));
-            d->Model()->setData(d->Model()->index(2, clsImportPreviewModel::ICO), Qt::Unchecked, Qt::CheckStateRole);
+            d->Model()->setData(d->Model()->index(2, clsImportPreviewModel::ICO), Qt::Unchecked,
+                                Qt::CheckStateRole);
             QCOMPARE(Text(d, "lblCount"), QStringLiteral("2 of 3"));
-            QCOMPARE(d->Model()->index(0, clsImportPreviewModel::Name).data().toString(), QStringLiteral("Smith, John"));
+            QCOMPARE(d->Model()->index(0, clsImportPreviewModel::Name).data().toString(),
+                     QStringLiteral("Smith, John"));
             QVERIFY(Child<QCheckBox>(d, "chk5Digit")->isChecked());
             Click(d, "cmdImport");
         });
@@ -152,7 +155,8 @@ private slots:
             QVERIFY(mapping.LoadFile(mFile));
             frmContactImport preview;
             QVERIFY(preview.Load(mapping.Table(), true));
-            QAbstractItemModelTester tester(preview.Model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+            QAbstractItemModelTester tester(preview.Model(),
+                                            QAbstractItemModelTester::FailureReportingMode::QtTest);
             QCOMPARE(preview.Model()->DuplicateCount(), round == 0 ? 0 : 3);
             QVERIFY(Child<QRadioButton>(&preview, "opt_1")->isChecked());
             QTimer::singleShot(0, &preview, [&preview, &warned, round] {
@@ -165,8 +169,10 @@ private slots:
             QCOMPARE(preview.Result().Replaced, round == 0 ? 0 : 3);
         }
         QVERIFY(!gApp().ShowDuplicateWarning());
-        QCOMPARE(Scalar("SELECT COUNT(*) FROM CONTACT WHERE LAST_NM IN ('Smith', 'Lee')"), QStringLiteral("3"));
-        QCOMPARE(Scalar("SELECT FIRST_NM FROM CONTACT WHERE LAST_NM = 'Lee'"), QString::fromUtf8("Zoë; \"Z\""));
+        QCOMPARE(Scalar("SELECT COUNT(*) FROM CONTACT WHERE LAST_NM IN ('Smith', 'Lee')"),
+                 QStringLiteral("3"));
+        QCOMPARE(Scalar("SELECT FIRST_NM FROM CONTACT WHERE LAST_NM = 'Lee'"),
+                 QString::fromUtf8("Zoë; \"Z\""));
     }
 
     void theTemplateHoldsTheCaptions() {
@@ -174,7 +180,8 @@ private slots:
         Click(&dashboard, "linkTemplate");
         QFile file(QDir(gApp().TemplatePath()).filePath(QStringLiteral("Contacts.csv")));
         QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY(file.readAll().startsWith("\xEF\xBB\xBF\"Title\",\"First Name *\",\"Middle Name\",\"Last Name *\""));
+        QVERIFY(file.readAll().startsWith(
+            "\xEF\xBB\xBF\"Title\",\"First Name *\",\"Middle Name\",\"Last Name *\""));
     }
 };
 
