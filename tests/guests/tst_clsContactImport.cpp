@@ -277,6 +277,29 @@ private slots:
         QCOMPARE(Count(QStringLiteral("SELECT COUNT(*) FROM INVITE")), QStringLiteral("2"));
     }
 
+    // A person who moves to another invitation leaves the old one labelled for who is left, or gone when
+    // nobody is.
+    void theInvitationsPeopleLeaveFollow() {
+        const QStringList header = {"Title", "First", "Last", "Email", "RSVP"};
+        ImportRows(header, {{"Mr.", "John", "Smith", "j@x.example", "1"},
+                            {"Mrs.", "Mary", "Smith", "m@x.example", "1"},
+                            {"", "Ann", "Lee", "a@x.example", "2"}});
+        clsImportOptions replace;
+        replace.ReplaceDuplicates = true;
+        const clsImportResult again = ImportRows(
+            header, {{"Mrs.", "Mary", "Smith", "m@x.example", "5"}, {"", "Ann", "Lee", "a@x.example", "5"}},
+            replace);
+        QCOMPARE(again.Replaced, 2);
+        QCOMPARE(Count(QStringLiteral("SELECT DISPLAY_AS_TX FROM INVITE WHERE INVITE_RSVP_ID = '1'")),
+                 QStringLiteral("Smith, John"));
+        QCOMPARE(Count(QStringLiteral("SELECT COUNT(*) FROM INVITE WHERE INVITE_RSVP_ID = '2'")),
+                 QStringLiteral("0"));
+        QCOMPARE(Count(QStringLiteral("SELECT DISPLAY_AS_TX FROM INVITE WHERE INVITE_RSVP_ID = '5'")),
+                 QStringLiteral("Smith, Mary & Ann Lee"));
+        QCOMPARE(Count(QStringLiteral("SELECT PRIMARY_CONTACT_FG FROM CONTACT WHERE FIRST_NM = 'Mary'")),
+                 QStringLiteral("Y"));
+    }
+
     void aCoupleIsLabelledByEtiquette() {
         ImportRows({"Title", "First", "Last", "Address", "City", "State", "Zip", "RSVP"},
                    {{"Mr.", "John", "Smith", "12 Oak St", "Salem", "MA", "1970", "3"},

@@ -175,6 +175,27 @@ private slots:
                  QString::fromUtf8("Zoë; \"Z\""));
     }
 
+    // The vCard route skips the mapping: the file chosen goes straight to the preview.
+    void importVCardsFromTheDashboard() {
+        QFile file(mFile);
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write("BEGIN:VCARD\r\nVERSION:3.0\r\nN:Okafor;Ada;;;\r\nEMAIL:ada@x.example\r\nEND:VCARD\r\n");
+        file.close();
+        frmContactImportDashboard dashboard;
+        Child<QRadioButton>(&dashboard, "opt_1")->setChecked(true);
+        bool imported = false;
+        connect(&dashboard, &frmContactImportDashboard::Imported, this, [&imported] { imported = true; });
+        WhenShown<frmContactImport>([](frmContactImport* d) {
+            QCOMPARE(d->windowTitle(), QStringLiteral("Load Contacts from vCard"));
+            QCOMPARE(Text(d, "lblCount"), QStringLiteral("1 of 1"));
+            Click(d, "cmdImport");
+        });
+        QVERIFY(dashboard.Continue());
+        QVERIFY(imported);
+        QCOMPARE(Scalar("SELECT EMAIL_TX FROM CONTACT WHERE LAST_NM = 'Okafor'"),
+                 QStringLiteral("ada@x.example"));
+    }
+
     void theTemplateHoldsTheCaptions() {
         frmContactImportDashboard dashboard;
         Click(&dashboard, "linkTemplate");
