@@ -28,6 +28,7 @@ CliCommand SeatCommand();
 CliCommand UnseatCommand();
 CliCommand TablesCommand();
 CliCommand TentcardsCommand();
+CliCommand ChecklistCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

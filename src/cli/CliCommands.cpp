@@ -41,6 +41,7 @@ const std::vector<CliCommand>& CliCommands() {
         UnseatCommand(),
         TablesCommand(),
         TentcardsCommand(),
+        ChecklistCommand(),
     };
     return commands;
 }

@@ -143,18 +143,26 @@ void clsTASK::Patch_7_Apply() {
     tx.Commit();
 }
 
-void clsTASK::RefreshDueDates() {
+int clsTASK::RefreshDueDates() {
     const QDate wedding = WeddingDate();
+    if (!wedding.isValid())
+        return 0;
     clsTransaction tx(gDB());
     const clsRecordset rs = gDB().Execute(SelectSql() + kChecklistOrder);
     const std::vector<int> columns = RecordIO::FieldColumns(rs, ReadTable());
+    int changed = 0;
     for (int row = 0; row < rs.RowCount(); ++row) {
         clsTASK task;
         RecordIO::Fill(task, rs, row, ReadTable(), columns);
-        task.DUE_DT = CalculateDueDate(task, wedding);
+        const QString due = CalculateDueDate(task, wedding);
+        if (task.DUE_DT_Format() == due)
+            continue;
+        task.DUE_DT = due;
         RecordIO::Save(task, Table(), false);
+        ++changed;
     }
     tx.Commit();
+    return changed;
 }
 
 void clsTASK::Renumber() {

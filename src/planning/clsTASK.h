@@ -45,7 +45,8 @@ public:
     static QString CalculateDueDate(const clsTASK& task);
     static QString CalculateDueDate(const clsTASK& task, const QDate& weddingDate);
     // Sets every task's due date from its time frame, hand-set and completed ones alike; all or nothing.
-    void RefreshDueDates();
+    // The number of tasks whose date changed. Without a wedding date nothing changes.
+    int RefreshDueDates();
     // An insert renumbers all tasks afterwards, so that the new one falls into place. A refused save
     // leaves the object as it was.
     void Save(bool isNew);

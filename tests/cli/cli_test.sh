@@ -221,6 +221,14 @@ check "unseat needs keys" 2 'usage: unseat ID' "$cli" unseat
 check "unseat one" 0 "^Unseated: ${ids[0]}$" "$cli" unseat "${ids[0]}"
 check "tables after unseating one" 0 '^Table #1: 11 of 12 seats taken$' "$cli" tables
 
+# The checklist: due dates counted back from the wedding day, all of them, and only changes counted.
+check "checklist needs --refresh-due-dates" 2 'usage: checklist --refresh-due-dates' "$cli" checklist
+wedding=$("$cli" sql "SELECT EVENT_DT FROM EVENT WHERE EVENT_ID = 1" | tail -1 | tr -d '"\r' | cut -c1-10)
+check "checklist --refresh-due-dates" 0 '^Refreshed the due dates from the wedding day [0-9]{2}-[A-Z][a-z]{2}-[0-9]{4}: [0-9]+ tasks? changed$' "$cli" checklist --refresh-due-dates
+check "a second refresh changes nothing" 0 ': 0 tasks changed$' "$cli" checklist --refresh-due-dates
+check "a task of frame 10 falls due the day after the wedding" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM TASK WHERE TASK_GROUP_ID = 10 AND DUE_DT IS NOT date('$wedding', '+1 day')"
+check "a task of frame 0 falls due a year before" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM TASK WHERE TASK_GROUP_ID = 0 AND DUE_DT IS NOT date('$wedding', '-365 days')"
+
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
 check "the damaged file is untouched" 0 'not a database at all' cat "$home/Database/Vowren.quilldata"
