@@ -105,6 +105,11 @@ void frmNotebookAddFile::SetFolder(const QString& folder) {
     mFilling = false;
 }
 
+void frmNotebookAddFile::SetTreeRoot(const QString& folder) {
+    folderTree->setRootIndex(mFolders->index(QDir::cleanPath(folder)));
+    SetFolder(mFolder);
+}
+
 void frmNotebookAddFile::OnItemChanged(QListWidgetItem* item) {
     if (mFilling)
         return;

@@ -32,6 +32,8 @@ public:
     QString Paths() const { return mPaths; }
     // Shows the files of this folder.
     void SetFolder(const QString& folder);
+    // The tree starts at this folder; the whole file system by default.
+    void SetTreeRoot(const QString& folder);
     QString Folder() const { return mFolder; }
     // The ticked files, full paths, in the order they were ticked.
     QStringList Ticked() const { return mTicked; }
