@@ -244,10 +244,3 @@ QStringList clsTASK::DeleteKeepingOrder(const QString& taskId, const QStringList
     tx.Commit();
     return order;
 }
-
-void clsTASK::ToggleCompleted() {
-    clsTASK changed = *this;
-    changed.COMPLETED_FG = COMPLETED_FG == QLatin1String("Y") ? QStringLiteral("N") : QStringLiteral("Y");
-    changed.Update_COMPLETED_FG();
-    *this = changed;
-}

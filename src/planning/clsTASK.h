@@ -61,8 +61,6 @@ public:
     static QStringList WriteShownOrder(const QStringList& shownInOrder);
     // Deletes a task and writes the order of the tasks still shown, in one go.
     static QStringList DeleteKeepingOrder(const QString& taskId, const QStringList& shownInOrder);
-    // Completed becomes open and open becomes completed, in the database and in this object.
-    void ToggleCompleted();
 
 private:
     static const RecordTable<clsTASK>& ReadTable();

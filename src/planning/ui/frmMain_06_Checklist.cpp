@@ -90,7 +90,7 @@ frmMain_06_Checklist::frmMain_06_Checklist(QWidget* parent)
     // A reload (a filter, F5, an added task) must not lose an order that is still waiting.
     connect(Grid()->Model(), &QAbstractItemModel::modelAboutToBeReset, this, [this] {
         if (tmrSort->isActive())
-            WriteOrder();
+            WriteOrderOnly();
     });
     connect(Grid(), &QAbstractItemView::clicked, this, &frmMain_06_Checklist::OnGridClicked);
 
@@ -166,21 +166,23 @@ void frmMain_06_Checklist::OnGridClicked(const QModelIndex& index) {
         ToggleCompleted(key);
 }
 
-// The row stays where it is, even under a filter it no longer meets, until the next load.
+// The row stays where it is, even under a filter it no longer meets, until the next load. It is painted
+// ticked before the database is written (a write waits for the disk), and set back if the write fails.
 bool frmMain_06_Checklist::ToggleCompleted(qint64 key) {
     const QModelIndex row = RowOfKey(key);
-    if (!row.isValid())
+    const clsTASK* shown = row.isValid() ? Grid()->Model()->RecordAt<clsTASK>(row) : nullptr;
+    if (shown == nullptr)
         return false;
-    clsTASK task;
-    const bool done = RecordIO::Attempt([&] {
-        if (task.OpenRecord(QString::number(key)))
-            task.ToggleCompleted();
-    });
-    if (!done || task.TASK_ID.isEmpty())
-        return false;
+    const clsTASK before = *shown;
+    clsTASK task = before;
+    task.COMPLETED_FG = IsDone(before) ? QStringLiteral("N") : QStringLiteral("Y");
     Grid()->Model()->Rewrite(row, [&task](clsGridCells& cells) { WriteRow(cells, task); });
+    Grid()->viewport()->repaint();
+    const bool written = RecordIO::Attempt([&task] { task.Update_COMPLETED_FG(); });
+    if (!written)
+        Grid()->Model()->Rewrite(row, [&before](clsGridCells& cells) { WriteRow(cells, before); });
     RefreshPanel();
-    return true;
+    return written;
 }
 
 // ---- The couple's order --------------------------------------------------------------------------------
@@ -226,13 +228,19 @@ QStringList frmMain_06_Checklist::ShownKeys() const {
 }
 
 void frmMain_06_Checklist::WriteOrder() {
+    const QStringList order = WriteOrderOnly();
+    if (!order.isEmpty())
+        ShowNumbers(order);
+}
+
+// The rows are about to go (a reload): the order is written, and nothing is shown of it.
+QStringList frmMain_06_Checklist::WriteOrderOnly() {
     tmrSort->stop();
     const QStringList keys = ShownKeys();
-    if (keys.isEmpty())
-        return;
     QStringList order;
-    if (RecordIO::Attempt([&] { order = clsTASK::WriteShownOrder(keys); }))
-        ShowNumbers(order);
+    if (!keys.isEmpty())
+        RecordIO::Attempt([&] { order = clsTASK::WriteShownOrder(keys); });
+    return order;
 }
 
 // The "#" of every row as written.

@@ -58,6 +58,7 @@ private:
     void OnGridClicked(const QModelIndex& index);
     void SwapNumbers(const QModelIndex& first, const QModelIndex& second);
     QStringList ShownKeys() const;
+    QStringList WriteOrderOnly();
     void ShowNumbers(const QStringList& order);
 
     QTimer* tmrSort = nullptr;
