@@ -259,6 +259,22 @@ private slots:
         QCOMPARE(editor.windowTitle(), QStringLiteral("Add New Task"));
     }
 
+    // The box in front of the date switches it on at today's date and off again.
+    void theDueDateIsSwitchedOnAndOff() {
+        SetNowForTesting(QDateTime(QDate(2027, 2, 3), QTime(9, 0)));
+        frmTask editor(QStringLiteral("15"));
+        auto* date = UiTestTools::Child<usrDate>(editor, "usrDate");
+        auto* box = UiTestTools::Child<QCheckBox>(date, "chkDate");
+        QVERIFY(date->Text().isEmpty());
+        QVERIFY(!UiTestTools::Child<QWidget>(date, "dtpDate")->isEnabled());
+        UiTestTools::Toggle(box);
+        QCOMPARE(date->Text(), QStringLiteral("03-Feb-2027"));
+        QVERIFY(UiTestTools::Child<QPushButton>(editor, "cmdSave")->isEnabled());
+        UiTestTools::Toggle(box);
+        QVERIFY(date->Text().isEmpty());
+        QVERIFY(!UiTestTools::Child<QPushButton>(editor, "cmdSave")->isEnabled());
+    }
+
     void editingSavesOnlyAChange() {
         frmTask editor(QStringLiteral("14"));
         QCOMPARE(editor.windowTitle(), QStringLiteral("Edit Task"));
