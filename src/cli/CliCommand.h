@@ -30,6 +30,7 @@ CliCommand UnseatCommand();
 CliCommand TablesCommand();
 CliCommand TentcardsCommand();
 CliCommand ImportCommand();
+CliCommand ChecklistCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

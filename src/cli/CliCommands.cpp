@@ -48,6 +48,7 @@ const std::vector<CliCommand>& CliCommands() {
         TablesCommand(),
         TentcardsCommand(),
         ImportCommand(),
+        ChecklistCommand(),
     };
     return commands;
 }

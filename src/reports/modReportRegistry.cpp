@@ -5,11 +5,13 @@
 #include "reports/clsRTFContacts.h"
 #include "reports/clsRTFInvitation.h"
 #include "reports/clsRTFMeal.h"
+#include "reports/clsRTFNotebook.h"
 #include "reports/clsRTFRSVP.h"
 #include "reports/clsRTFRole.h"
 #include "reports/clsRTFStatistics.h"
 #include "reports/clsRTFTable.h"
 #include "reports/clsRTFTableLayout.h"
+#include "reports/clsRTFTask.h"
 #include "reports/clsRTFTentcard.h"
 #include "reports/clsReportClasses.h"
 
@@ -52,4 +54,6 @@ void RegisterReportClasses() {
     Register<clsRTFTableLayout>();
     Register<clsRTFTentcard>();
     Register<clsRTFStatistics>();
+    Register<clsRTFTask>(TakeFilter);
+    Register<clsRTFNotebook>();
 }

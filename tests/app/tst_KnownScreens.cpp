@@ -26,6 +26,8 @@ private slots:
         QTest::newRow("invitations") << 2 << int(clsReportCatalogue::Invitations);
         QTest::newRow("replies") << 3 << int(clsReportCatalogue::RSVPs);
         QTest::newRow("attendees") << 4 << int(clsReportCatalogue::Attendees);
+        QTest::newRow("checklist") << 6 << int(clsReportCatalogue::Checklist);
+        QTest::newRow("notebook") << 10 << int(clsReportCatalogue::Notebook);
     }
 
     void printingFromAPageOpensItsReportSection() {

@@ -245,6 +245,13 @@ check "a broken file is refused by file and line" 1 'broken\.csv, line 3: .*Noth
 check "nothing of a broken file remains" 0 "^$contacts_before\$" value "SELECT COUNT(*) FROM CONTACT"
 check "import with a bad option" 2 'usage: import FILE' "$cli" import "$imports/mapped.csv" --duplicates sometimes
 check "import with an unknown field" 1 '"FAX_TX" is no field' "$cli" import "$imports/mapped.csv" --map "Cell=FAX_TX"
+# The checklist: due dates counted back from the wedding day, all of them, and only changes counted.
+check "checklist needs --refresh-due-dates" 2 'usage: checklist --refresh-due-dates' "$cli" checklist
+wedding=$("$cli" sql "SELECT EVENT_DT FROM EVENT WHERE EVENT_ID = 1" | tail -1 | tr -d '"\r' | cut -c1-10)
+check "checklist --refresh-due-dates" 0 '^Refreshed the due dates from the wedding day [0-9]{2}-[A-Z][a-z]{2}-[0-9]{4}: [0-9]+ tasks? changed$' "$cli" checklist --refresh-due-dates
+check "a second refresh changes nothing" 0 ': 0 tasks changed$' "$cli" checklist --refresh-due-dates
+check "a task of frame 10 falls due the day after the wedding" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM TASK WHERE TASK_GROUP_ID = 10 AND DUE_DT IS NOT date('$wedding', '+1 day')"
+check "a task of frame 0 falls due a year before" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM TASK WHERE TASK_GROUP_ID = 0 AND DUE_DT IS NOT date('$wedding', '-365 days')"
 
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
