@@ -2,6 +2,10 @@
 
 #include "core/RecordIO.h"
 #include "core/clsApp.h"
+#include "seating/ui/frmFlight.h"
+#include "seating/ui/frmHotel.h"
+#include "seating/ui/frmMain_04_Attendees_Flights.h"
+#include "seating/ui/frmMain_04_Attendees_Hotels.h"
 #include "seating/ui/frmMain_04_Attendees_Tables.h"
 #include "seating/ui/frmMain_04_Attendees_Tentcards.h"
 #include "seating/ui/frmTable.h"
@@ -24,7 +28,25 @@ QStringList BusiestTables() {
     });
 }
 
+// The travel boards of the demo wedding, the first hotel or flight selected.
+template <class Board> QWidget* TravelBoard() {
+    auto* page = new Board;
+    page->resize(modScreenshots::MainWindowSize());
+    page->SelectGroup(QStringLiteral("1"));
+    return page;
+}
+
+void RegisterTravelScreenshots() {
+    modScreenshots::Register(modPages::HotelsSubPage(),
+                             [] { return TravelBoard<frmMain_04_Attendees_Hotels>(); });
+    modScreenshots::Register(modPages::FlightsSubPage(),
+                             [] { return TravelBoard<frmMain_04_Attendees_Flights>(); });
+    modScreenshots::Register(QStringLiteral("frmHotel"), [] { return new frmHotel(QStringLiteral("1")); });
+    modScreenshots::Register(QStringLiteral("frmFlight"), [] { return new frmFlight(QStringLiteral("1")); });
+}
+
 void RegisterScreenshots() {
+    RegisterTravelScreenshots();
     modScreenshots::Register(QStringLiteral("frmTable"), [] { return new frmTable(QString()); });
     modScreenshots::Register(QStringLiteral("frmTable_Edit"), [] {
         const QStringList tables = BusiestTables();
@@ -61,5 +83,9 @@ void RegisterSeatingPages() {
                               [](QWidget* parent) { return new frmMain_04_Attendees_Tables(parent); });
     modPages::RegisterSubPage(modPages::TentcardsSubPage(),
                               [](QWidget* parent) { return new frmMain_04_Attendees_Tentcards(parent); });
+    modPages::RegisterSubPage(modPages::HotelsSubPage(),
+                              [](QWidget* parent) { return new frmMain_04_Attendees_Hotels(parent); });
+    modPages::RegisterSubPage(modPages::FlightsSubPage(),
+                              [](QWidget* parent) { return new frmMain_04_Attendees_Flights(parent); });
     RegisterScreenshots();
 }
