@@ -2,6 +2,7 @@
 
 #include "core/RecordIO.h"
 #include "core/clsApp.h"
+#include "seating/ui/frmCaptureMap.h"
 #include "seating/ui/frmFlight.h"
 #include "seating/ui/frmHotel.h"
 #include "seating/ui/frmMain_04_Attendees_Flights.h"
@@ -10,6 +11,7 @@
 #include "seating/ui/frmMain_04_Attendees_Tentcards.h"
 #include "seating/ui/frmTable.h"
 #include "seating/ui/frmTableSwap.h"
+#include "seating/ui/usrMapView.h"
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
 
@@ -87,5 +89,11 @@ void RegisterSeatingPages() {
                               [](QWidget* parent) { return new frmMain_04_Attendees_Hotels(parent); });
     modPages::RegisterSubPage(modPages::FlightsSubPage(),
                               [](QWidget* parent) { return new frmMain_04_Attendees_Flights(parent); });
+    // Without a web browser the map comes from a file or the clipboard; the desktop program puts its
+    // browser in.
+    modPages::RegisterDialog(QStringLiteral("frmCaptureMap"), [](QWidget* parent) {
+        frmCaptureMap dialog(new usrPlainMapView, parent);
+        dialog.exec();
+    });
     RegisterScreenshots();
 }
