@@ -72,7 +72,9 @@ void clsGuestRoster::Load(const QList<clsCONTACT>& placed,
 }
 
 void clsGuestRoster::Remember(const clsCONTACT& c) {
-    mGuests.insert(c.CONTACT_ID, {c.LastFirstMiddleSuffix(), c.LastFirstMiddle(), GuestIcon(c.CONTACT_ID)});
+    // A guest brought without a name is "Guest" in both views.
+    mGuests.insert(c.CONTACT_ID, {c.ListName(), c.IsAnonymousGuest() ? c.ListName() : c.LastFirstMiddle(),
+                                  GuestIcon(c.CONTACT_ID)});
 }
 
 bool clsGuestRoster::Know(const QString& contactId) {

@@ -15,6 +15,9 @@
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
 
+#include <QFileInfo>
+#include <QPainter>
+
 namespace {
 
 // The two tables of the demo wedding with the most guests, for the pictures of the editors.
@@ -30,6 +33,31 @@ QStringList BusiestTables() {
     });
 }
 
+// A small town as the captured map of the demo wedding, unless a map was captured.
+void DrawDemoMap() {
+    const QString path = frmCaptureMap::MapPath();
+    if (QFileInfo::exists(path))
+        return;
+    QImage map(frmCaptureMap::FrameSize(), QImage::Format_RGB32);
+    map.fill(QColor(0xf2, 0xef, 0xe6));
+    QPainter painter(&map);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(QRect(150, 330, 120, 90), QColor(0xcf, 0xe6, 0xbf));
+    painter.setBrush(QColor(0xa9, 0xcf, 0xee));
+    painter.setPen(Qt::NoPen);
+    painter.drawRect(QRect(0, 440, 484, 56));
+    painter.setPen(QPen(Qt::white, 9, Qt::SolidLine, Qt::RoundCap));
+    for (int y : {110, 200, 290})
+        painter.drawLine(10, y, 474, y);
+    for (int x : {120, 300, 420})
+        painter.drawLine(x, 10, x, 430);
+    painter.setPen(QPen(QColor(0xfb, 0xe3, 0xa4), 12, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(10, 420, 474, 240);
+    painter.end();
+    gApp().MakeReportPath();
+    map.save(path, "BMP");
+}
+
 // The travel boards of the demo wedding, the first hotel or flight selected.
 template <class Board> QWidget* TravelBoard() {
     auto* page = new Board;
@@ -39,8 +67,10 @@ template <class Board> QWidget* TravelBoard() {
 }
 
 void RegisterTravelScreenshots() {
-    modScreenshots::Register(modPages::HotelsSubPage(),
-                             [] { return TravelBoard<frmMain_04_Attendees_Hotels>(); });
+    modScreenshots::Register(modPages::HotelsSubPage(), [] {
+        DrawDemoMap();
+        return TravelBoard<frmMain_04_Attendees_Hotels>();
+    });
     modScreenshots::Register(modPages::FlightsSubPage(),
                              [] { return TravelBoard<frmMain_04_Attendees_Flights>(); });
     modScreenshots::Register(QStringLiteral("frmHotel"), [] { return new frmHotel(QStringLiteral("1")); });

@@ -19,7 +19,7 @@ public:
     void SetCount(const QString& count, bool overfull);
 
     // Every box has the same size, in pixels.
-    static QSizeF Size() { return {168, 50}; }
+    static QSizeF Size() { return {210, 50}; }
 
     QRectF boundingRect() const override { return {QPointF(0, 0), Size()}; }
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;

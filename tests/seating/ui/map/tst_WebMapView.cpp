@@ -50,11 +50,6 @@ private slots:
     }
 };
 
-// The web engine's own code frees some of its objects through a base of another size; none of ours.
-extern "C" const char* __asan_default_options() {
-    return "new_delete_type_mismatch=0";
-}
-
 int main(int argc, char** argv) {
     modWebMap::Prepare();
     QApplication app(argc, argv);
