@@ -28,6 +28,9 @@ CliCommand SeatCommand();
 CliCommand UnseatCommand();
 CliCommand TablesCommand();
 CliCommand TentcardsCommand();
+CliCommand HouseCommand();
+CliCommand BoardCommand();
+CliCommand TravelCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();
@@ -40,6 +43,9 @@ bool StartForReading(QTextStream& err);
 
 // Prints every table with its seats taken, "Table #n: t of s seats taken"; the exit status.
 int ListTables(QTextStream& out, QTextStream& err);
+
+// Runs the work, printing a refusal of the database on err ("... Nothing was changed."); the exit status.
+int Guarded(const QString& command, QTextStream& err, const std::function<int()>& work);
 
 // Keys and numbers on the command line: whole numbers above 0, at least one of them.
 bool AreKeys(const QStringList& keys);

@@ -41,6 +41,9 @@ const std::vector<CliCommand>& CliCommands() {
         UnseatCommand(),
         TablesCommand(),
         TentcardsCommand(),
+        HouseCommand(),
+        BoardCommand(),
+        TravelCommand(),
     };
     return commands;
 }
