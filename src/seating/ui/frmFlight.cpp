@@ -29,7 +29,7 @@ QString PickerFormat() {
 
 } // namespace
 
-frmFlight::frmFlight(const QString& key, QWidget* parent) : frmEditorBase(parent) {
+frmFlight::frmFlight(const QString& key, QWidget* parent) : frmTravelEditor(parent) {
     setObjectName(QStringLiteral("frmFlight"));
     SetRecordNoun(QStringLiteral("Flight"));
     SetAdding(key.isEmpty());
@@ -61,12 +61,7 @@ frmFlight::frmFlight(const QString& key, QWidget* parent) : frmEditorBase(parent
     mFields.Add(mTo, &clsFLIGHT::ARRIVES_AIRPORT_NM);
     mFields.Add(notes, &clsFLIGHT::NOTES_TX);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(Header());
-    layout->addLayout(form);
-    EditorButtonNames names;
-    names.SaveAndNew = QStringLiteral("cmdSaveNew");
-    layout->addWidget(ButtonRow(names));
+    Lay(form, mNumber, {mName, mFrom, mTo});
 
     if (IsAdding())
         StartNew();
@@ -75,12 +70,7 @@ frmFlight::frmFlight(const QString& key, QWidget* parent) : frmEditorBase(parent
         mDeparts->setDateTime(ParseDateTimeText(mFlight.DEPARTS_DT));
         mArrives->setDateTime(ParseDateTimeText(mFlight.ARRIVES_DT));
     }
-    for (QLineEdit* box : {mNumber, mName, mFrom, mTo})
-        connect(box, &QLineEdit::textChanged, this, &frmFlight::RefreshEnabling);
-    MarkClean();
-    RefreshEnabling();
-    resize(440, sizeHint().height());
-    mName->setFocus();
+    Ready(mName);
 }
 
 QDateTimeEdit* frmFlight::Picker(const QString& name) {
@@ -103,15 +93,6 @@ void frmFlight::StartNew() {
     mArrives->setDateTime(DefaultDeparture().addSecs(2 * 3600));
     mNumber->setText(RecordIO::Read([] { return clsFLIGHT::NEXT_NB(); }));
     mName->setFocus();
-}
-
-// Name, number and both airports are needed.
-void frmFlight::RefreshEnabling() {
-    bool complete = mNumber->hasAcceptableInput();
-    for (QLineEdit* box : {mName, mFrom, mTo})
-        complete = complete && !box->text().trimmed().isEmpty();
-    SaveButton()->setEnabled(complete);
-    SaveAndNewButton()->setEnabled(complete);
 }
 
 QStringList frmFlight::Snapshot() const {

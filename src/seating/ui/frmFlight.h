@@ -2,7 +2,7 @@
 
 #include "seating/clsFLIGHT.h"
 #include "seating/ui/clsFieldSet.h"
-#include "shell/frmEditorBase.h"
+#include "seating/ui/frmTravelEditor.h"
 
 class QDateTimeEdit;
 
@@ -10,7 +10,7 @@ class QDateTimeEdit;
 // starts the next flight. A flight that would arrive before it departs is refused with a message.
 // Children: "txt_0" number, "txt_1" name, "txt_2" airport of departure, "txt_3" airport of arrival,
 // "txt_4" notes, "dtp_0" departs, "dtp_1" arrives, "cmdSave", "cmdSaveNew", "cmdCancel".
-class frmFlight : public frmEditorBase {
+class frmFlight : public frmTravelEditor {
     Q_OBJECT
 
 public:
@@ -27,7 +27,6 @@ protected:
 
 private:
     QDateTimeEdit* Picker(const QString& name);
-    void RefreshEnabling();
 
     clsFLIGHT mFlight;
     clsFieldSet<clsFLIGHT> mFields;

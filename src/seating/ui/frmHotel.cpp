@@ -13,7 +13,7 @@
 
 using namespace modTravelEditors;
 
-frmHotel::frmHotel(const QString& key, QWidget* parent) : frmEditorBase(parent) {
+frmHotel::frmHotel(const QString& key, QWidget* parent) : frmTravelEditor(parent) {
     setObjectName(QStringLiteral("frmHotel"));
     SetRecordNoun(QStringLiteral("Hotel"));
     SetAdding(key.isEmpty());
@@ -55,12 +55,7 @@ frmHotel::frmHotel(const QString& key, QWidget* parent) : frmEditorBase(parent) 
     mFields.Add(mWeb, &clsHOTEL::WEB_SITE_TX);
     mFields.Add(notes, &clsHOTEL::NOTES_TX);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(Header());
-    layout->addLayout(form);
-    EditorButtonNames names;
-    names.SaveAndNew = QStringLiteral("cmdSaveNew");
-    layout->addWidget(ButtonRow(names));
+    Lay(form, mNumber, {mName});
 
     if (IsAdding())
         StartNew();
@@ -68,12 +63,7 @@ frmHotel::frmHotel(const QString& key, QWidget* parent) : frmEditorBase(parent) 
         mFields.Load(mHotel);
         mRooms->setValue(mHotel.ROOMS_NB.toInt());
     }
-    for (QLineEdit* box : {mNumber, mName})
-        connect(box, &QLineEdit::textChanged, this, &frmHotel::RefreshEnabling);
-    MarkClean();
-    RefreshEnabling();
-    resize(460, sizeHint().height());
-    mName->setFocus();
+    Ready(mName);
 }
 
 void frmHotel::StartNew() {
@@ -82,12 +72,6 @@ void frmHotel::StartNew() {
     mRooms->setValue(0);
     mNumber->setText(RecordIO::Read([] { return clsHOTEL::NEXT_NB(); }));
     mName->setFocus();
-}
-
-void frmHotel::RefreshEnabling() {
-    const bool complete = mNumber->hasAcceptableInput() && !mName->text().trimmed().isEmpty();
-    SaveButton()->setEnabled(complete);
-    SaveAndNewButton()->setEnabled(complete);
 }
 
 QStringList frmHotel::Snapshot() const {

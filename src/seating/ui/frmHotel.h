@@ -2,7 +2,7 @@
 
 #include "seating/clsHOTEL.h"
 #include "seating/ui/clsFieldSet.h"
-#include "shell/frmEditorBase.h"
+#include "seating/ui/frmTravelEditor.h"
 
 class QSpinBox;
 class usrHyperlink;
@@ -11,7 +11,7 @@ class usrHyperlink;
 // starts the next hotel. Children: "txt_0" number, "txt_1" name, "txt_2" address, "txt_3" contact,
 // "txt_4" phone, "txt_5" fax, "txt_6" e-mail, "txt_7" web site, "txt_8" rooms, "txt_9" notes,
 // "picEmail", "picWeb", "cmdSave", "cmdSaveNew", "cmdCancel".
-class frmHotel : public frmEditorBase {
+class frmHotel : public frmTravelEditor {
     Q_OBJECT
 
 public:
@@ -26,8 +26,6 @@ protected:
     void StartNew() override;
 
 private:
-    void RefreshEnabling();
-
     clsHOTEL mHotel;
     clsFieldSet<clsHOTEL> mFields;
     QLineEdit* mNumber = nullptr;

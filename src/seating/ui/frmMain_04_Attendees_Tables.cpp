@@ -96,19 +96,14 @@ QString NodeText(const clsDINING_TABLE& table) {
 frmMain_04_Attendees_Tables::frmMain_04_Attendees_Tables(QWidget* parent) : usrPage(parent) {
     setObjectName(modPages::TablesSubPage());
     mUndo = new QUndoStack(this);
-    auto* undo = mUndoAction = mUndo->createUndoAction(this, QStringLiteral("&Undo"));
-    undo->setObjectName(QStringLiteral("mnuUndo"));
-    undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
-    auto* redo = mRedoAction = mUndo->createRedoAction(this, QStringLiteral("&Redo"));
-    redo->setObjectName(QStringLiteral("mnuRedo"));
-    redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    const QList<QAction*> undoRedo = FloorPlan::UndoActions(this, mUndo);
+    mUndoAction = undoRedo.value(0);
+    mRedoAction = undoRedo.value(1);
     auto* fit = new QAction(QStringLiteral("Fit the floor"), this);
     fit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
+    fit->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(fit, &QAction::triggered, this, &frmMain_04_Attendees_Tables::ZoomToFit);
-    for (QAction* action : {undo, redo, fit}) {
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        addAction(action);
-    }
+    addAction(fit);
 
     auto* floor = new clsFloorScene(this);
     floor->Grid = gApp().ShowGrid() != 0;
@@ -132,14 +127,7 @@ frmMain_04_Attendees_Tables::frmMain_04_Attendees_Tables(QWidget* parent) : usrP
         ShowTableMenu(global);
     });
 
-    auto* split = new QSplitter(this);
-    split->addWidget(BuildLeft());
-    split->addWidget(picFloor);
-    split->setStretchFactor(1, 1);
-    split->setSizes({300, 980});
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
-    layout->addWidget(split);
+    FloorPlan::SplitPage(this, BuildLeft(), picFloor);
     BuildMenus();
     Reload();
 }
@@ -173,27 +161,13 @@ QWidget* frmMain_04_Attendees_Tables::BuildLeft() {
     lblAttendees = new QLabel(left);
     lblAttendees->setObjectName(QStringLiteral("lblAttendees"));
 
-    auto* list = new usrGuestTree(false, left);
-    list->setObjectName(QStringLiteral("lvw"));
-    list->setHeaderLabels({QStringLiteral("Name")});
-    list->setRootIsDecorated(false);
+    usrGuestTree* list = FloorPlan::GuestList(left);
     list->OnDrop = [this](const QStringList& ids, bool, const QString&) { UnseatGuests(ids); };
     lvw = list;
 
-    auto* counts = new QHBoxLayout;
-    lblCount = new QLabel(left);
-    lblCount->setObjectName(QStringLiteral("lblCount"));
-    lblDiningTables = new QLabel(left);
-    lblDiningTables->setObjectName(QStringLiteral("lblDiningTables"));
-    counts->addWidget(lblCount);
-    counts->addWidget(lblDiningTables, 1);
-
-    auto* tree = new usrGuestTree(true, left);
-    tree->setObjectName(QStringLiteral("tvw"));
-    tree->setHeaderHidden(true);
+    usrGuestTree* tree = FloorPlan::GroupTree(left);
     tree->OnDrop = [this](const QStringList& ids, bool, const QString& table) { SeatGuests(table, ids); };
     tree->GroupOfRow = [this](QTreeWidgetItem* item) { return mRoster->GroupOfRow(item); };
-    tree->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(tree, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { OnTreeClicked(item); });
     connect(tree, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         QTreeWidgetItem* item = tvw->itemAt(at);
@@ -215,7 +189,7 @@ QWidget* frmMain_04_Attendees_Tables::BuildLeft() {
 
     for (QWidget* w : std::initializer_list<QWidget*>{lblTable, chkGrid, chkReveal, hint, lblAttendees, lvw})
         column->addWidget(w);
-    column->addLayout(counts);
+    FloorPlan::CountRow(column, &lblCount, &lblDiningTables, QStringLiteral("lblDiningTables"));
     column->addWidget(tvw);
     column->setStretchFactor(lvw, 1);
     column->setStretchFactor(tvw, 2);

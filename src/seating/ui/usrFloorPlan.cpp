@@ -3,16 +3,78 @@
 #include "seating/modSeating.h"
 #include "seating/ui/usrFloorItem.h"
 
+#include <QAction>
 #include <QDrag>
 #include <QDragMoveEvent>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QMimeData>
 #include <QPainter>
+#include <QSplitter>
+#include <QUndoStack>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 #include <cmath>
 
 namespace {
 const QColor kGridColor(226, 218, 208);
 } // namespace
+
+namespace FloorPlan {
+
+QList<QAction*> UndoActions(QWidget* page, QUndoStack* stack) {
+    QAction* undo = stack->createUndoAction(page, QStringLiteral("&Undo"));
+    undo->setObjectName(QStringLiteral("mnuUndo"));
+    undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+    QAction* redo = stack->createRedoAction(page, QStringLiteral("&Redo"));
+    redo->setObjectName(QStringLiteral("mnuRedo"));
+    redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    for (QAction* action : {undo, redo}) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        page->addAction(action);
+    }
+    return {undo, redo};
+}
+
+void SplitPage(QWidget* page, QWidget* left, QWidget* board) {
+    auto* split = new QSplitter(page);
+    split->addWidget(left);
+    split->addWidget(board);
+    split->setStretchFactor(1, 1);
+    split->setSizes({300, 980});
+    auto* layout = new QHBoxLayout(page);
+    layout->setContentsMargins(8, 8, 8, 8);
+    layout->addWidget(split);
+}
+
+usrGuestTree* GuestList(QWidget* parent) {
+    auto* list = new usrGuestTree(false, parent);
+    list->setObjectName(QStringLiteral("lvw"));
+    list->setHeaderLabels({QStringLiteral("Name")});
+    list->setRootIsDecorated(false);
+    return list;
+}
+
+usrGuestTree* GroupTree(QWidget* parent) {
+    auto* tree = new usrGuestTree(true, parent);
+    tree->setObjectName(QStringLiteral("tvw"));
+    tree->setHeaderHidden(true);
+    tree->setContextMenuPolicy(Qt::CustomContextMenu);
+    return tree;
+}
+
+void CountRow(QVBoxLayout* column, QLabel** count, QLabel** caption, const QString& captionName) {
+    auto* row = new QHBoxLayout;
+    *count = new QLabel(column->parentWidget());
+    (*count)->setObjectName(QStringLiteral("lblCount"));
+    *caption = new QLabel(column->parentWidget());
+    (*caption)->setObjectName(captionName);
+    row->addWidget(*count);
+    row->addWidget(*caption, 1);
+    column->addLayout(row);
+}
+
+} // namespace FloorPlan
 
 void clsFloorScene::drawBackground(QPainter* painter, const QRectF& exposed) {
     const QRectF area = exposed.intersected(sceneRect());

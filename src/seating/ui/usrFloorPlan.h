@@ -18,6 +18,26 @@ inline constexpr int IsGroupRole = Qt::UserRole + 1;
 inline const QColor FloorColor(252, 249, 244);
 } // namespace FloorPlan
 
+class QAction;
+class QLabel;
+class QUndoStack;
+class QVBoxLayout;
+class usrGuestTree;
+
+// What every board builds alike.
+namespace FloorPlan {
+// Undo (Ctrl+Z, "mnuUndo") and Redo (Ctrl+Shift+Z, "mnuRedo") of the stack, working while the page has
+// the focus; the page's Edit menu shows them.
+QList<QAction*> UndoActions(QWidget* page, QUndoStack* stack);
+// The board's column of links and views on the left, its picture on the right.
+void SplitPage(QWidget* page, QWidget* left, QWidget* board);
+// The list of guests still to be placed ("lvw") and the tree of groups ("tvw"); the roster fills them.
+usrGuestTree* GuestList(QWidget* parent);
+usrGuestTree* GroupTree(QWidget* parent);
+// The row "n Hotels" under the list: the count ("lblCount") and its caption, named as told.
+void CountRow(QVBoxLayout* column, QLabel** count, QLabel** caption, const QString& captionName);
+} // namespace FloorPlan
+
 // The floor: its colour and, while Grid is on, the lines of the 32-pixel cells; or, when it has one, a
 // picture from its top left (a map).
 class clsFloorScene : public QGraphicsScene {

@@ -39,16 +39,9 @@ usrTravelBoard::usrTravelBoard(modTravel::Kind kind, QWidget* parent) : usrPage(
 
 void usrTravelBoard::Build() {
     mUndo = new QUndoStack(this);
-    mUndoAction = mUndo->createUndoAction(this, QStringLiteral("&Undo"));
-    mUndoAction->setObjectName(QStringLiteral("mnuUndo"));
-    mUndoAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
-    mRedoAction = mUndo->createRedoAction(this, QStringLiteral("&Redo"));
-    mRedoAction->setObjectName(QStringLiteral("mnuRedo"));
-    mRedoAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
-    for (QAction* action : {mUndoAction, mRedoAction}) {
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        addAction(action);
-    }
+    const QList<QAction*> undoRedo = FloorPlan::UndoActions(this, mUndo);
+    mUndoAction = undoRedo.value(0);
+    mRedoAction = undoRedo.value(1);
 
     mBoard = new clsFloorScene(this);
     mBoard->Grid = false;
@@ -58,14 +51,7 @@ void usrTravelBoard::Build() {
     picMap->setAlignment(Qt::AlignCenter);
     picMap->installEventFilter(this);
 
-    auto* split = new QSplitter(this);
-    split->addWidget(BuildLeft());
-    split->addWidget(picMap);
-    split->setStretchFactor(1, 1);
-    split->setSizes({300, 980});
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
-    layout->addWidget(split);
+    FloorPlan::SplitPage(this, BuildLeft(), picMap);
 
     mnuGuest = new QMenu(this);
     mnuGuest->setObjectName(QStringLiteral("mnuGuest"));
@@ -85,20 +71,9 @@ QWidget* usrTravelBoard::BuildLeft() {
     hint->setObjectName(QStringLiteral("lblHint"));
     lblAttendees = new QLabel(left);
     lblAttendees->setObjectName(QStringLiteral("lblAttendees"));
-    auto* list = new usrGuestTree(false, left);
-    list->setObjectName(QStringLiteral("lvw"));
-    list->setHeaderLabels({QStringLiteral("Name")});
-    list->setRootIsDecorated(false);
+    usrGuestTree* list = FloorPlan::GuestList(left);
     list->OnDrop = [this](const QStringList& ids, bool, const QString&) { AssignGuests(QString(), ids); };
     lvw = list;
-
-    auto* counts = new QHBoxLayout;
-    lblCount = new QLabel(left);
-    lblCount->setObjectName(QStringLiteral("lblCount"));
-    lblGroups = new QLabel(left);
-    lblGroups->setObjectName(QStringLiteral("lblGroups"));
-    counts->addWidget(lblCount);
-    counts->addWidget(lblGroups, 1);
 
     tvw = BuildTree(left);
     mRoster = std::make_unique<clsGuestRoster>(lvw, tvw);
@@ -106,7 +81,7 @@ QWidget* usrTravelBoard::BuildLeft() {
 
     for (QWidget* w : std::initializer_list<QWidget*>{hint, lblAttendees, lvw})
         column->addWidget(w);
-    column->addLayout(counts);
+    FloorPlan::CountRow(column, &lblCount, &lblGroups, QStringLiteral("lblGroups"));
     column->addWidget(tvw);
     column->setStretchFactor(lvw, 1);
     column->setStretchFactor(tvw, 2);
@@ -114,12 +89,9 @@ QWidget* usrTravelBoard::BuildLeft() {
 }
 
 QTreeWidget* usrTravelBoard::BuildTree(QWidget* parent) {
-    auto* tree = new usrGuestTree(true, parent);
-    tree->setObjectName(QStringLiteral("tvw"));
-    tree->setHeaderHidden(true);
+    usrGuestTree* tree = FloorPlan::GroupTree(parent);
     tree->OnDrop = [this](const QStringList& ids, bool, const QString& group) { AssignGuests(group, ids); };
     tree->GroupOfRow = [this](QTreeWidgetItem* item) { return mRoster->GroupOfRow(item); };
-    tree->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(tree, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
         if (item && item->data(0, FloorPlan::IsGroupRole).toBool())
             SelectGroup(mRoster->GroupOfRow(item));

@@ -43,19 +43,10 @@ class tst_CaptureMap : public QObject {
     Q_OBJECT
 
     std::unique_ptr<TestDatabase> db;
-    clsCapturingMessageSink* messages = nullptr;
 
 private slots:
-    void init() {
-        db = std::make_unique<TestDatabase>();
-        auto sink = std::make_unique<clsCapturingMessageSink>();
-        messages = sink.get();
-        SetMessageSink(std::move(sink));
-    }
-    void cleanup() {
-        SetMessageSink(nullptr);
-        db.reset();
-    }
+    void init() { db = std::make_unique<TestDatabase>(); }
+    void cleanup() { db.reset(); }
 
     // The frame stays in the middle of the view as the window changes size, with its lines around it.
     void frameStaysCentred_data() {
@@ -125,8 +116,8 @@ private slots:
         QFile::remove(gApp().ReportPath());
         QCOMPARE(captured.size(), 0);
         QVERIFY(dialog.isVisible());
-        QCOMPARE(messages->Prompts.size(), 1);
-        QVERIFY(messages->Prompts.first().startsWith("The map could not be saved as"));
+        QCOMPARE(db->Messages().Prompts.size(), 1);
+        QVERIFY(db->Messages().Prompts.first().startsWith("The map could not be saved as"));
     }
 
     // A picture from a file or the clipboard is cut to the frame's shape in its middle, then scaled.

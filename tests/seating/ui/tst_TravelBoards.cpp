@@ -3,6 +3,7 @@
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
 #include "seating/SeatingTestData.h"
+#include "seating/ui/GuestDropTools.h"
 #include "seating/ui/frmFlight.h"
 #include "seating/ui/frmHotel.h"
 #include "seating/ui/frmMain_04_Attendees_Flights.h"
@@ -27,17 +28,6 @@ using SeatingTestData::AddGuests;
 using UiTestTools::Child;
 
 namespace {
-
-// Guests dragged onto a widget at a point: enter, move, drop.
-void DropGuests(QWidget* target, const QPoint& at, const QStringList& ids, bool fromGroup) {
-    std::unique_ptr<QMimeData> data(GuestDrag::Make(ids, fromGroup));
-    QDragEnterEvent enter(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &enter);
-    QDragMoveEvent move(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &move);
-    QDropEvent drop(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &drop);
-}
 
 QString AddHotel(int id, const QString& name, int rooms = 10) {
     TestDatabase::Exec("INSERT INTO HOTEL (HOTEL_ID, HOTEL_NB, HOTEL_NM, ROOMS_NB, POS_X, POS_Y) "
@@ -85,21 +75,14 @@ class tst_TravelBoards : public QObject {
     Q_OBJECT
 
     std::unique_ptr<TestDatabase> db;
-    clsCapturingMessageSink* messages = nullptr;
 
 private slots:
     void init() {
         db = std::make_unique<TestDatabase>();
-        auto sink = std::make_unique<clsCapturingMessageSink>();
-        messages = sink.get();
-        SetMessageSink(std::move(sink));
         // The couple attend and so stand in every list; these tests count only the guests they add.
         TestDatabase::Exec("UPDATE CONTACT SET ATTENDING_FG = 'N' WHERE CONTACT_ID IN (1, 2)");
     }
-    void cleanup() {
-        SetMessageSink(nullptr);
-        db.reset();
-    }
+    void cleanup() { db.reset(); }
 
     void boards_data() {
         QTest::addColumn<bool>("hotel");
@@ -158,7 +141,7 @@ private slots:
         QVERIFY(!page->AssignGuests(a, {guests[0], "999"}));
         QCOMPARE(GroupInDb(hotel, guests[0]), QString());
         QCOMPARE(page->ListedIds(), guests);
-        QCOMPARE(messages->Prompts.size(), 1);
+        QCOMPARE(db->Messages().Prompts.size(), 1);
     }
 
     // A box dropped beyond any edge lands inside the picture, and the database keeps where.
@@ -198,9 +181,9 @@ private slots:
         frmMain_04_Attendees_Flights page;
         QCOMPARE(page.ListedIds(), QStringList());
         page.SelectGroup(flight);
-        messages->NextAnswer = Msg::Yes;
+        db->Messages().NextAnswer = Msg::Yes;
         page.DeleteSelected();
-        QCOMPARE(messages->Prompts, QStringList{"Delete flight: United 88?"});
+        QCOMPARE(db->Messages().Prompts, QStringList{"Delete flight: United 88?"});
         QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM FLIGHT"), QStringLiteral("0"));
         QCOMPARE(page.ListedIds(), guests);
         QCOMPARE(page.Box(flight), nullptr);
@@ -276,7 +259,7 @@ private slots:
         Child<QDateTimeEdit>(editor, "dtp_0")->setDateTime(leaves);
         Child<QDateTimeEdit>(editor, "dtp_1")->setDateTime(leaves.addSecs(minutesInAir * 60));
         QCOMPARE(editor.Save(), saved);
-        QCOMPARE(messages->Prompts,
+        QCOMPARE(db->Messages().Prompts,
                  saved ? QStringList() : QStringList{frmFlight::ArrivesBeforeDepartsMessage()});
         QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM FLIGHT"),
                  saved ? QStringLiteral("1") : QStringLiteral("0"));
