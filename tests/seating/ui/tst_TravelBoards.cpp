@@ -2,6 +2,7 @@
 #include "UiTestTools.h"
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
+#include "reports/clsReportCatalogue.h"
 #include "seating/SeatingTestData.h"
 #include "seating/ui/GuestDropTools.h"
 #include "seating/ui/frmFlight.h"
@@ -10,10 +11,13 @@
 #include "seating/ui/frmMain_04_Attendees_Hotels.h"
 #include "seating/ui/usrFloorPlan.h"
 #include "seating/ui/usrTravelBox.h"
+#include "shell/controls/usrHyperlink.h"
+#include "shell/modPages.h"
 
 #include <QApplication>
 #include <QDateTimeEdit>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -170,6 +174,30 @@ private slots:
                                              .arg(qRound(expectedPixels.x() * twips))
                                              .arg(qRound(expectedPixels.y() * twips)));
         QCOMPARE(page->Box(a)->pos(), expectedPixels);
+    }
+
+    // "Print reports" opens the board's section of the report screen; the hotels write their map first.
+    void printReports_data() {
+        QTest::addColumn<bool>("hotel");
+        QTest::addColumn<int>("section");
+        QTest::newRow("hotels") << true << int(clsReportCatalogue::Hotels);
+        QTest::newRow("flights") << false << int(clsReportCatalogue::Flights);
+    }
+    void printReports() {
+        QFETCH(bool, hotel);
+        QFETCH(int, section);
+        QList<int> asked;
+        modPages::RegisterReports([&asked](QWidget*, int key, int row) { asked = {key, row}; });
+        auto page = MakeBoard(hotel);
+        usrHyperlink* print = nullptr;
+        for (usrHyperlink* link : page->findChildren<usrHyperlink*>())
+            if (link->Caption() == QLatin1String("Print reports"))
+                print = link;
+        QVERIFY(print);
+        QTest::mouseClick(print, Qt::LeftButton);
+        modPages::Clear();
+        QCOMPARE(asked, (QList<int>{section, 1}));
+        QCOMPARE(QFileInfo::exists(gApp().ReportPath() + "/HotelMap.bmp"), hotel);
     }
 
     // Deleting a flight returns its passengers to the list at once.
