@@ -200,6 +200,20 @@ private slots:
         QCOMPARE(QFileInfo::exists(gApp().ReportPath() + "/HotelMap.bmp"), hotel);
     }
 
+    // A hotel or flight added by its editor gets its box where no other box stands.
+    void newBoxFindsAFreePlace_data() { boards_data(); }
+    void newBoxFindsAFreePlace() {
+        QFETCH(bool, hotel);
+        const QString first = AddGroup(hotel, 1, "Harbourview");
+        auto page = MakeBoard(hotel);
+        const QString second = AddGroup(hotel, 2, "Vendue");
+        page->mfrmGroup_Added(second);
+        QVERIFY(PositionInDb(hotel, second) != PositionInDb(hotel, first));
+        QVERIFY(!page->Box(second)->sceneBoundingRect().intersects(page->Box(first)->sceneBoundingRect()));
+        QVERIFY(page->Board()->sceneRect().contains(page->Box(second)->sceneBoundingRect()));
+        QCOMPARE(page->SelectedGroupId(), second);
+    }
+
     // Deleting a flight returns its passengers to the list at once.
     void deletedFlightReturnsPassengers() {
         const QString flight = AddFlight(1, "United 88");
