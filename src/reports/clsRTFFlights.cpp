@@ -17,10 +17,15 @@ QList<clsRTFReport::Column> clsRTFFlights::Columns() const {
     return {{"RSVP ID", 1440, 1440}, {"Contact Name", 7000, 4500}, {"Phone", 9000, 6500}, {"E-mail", 0, 0}};
 }
 
-// Passengers come in the order of their flights' arrival, so a flight's people stand together.
+// Passengers come in the order of their flights' arrival.
 void clsRTFFlights::PrintRows() {
     QString flight;
-    for (const clsCONTACT& c : clsCONTACT::OpenRecords(ContactFilter::AttendingWithFlight)) {
+    // Two flights that land at the same minute keep their passengers apart.
+    const QList<clsCONTACT> passengers = clsCONTACT::OpenRecords(
+        ContactFilter::AttendingWithFlight, {},
+        QStringLiteral("FLIGHT.ARRIVES_DT, FLIGHT.FLIGHT_NB, INVITE.INVITE_RSVP_ID, CONTACT.LAST_NM, "
+                       "CONTACT.FIRST_NM"));
+    for (const clsCONTACT& c : passengers) {
         if (c.FLIGHT_ID != flight) {
             flight = c.FLIGHT_ID;
             GroupRow(clsRTFMaster::BOLD(c.FLIGHT_NM) + RtfMarkup::LineBreak() +

@@ -114,6 +114,24 @@ private slots:
         }
     }
 
+    // Two flights landing at the same minute: each has one group row with its own passengers, even when
+    // their invitations interleave.
+    void flightsLandingTogether() {
+        TestDatabase::Exec("UPDATE FLIGHT SET ARRIVES_DT = '2027-06-04 11:40:00' WHERE FLIGHT_ID = 2");
+        TestDatabase::Exec("UPDATE CONTACT SET FLIGHT_ID = 2 WHERE GUEST_OF_ID IS NOT NULL");
+        TestDatabase::Exec("UPDATE CONTACT SET ATTENDING_FG = 'Y', FLIGHT_ID = 2 WHERE FIRST_NM = 'Eve'");
+        const Shown shown = Write(Route("clsRTFFlights"), false);
+        TestDatabase::Exec("UPDATE FLIGHT SET ARRIVES_DT = '2027-06-04 14:05:00' WHERE FLIGHT_ID = 2");
+        TestDatabase::Exec("UPDATE CONTACT SET FLIGHT_ID = 1 WHERE GUEST_OF_ID IS NOT NULL");
+        TestDatabase::Exec("UPDATE CONTACT SET ATTENDING_FG = NULL, FLIGHT_ID = NULL WHERE FIRST_NM = 'Eve'");
+        QStringList groups;
+        for (const QStringList& row : shown.Rows)
+            if (row.size() == 1)
+                groups << row.first().section("\r\n", 0, 0);
+        QCOMPARE(groups, (QStringList{"United Flight #88", "Delta Flight #12"}));
+        QCOMPARE(shown.Rows.size(), 1 + 2 + 3);
+    }
+
     // Names print bold and notes italic; a group row spans the table.
     void styles() {
         const Shown overview = Write(Route("clsRTFFlightOverview"), true);
