@@ -49,6 +49,9 @@ const std::vector<CliCommand>& CliCommands() {
         TentcardsCommand(),
         ImportCommand(),
         ChecklistCommand(),
+        HouseCommand(),
+        BoardCommand(),
+        TravelCommand(),
     };
     return commands;
 }

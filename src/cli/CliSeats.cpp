@@ -5,12 +5,6 @@
 #include "core/clsDB.h"
 #include "seating/modSeating.h"
 
-namespace {
-
-const QString kSeatUsage = QStringLiteral("seat --table NUMBER ID...");
-const QString kUnseatUsage = QStringLiteral("unseat ID...");
-
-// Runs the work, printing a refusal of the database on err; the exit status.
 int Guarded(const QString& command, QTextStream& err, const std::function<int()>& work) {
     try {
         return work();
@@ -20,6 +14,11 @@ int Guarded(const QString& command, QTextStream& err, const std::function<int()>
         return kExitFailed;
     }
 }
+
+namespace {
+
+const QString kSeatUsage = QStringLiteral("seat --table NUMBER ID...");
+const QString kUnseatUsage = QStringLiteral("unseat ID...");
 
 int RunSeat(const QStringList& args, QTextStream& out, QTextStream& err) {
     const QString number = args.value(1);

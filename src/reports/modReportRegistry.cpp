@@ -3,6 +3,10 @@
 #include "reports/clsRTFAttendees.h"
 #include "reports/clsRTFAttendeesTabulaRasa.h"
 #include "reports/clsRTFContacts.h"
+#include "reports/clsRTFFlightOverview.h"
+#include "reports/clsRTFFlights.h"
+#include "reports/clsRTFHotelOverview.h"
+#include "reports/clsRTFHotels.h"
 #include "reports/clsRTFInvitation.h"
 #include "reports/clsRTFMeal.h"
 #include "reports/clsRTFNotebook.h"
@@ -56,4 +60,8 @@ void RegisterReportClasses() {
     Register<clsRTFStatistics>();
     Register<clsRTFTask>(TakeFilter);
     Register<clsRTFNotebook>();
+    Register<clsRTFFlights>();
+    Register<clsRTFFlightOverview>();
+    Register<clsRTFHotels>();
+    Register<clsRTFHotelOverview>();
 }

@@ -252,6 +252,22 @@ check "checklist --refresh-due-dates" 0 '^Refreshed the due dates from the weddi
 check "a second refresh changes nothing" 0 ': 0 tasks changed$' "$cli" checklist --refresh-due-dates
 check "a task of frame 10 falls due the day after the wedding" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM TASK WHERE TASK_GROUP_ID = 10 AND DUE_DT IS NOT date('$wedding', '+1 day')"
 check "a task of frame 0 falls due a year before" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM TASK WHERE TASK_GROUP_ID = 0 AND DUE_DT IS NOT date('$wedding', '-365 days')"
+# Travel: guests given a hotel or a flight, all of them or none, and the reports of both.
+hotel_of() { "$cli" sql "SELECT IFNULL(HOTEL_ID, 'none') FROM CONTACT WHERE CONTACT_ID = $1" | tail -1 | tr -d '"\r'; }
+check "travel lists the hotels" 0 '^Hotel #1 - .+: [0-9]+ guests?, [0-9]+ rooms?$' "$cli" travel
+check "travel lists the flights" 0 '^Flight #1 - .+: [0-9]+ passengers?$' "$cli" travel
+check "house two guests" 0 "^Hotel #2: ${ids[0]} ${ids[1]}$" "$cli" house --hotel 2 "${ids[0]}" "${ids[1]}"
+check "they stay at hotel 2" 0 '^2$' hotel_of "${ids[1]}"
+check "house with an unknown guest" 1 'no contact with the key 99999\. Nothing was changed' "$cli" house --hotel 1 "${ids[0]}" 99999
+check "nobody moved" 0 '^2$' hotel_of "${ids[0]}"
+check "house at an unknown hotel" 1 'there is no hotel #77\. Nothing was changed' "$cli" house --hotel 77 "${ids[0]}"
+check "house --none" 0 "^No hotel: ${ids[0]}$" "$cli" house --none "${ids[0]}"
+check "no hotel any more" 0 '^none$' hotel_of "${ids[0]}"
+check "board without a flight" 2 'usage: board \(--flight NUMBER \| --none\) ID' "$cli" board "${ids[0]}"
+check "board a flight" 0 "^Flight #1: ${ids[2]}$" "$cli" board --flight 1 "${ids[2]}"
+check "travel takes no arguments" 2 'usage: travel' "$cli" travel --all
+check "the hotels report" 0 '04_Hotels_.*\.rtf$' "$cli" report Hotels
+check "the flight overview as CSV" 0 '04_FlightOverview_.*\.csv$' "$cli" report Flights --filter 2 --format csv
 
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
