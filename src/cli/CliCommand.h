@@ -28,6 +28,8 @@ CliCommand SeatCommand();
 CliCommand UnseatCommand();
 CliCommand TablesCommand();
 CliCommand TentcardsCommand();
+CliCommand WeddingCommand();
+CliCommand IcsCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

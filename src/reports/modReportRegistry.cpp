@@ -2,7 +2,9 @@
 
 #include "reports/clsRTFAttendees.h"
 #include "reports/clsRTFAttendeesTabulaRasa.h"
+#include "reports/clsRTFCalendar.h"
 #include "reports/clsRTFContacts.h"
+#include "reports/clsRTFEvent.h"
 #include "reports/clsRTFInvitation.h"
 #include "reports/clsRTFMeal.h"
 #include "reports/clsRTFRSVP.h"
@@ -11,6 +13,7 @@
 #include "reports/clsRTFTable.h"
 #include "reports/clsRTFTableLayout.h"
 #include "reports/clsRTFTentcard.h"
+#include "reports/clsRTFTimeline.h"
 #include "reports/clsReportClasses.h"
 
 #include <functional>
@@ -52,4 +55,13 @@ void RegisterReportClasses() {
     Register<clsRTFTableLayout>();
     Register<clsRTFTentcard>();
     Register<clsRTFStatistics>();
+    Register<clsRTFEvent>();
+    Register<clsRTFTimeline>(TakeFilter);
+    // The months come with the route ("2027-01:2027-06"), or else from the month dialog's settings.
+    clsReportClasses::Register(QStringLiteral("clsRTFCalendar"), [](const clsReportRoute& route) {
+        clsRTFCalendar calendar;
+        if (!calendar.SetRange(route.Argument))
+            calendar.TakeStoredRange();
+        return calendar.Build();
+    });
 }
