@@ -20,15 +20,16 @@ QString Property(const char* name, const QString& text) {
     return QLatin1String(name) + QLatin1Char(':') + EscapeText(text);
 }
 
-// A stored value holds a time when something follows its date.
-bool HasTime(const QString& stored) {
-    return stored.trimmed().size() > 10;
+// A value read from the database holds a time when something follows its date (midnight reads as the
+// date alone).
+bool HasTime(const QString& value) {
+    return value.trimmed().size() > 11;
 }
 
-// DTSTART or DTEND of a stored value: a moment in UTC, or a date alone.
-QString DateProperty(const char* name, const QString& stored) {
-    const QDateTime moment = ParseDateTimeText(stored);
-    if (HasTime(stored))
+// DTSTART or DTEND: a moment in UTC, or a date alone.
+QString DateProperty(const char* name, const QString& value, bool timed) {
+    const QDateTime moment = ParseDateTimeText(value);
+    if (timed)
         return QLatin1String(name) + QLatin1Char(':') + UtcText(moment);
     return QLatin1String(name) + QStringLiteral(";VALUE=DATE:") + DateText(moment.date());
 }
@@ -53,7 +54,7 @@ void AddText(Entry& entry, const char* name, const QString& text) {
 
 Entry EventEntry(const clsEVENT& event) {
     Entry entry{QStringLiteral("EVENT-%1@vowren").arg(event.EVENT_ID), {}};
-    entry.Properties << DateProperty("DTSTART", event.EVENT_DT);
+    entry.Properties << DateProperty("DTSTART", event.EVENT_DT, HasTime(event.EVENT_DT));
     AddText(entry, "SUMMARY", event.EVENT_TX);
     AddText(entry, "LOCATION", event.DisplayAddress(false));
     AddText(entry, "DESCRIPTION",
@@ -66,10 +67,10 @@ Entry EventEntry(const clsEVENT& event) {
 
 Entry TimelineEntry(const clsTIMELINE& item, const QHash<QString, clsEVENT>& events) {
     Entry entry{QStringLiteral("TIMELINE-%1@vowren").arg(item.TIMELINE_ID), {}};
-    entry.Properties << DateProperty("DTSTART", item.TIMELINE_START_DT);
+    entry.Properties << DateProperty("DTSTART", item.TIMELINE_START_DT, true);
     // An entry that ends where it starts is a moment: no end.
     if (ParseDateTimeText(item.TIMELINE_END_DT) > ParseDateTimeText(item.TIMELINE_START_DT))
-        entry.Properties << DateProperty("DTEND", item.TIMELINE_END_DT);
+        entry.Properties << DateProperty("DTEND", item.TIMELINE_END_DT, true);
     AddText(entry, "SUMMARY", item.TIMELINE_DESC);
     AddText(entry, "LOCATION", events.value(item.EVENT_ID).DisplayAddress(false));
     AddText(entry, "DESCRIPTION",

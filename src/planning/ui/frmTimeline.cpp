@@ -78,6 +78,12 @@ frmTimeline::frmTimeline(const QString& timelineId, const QString& eventId, QWid
     txtDesc->setFocus();
 }
 
+// A time box that loses the focus while the dialog goes would still report the end of its editing.
+frmTimeline::~frmTimeline() {
+    for (QObject* sender : {static_cast<QObject*>(cboStart->lineEdit()), static_cast<QObject*>(cboEnd->lineEdit())})
+        sender->disconnect(this);
+}
+
 QWidget* frmTimeline::BuildFields() {
     auto* fields = new QWidget(this);
     QFormLayout* form = modLayout::Form(fields);

@@ -23,6 +23,7 @@ class frmTimeline : public frmEditorBase {
 public:
     // An empty key adds an entry, for the given event (or none chosen yet when that is empty too).
     frmTimeline(const QString& timelineId, const QString& eventId, QWidget* parent = nullptr);
+    ~frmTimeline() override;
 
     const clsTIMELINE& Entry() const { return mEntry; }
     // The duration a new end is given, in minutes.
