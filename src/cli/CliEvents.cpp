@@ -64,7 +64,9 @@ int RunWedding(const QStringList& args, QTextStream& out, QTextStream& err) {
         const bool known = wedding.OpenRecord(QStringLiteral("1"));
         // Without --time the hour stays as it was (noon for a new wedding day).
         const QDateTime before = ParseDateTimeText(wedding.EVENT_DT);
-        clsEVENT::MoveWeddingDay(date, time.isValid() ? time : known && before.isValid() ? before.time() : QTime(12, 0));
+        clsEVENT::MoveWeddingDay(date, time.isValid()              ? time
+                                       : known && before.isValid() ? before.time()
+                                                                   : QTime(12, 0));
         out << gWeddingEvent().EVENT_DT_DateTimeFormat() << '\n';
         return kExitOk;
     } catch (const clsDbError& e) {
@@ -107,10 +109,11 @@ int RunIcs(const QStringList& args, QTextStream& out, QTextStream& err) {
 } // namespace
 
 CliCommand WeddingCommand() {
-    return {QStringLiteral("wedding"), QString::fromLatin1(kWeddingUsage),
-            QStringLiteral("Print the wedding day's date and time; with --date (and --time) move it, as saving "
-                           "the Wedding Day in the event editor does."),
-            RunWedding};
+    return {
+        QStringLiteral("wedding"), QString::fromLatin1(kWeddingUsage),
+        QStringLiteral("Print the wedding day's date and time; with --date (and --time) move it, as saving "
+                       "the Wedding Day in the event editor does."),
+        RunWedding};
 }
 
 CliCommand IcsCommand() {

@@ -90,7 +90,8 @@ Entry TaskEntry(const clsTASK& task) {
 }
 
 QByteArray Fingerprint(const Entry& entry) {
-    return QCryptographicHash::hash(entry.Properties.join(QLatin1Char('\n')).toUtf8(), QCryptographicHash::Sha1)
+    return QCryptographicHash::hash(entry.Properties.join(QLatin1Char('\n')).toUtf8(),
+                                    QCryptographicHash::Sha1)
         .toHex();
 }
 
@@ -162,7 +163,8 @@ QList<Entry> ReadEntries() {
 }
 
 QByteArray Document(const QList<Entry>& entries, Memory& memory, const QDateTime& stampUtc) {
-    const QString stamp = QStringLiteral("DTSTAMP:") + stampUtc.toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
+    const QString stamp =
+        QStringLiteral("DTSTAMP:") + stampUtc.toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
     QByteArray out;
     out.reserve(entries.size() * 300 + 200);
     const auto line = [&out](const QString& text) { out += FoldLine(text); };
@@ -225,7 +227,8 @@ QString DefaultPath() {
 
 int Export(const QString& path, QString* error) {
     const QList<Entry> entries = ReadEntries();
-    Memory memory = ReadMemory(MemoryPath());
+    const Memory before = ReadMemory(MemoryPath());
+    Memory memory = before;
     const QByteArray document = Document(entries, memory, Now());
     clsPrivateFile file(path);
     if (!file.Open() || !file.Write(document.constData(), document.size()) || !file.Commit()) {
@@ -234,7 +237,7 @@ int Export(const QString& path, QString* error) {
         return -1;
     }
     QString memoryError;
-    if (!WriteMemory(MemoryPath(), memory, &memoryError) && error)
+    if (memory != before && !WriteMemory(MemoryPath(), memory, &memoryError) && error)
         *error = memoryError;
     return int(entries.size());
 }

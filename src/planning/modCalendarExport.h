@@ -25,6 +25,7 @@ struct Entry {
 struct Written {
     QByteArray Fingerprint;
     int Sequence = 0;
+    bool operator==(const Written&) const = default;
 };
 using Memory = QHash<QString, Written>;
 

@@ -65,8 +65,10 @@ bool clsCalendarMonths::SetRange(const QString& text) {
     const QStringList parts = text.split(QLatin1Char(':'));
     if (parts.size() != 2)
         return false;
-    const QDate from = QDate::fromString(parts[0].trimmed() + QStringLiteral("-01"), QStringLiteral("yyyy-MM-dd"));
-    const QDate to = QDate::fromString(parts[1].trimmed() + QStringLiteral("-01"), QStringLiteral("yyyy-MM-dd"));
+    const QDate from =
+        QDate::fromString(parts[0].trimmed() + QStringLiteral("-01"), QStringLiteral("yyyy-MM-dd"));
+    const QDate to =
+        QDate::fromString(parts[1].trimmed() + QStringLiteral("-01"), QStringLiteral("yyyy-MM-dd"));
     if (!from.isValid() || !to.isValid())
         return false;
     FromMonthNumber = from.month();
@@ -104,7 +106,8 @@ void clsCalendarMonths::StoreRange() const {
 
 QString clsRTFCalendar::Build() {
     RTF.SetGlobalSettings();
-    RTF.FILE_NAME = clsReportCatalogue::ReportFileName(clsReportCatalogue::FilePrefix(QStringLiteral("clsRTFCalendar")));
+    RTF.FILE_NAME =
+        clsReportCatalogue::ReportFileName(clsReportCatalogue::FilePrefix(QStringLiteral("clsRTFCalendar")));
     RTF.PRINT_HEADER_DATE = false;
     RTF.PRINT_FOOTER = false;
     RTF.MARGIN_TOP = 0.5F;
@@ -141,7 +144,8 @@ void clsRTFCalendar::PrintMonth(int year, int month) {
     RTF.PrintCells();
     RTF.SetCellsCELL_BACKCOLOR(clsRTFMasterTemp::NoColor);
 
-    const QHash<QDate, QStringList> events = EventsByDay(QDate(year, month, 1), QDate(year, month, 1).addMonths(1).addDays(-1));
+    const QHash<QDate, QStringList> events =
+        EventsByDay(QDate(year, month, 1), QDate(year, month, 1).addMonths(1).addDays(-1));
     for (const QList<int>& week : MonthWeeks(year, month)) {
         for (int i = 0; i < 7; ++i) {
             clsRTFCell& cell = RTF.RTFCells[i];

@@ -21,9 +21,12 @@ RtfMarkup clsRTFEvent::Statistics() const {
 }
 
 QList<clsRTFReport::Column> clsRTFEvent::Columns() const {
-    return {{"Event", 2400, 2100},   {"Date", 3800, 3500},
-            {"Address", 7000, 4900}, {"Contact", 9000, 6700},
-            {"Phone/Fax/E-mail", 11290, 8700}, {"Website", 0, 0}};
+    return {{"Event", 2400, 2100},
+            {"Date", 3800, 3500},
+            {"Address", 7000, 4900},
+            {"Contact", 9000, 6700},
+            {"Phone/Fax/E-mail", 11290, 8700},
+            {"Website", 0, 0}};
 }
 
 void clsRTFEvent::PrintRows() {
@@ -34,7 +37,7 @@ void clsRTFEvent::PrintRows() {
         const QString numbers = Stacked(Stacked(Labelled(QStringLiteral("(p) "), event.PHONE_TX),
                                                 Labelled(QStringLiteral("(f) "), event.FAX_TX)),
                                         event.EMAIL_TX);
-        PrintRow({name, event.EVENT_DT_DateTimeFormat(), event.DisplayAddress(true), event.CONTACT_NM, numbers,
-                  event.WEB_SITE_TX});
+        PrintRow({name, event.EVENT_DT_DateTimeFormat(), event.DisplayAddress(true), event.CONTACT_NM,
+                  numbers, event.WEB_SITE_TX});
     }
 }

@@ -12,7 +12,8 @@ RtfMarkup clsRTFTimeline::Statistics() const {
 }
 
 QList<clsRTFReport::Column> clsRTFTimeline::Columns() const {
-    return {{"Time", 2400, 2400}, {"Duration", 4200, 4200}, {"Description", 10800, 8000}, {"Contact(s)", 0, 0}};
+    return {
+        {"Time", 2400, 2400}, {"Duration", 4200, 4200}, {"Description", 10800, 8000}, {"Contact(s)", 0, 0}};
 }
 
 void clsRTFTimeline::PrintRows() {

@@ -17,7 +17,8 @@ namespace {
 
 // Text that has broken calendar files before: the separators of the format, quotes, a backslash, line
 // breaks, markup and other scripts.
-const QString kNasty = QStringLiteral("Toast; \"Cheers\", \\o/ <script>alert(1)</script>\r\nΧαίρετε — 乾杯 🥂");
+const QString kNasty =
+    QStringLiteral("Toast; \"Cheers\", \\o/ <script>alert(1)</script>\r\nΧαίρετε — 乾杯 🥂");
 
 // Parses the file with vobject, validates it, and gives each VEVENT's values by UID; an empty object when
 // no Python with vobject is there (the reason in *missing).
@@ -42,7 +43,8 @@ print(json.dumps(events))
         run.start(python, {QStringLiteral("-c"), QLatin1String(script), path});
         run.waitForFinished(60000);
         if (run.exitCode() != 0) {
-            *missing = QStringLiteral("vobject refused the file: ") + QString::fromUtf8(run.readAllStandardError());
+            *missing =
+                QStringLiteral("vobject refused the file: ") + QString::fromUtf8(run.readAllStandardError());
             return {{QStringLiteral("refused"), true}};
         }
         return QJsonDocument::fromJson(run.readAllStandardOutput()).object();
@@ -55,7 +57,6 @@ QByteArray FileBytes(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
-
 
 void AddTask(const QString& name, const QString& due, const QString& completed) {
     clsTASK task;
@@ -88,14 +89,15 @@ class tst_CalendarExport : public QObject {
         TestDatabase::Exec(QStringLiteral("DELETE FROM TIMELINE"));
         TestDatabase::Exec(QStringLiteral("DELETE FROM TASK"));
         TestDatabase::Exec(QStringLiteral("DELETE FROM EVENT"));
-        AddTestEvent(QStringLiteral("1"), QStringLiteral("Wedding"), QStringLiteral("05-Jun-2027 3:30 PM"), kNasty);
+        AddTestEvent(QStringLiteral("1"), QStringLiteral("Wedding"), QStringLiteral("05-Jun-2027 3:30 PM"),
+                     kNasty);
         AddTestEvent(QStringLiteral("2"), kNasty, QStringLiteral("2027-06-04 18:00:00"));
         AddTestEntry(QStringLiteral("1"), QStringLiteral("Ceremony"), QStringLiteral("05-Jun-2027 3:30 PM"),
-                 QStringLiteral("05-Jun-2027 4:00 PM"));
+                     QStringLiteral("05-Jun-2027 4:00 PM"));
         AddTestEntry(QStringLiteral("1"), QStringLiteral("Sparklers"), QStringLiteral("05-Jun-2027 11:30 PM"),
-                 QStringLiteral("05-Jun-2027 11:30 PM"));
-        AddTestEntry(QStringLiteral("1"), QStringLiteral("Last dance"), QStringLiteral("05-Jun-2027 11:30 PM"),
-                     QStringLiteral("06-Jun-2027 12:00 AM"));
+                     QStringLiteral("05-Jun-2027 11:30 PM"));
+        AddTestEntry(QStringLiteral("1"), QStringLiteral("Last dance"),
+                     QStringLiteral("05-Jun-2027 11:30 PM"), QStringLiteral("06-Jun-2027 12:00 AM"));
         AddTask(QStringLiteral("Order the cake"), QStringLiteral("01-May-2027"), QStringLiteral("N"));
         AddTask(QStringLiteral("Book the band"), QStringLiteral("01-Mar-2027"), QStringLiteral("Y"));
         AddTask(QStringLiteral("Write the vows"), QString(), QStringLiteral("N"));
@@ -108,11 +110,15 @@ private slots:
     void textIsEscaped_data() {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("escaped");
-        QTest::newRow("separators") << "a,b;c" << "a\\,b\\;c";
-        QTest::newRow("backslash first") << "C:\\new" << "C:\\\\new";
-        QTest::newRow("line ends of any kind") << "one\r\ntwo\nthree\rfour" << "one\\ntwo\\nthree\\nfour";
+        QTest::newRow("separators") << "a,b;c"
+                                    << "a\\,b\\;c";
+        QTest::newRow("backslash first") << "C:\\new"
+                                         << "C:\\\\new";
+        QTest::newRow("line ends of any kind") << "one\r\ntwo\nthree\rfour"
+                                               << "one\\ntwo\\nthree\\nfour";
         QTest::newRow("control characters dropped, tab kept") << QStringLiteral("a\x01\tb") << "a\tb";
-        QTest::newRow("quotes and other scripts as they are") << "\"Χαίρετε\" 乾杯" << "\"Χαίρετε\" 乾杯";
+        QTest::newRow("quotes and other scripts as they are") << "\"Χαίρετε\" 乾杯"
+                                                              << "\"Χαίρετε\" 乾杯";
     }
     void textIsEscaped() {
         QFETCH(QString, text);
@@ -125,7 +131,8 @@ private slots:
         QTest::newRow("exactly 75 octets") << QString(75, QLatin1Char('x'));
         QTest::newRow("ASCII") << QStringLiteral("DESCRIPTION:") + QString(300, QLatin1Char('a'));
         QTest::newRow("two-byte characters") << QStringLiteral("SUMMARY:") + QString(120, QChar(0x00E9));
-        QTest::newRow("four-byte characters") << QStringLiteral("SUMMARY:") + QString::fromUtf8("🥂").repeated(60);
+        QTest::newRow("four-byte characters")
+            << QStringLiteral("SUMMARY:") + QString::fromUtf8("🥂").repeated(60);
     }
     void longLinesAreFolded() {
         QFETCH(QString, line);
@@ -172,7 +179,8 @@ private slots:
         const QJsonObject ceremony = events.value("TIMELINE-1@vowren").toObject();
         QCOMPARE(ceremony.value("dtend").toString(),
                  QDateTime(QDate(2027, 6, 5), QTime(16, 0)).toUTC().toString("yyyy-MM-dd HH:mm:ss+00:00"));
-        QCOMPARE(events.value("TIMELINE-2@vowren").toObject().value("dtend").toString(), QStringLiteral("None"));
+        QCOMPARE(events.value("TIMELINE-2@vowren").toObject().value("dtend").toString(),
+                 QStringLiteral("None"));
         // An entry that ends at midnight ends at that moment, not on a day.
         QCOMPARE(events.value("TIMELINE-3@vowren").toObject().value("dtend").toString(),
                  QDateTime(QDate(2027, 6, 6), QTime(0, 0)).toUTC().toString("yyyy-MM-dd HH:mm:ss+00:00"));
@@ -181,7 +189,8 @@ private slots:
         QCOMPARE(cake.value("dtstart").toString(), QStringLiteral("2027-05-01"));
         QCOMPARE(cake.value("dtend").toString(), QStringLiteral("2027-05-02"));
         for (const QString& uid : uids)
-            QVERIFY2(events.value(uid).toObject().value("dtstamp").toString().endsWith("+00:00"), qPrintable(uid));
+            QVERIFY2(events.value(uid).toObject().value("dtstamp").toString().endsWith("+00:00"),
+                     qPrintable(uid));
     }
 
     // Keys stay, and only what changed since the last export counts up.
@@ -221,7 +230,6 @@ private slots:
         QVERIFY(!error.isEmpty());
         QCOMPARE(FileBytes(C::MemoryPath()), memory);
     }
-
 };
 
 QTEST_GUILESS_MAIN(tst_CalendarExport)

@@ -47,8 +47,10 @@ private slots:
         QTest::addColumn<QStringList>("endPicks");   // entries 0, 1 and 3
         QTest::newRow("AM/PM") << kAmPm << At("23:30")
                                << QStringList{"12:00 AM", "12:30 AM", "8:00 AM", "11:30 PM"}
-                               << QStringList{"11:30 PM (0 minutes)", "12:00 AM (30 minutes)", "1:00 AM (1.5 hours)"};
-        QTest::newRow("24 hours") << kTwentyFour << At("08:00") << QStringList{"0:00", "0:30", "8:00", "23:30"}
+                               << QStringList{"11:30 PM (0 minutes)", "12:00 AM (30 minutes)",
+                                              "1:00 AM (1.5 hours)"};
+        QTest::newRow("24 hours") << kTwentyFour << At("08:00")
+                                  << QStringList{"0:00", "0:30", "8:00", "23:30"}
                                   << QStringList{"8:00 (0 minutes)", "8:30 (30 minutes)", "9:30 (1.5 hours)"};
     }
     void theTwoLists() {
@@ -93,11 +95,15 @@ private slots:
         QTest::addColumn<QTime>("start");
         QTest::addColumn<QTime>("end");
         QTest::addColumn<QDate>("result");
-        QTest::newRow("11:30 PM plus 30 minutes crosses midnight") << Day(5) << Day(5) << At("23:30") << At("00:00") << Day(6);
-        QTest::newRow("over midnight, already on the next day") << Day(5) << Day(6) << At("23:30") << At("00:15") << Day(6);
-        QTest::newRow("back before midnight: the end date comes back") << Day(5) << Day(4) << At("09:00") << At("10:00") << Day(5);
+        QTest::newRow("11:30 PM plus 30 minutes crosses midnight")
+            << Day(5) << Day(5) << At("23:30") << At("00:00") << Day(6);
+        QTest::newRow("over midnight, already on the next day")
+            << Day(5) << Day(6) << At("23:30") << At("00:15") << Day(6);
+        QTest::newRow("back before midnight: the end date comes back")
+            << Day(5) << Day(4) << At("09:00") << At("10:00") << Day(5);
         QTest::newRow("same time: nothing moves") << Day(5) << Day(5) << At("10:00") << At("10:00") << Day(5);
-        QTest::newRow("a day-long entry keeps its later end date") << Day(5) << Day(7) << At("09:00") << At("17:00") << Day(7);
+        QTest::newRow("a day-long entry keeps its later end date")
+            << Day(5) << Day(7) << At("09:00") << At("17:00") << Day(7);
     }
     void endDateFollowsTheTimes() {
         QFETCH(QDate, startDate);
@@ -114,9 +120,11 @@ private slots:
         QTest::addColumn<QDate>("end");
         QTest::addColumn<QDate>("newStart");
         QTest::addColumn<QDate>("newEnd");
-        QTest::newRow("start moved past the end pulls the end up") << true << Day(9) << Day(5) << Day(9) << Day(9);
+        QTest::newRow("start moved past the end pulls the end up")
+            << true << Day(9) << Day(5) << Day(9) << Day(9);
         QTest::newRow("start moved before the end leaves it") << true << Day(3) << Day(5) << Day(3) << Day(5);
-        QTest::newRow("end moved before the start pulls the start down") << false << Day(5) << Day(2) << Day(2) << Day(2);
+        QTest::newRow("end moved before the start pulls the start down")
+            << false << Day(5) << Day(2) << Day(2) << Day(2);
         QTest::newRow("end moved later leaves the start") << false << Day(5) << Day(8) << Day(5) << Day(8);
     }
     void datesPullEachOther() {
@@ -125,7 +133,8 @@ private slots:
         QFETCH(QDate, end);
         QFETCH(QDate, newStart);
         QFETCH(QDate, newEnd);
-        const T::DatePair after = startChanged ? T::AfterStartDateChange({start, end}) : T::AfterEndDateChange({start, end});
+        const T::DatePair after =
+            startChanged ? T::AfterStartDateChange({start, end}) : T::AfterEndDateChange({start, end});
         QCOMPARE(after, (T::DatePair{newStart, newEnd}));
         QCOMPARE(T::EndDateBeforeStart(after.Start, after.End), false);
     }

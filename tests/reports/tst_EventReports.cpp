@@ -1,7 +1,7 @@
-#include "planning/PlanningTestTools.h"
 #include "RtfTestTools.h"
-#include "reports/GuestReportTestData.h"
+#include "planning/PlanningTestTools.h"
 #include "planning/clsTIMELINE.h"
+#include "reports/GuestReportTestData.h"
 #include "reports/clsRTFCalendar.h"
 #include "reports/clsRTFMasterTemp.h"
 #include "reports/clsReportCatalogue.h"
@@ -15,13 +15,14 @@ using namespace RtfTestTools;
 
 namespace {
 
-const QString kNasty = QStringLiteral("Toast {\\b0 \"Cheers\"}, \\par\r\nΧαίρετε 乾杯 🥂 <script>x()</script>");
-
+const QString kNasty =
+    QStringLiteral("Toast {\\b0 \"Cheers\"}, \\par\r\nΧαίρετε 乾杯 🥂 <script>x()</script>");
 
 // The report of a section's row written in one dialect; the records of a CSV file.
 QString WriteReport(int section, int filterKey, bool rtf, const QString& argument = QString()) {
     const QList<clsReportCatalogue::FilterRow> rows = clsReportCatalogue::FilterRows(section);
-    clsReportRoute route = clsReportCatalogue::Route(section, rows, clsReportCatalogue::FilterRowIndex(rows, filterKey));
+    clsReportRoute route =
+        clsReportCatalogue::Route(section, rows, clsReportCatalogue::FilterRowIndex(rows, filterKey));
     route.Argument = argument;
     modReportRunner::Output output;
     output.UseRtf = rtf;
@@ -73,8 +74,8 @@ private slots:
             << 2026 << 2 << 4 << QList<int>{1, 2, 3, 4, 5, 6, 7} << QList<int>{22, 23, 24, 25, 26, 27, 28};
         QTest::newRow("leap February from Thursday")
             << 2024 << 2 << 5 << QList<int>{0, 0, 0, 0, 1, 2, 3} << QList<int>{25, 26, 27, 28, 29, 0, 0};
-        QTest::newRow("ends on Saturday") << 2027 << 7 << 5 << QList<int>{0, 0, 0, 0, 1, 2, 3}
-                                          << QList<int>{25, 26, 27, 28, 29, 30, 31};
+        QTest::newRow("ends on Saturday")
+            << 2027 << 7 << 5 << QList<int>{0, 0, 0, 0, 1, 2, 3} << QList<int>{25, 26, 27, 28, 29, 30, 31};
     }
     void weeksOfAMonth() {
         QFETCH(int, year);
@@ -102,9 +103,11 @@ private slots:
         QStringList names;
         for (int i = 0; i < events; ++i) {
             names << QStringLiteral("Party %1").arg(i + 1);
-            AddTestEvent(QString::number(i + 1), names.last(), QStringLiteral("2027-06-05 %1:15:00").arg(8 + 5 * i));
+            AddTestEvent(QString::number(i + 1), names.last(),
+                         QStringLiteral("2027-06-05 %1:15:00").arg(8 + 5 * i));
         }
-        AddTestEvent(QStringLiteral("9"), QStringLiteral("Next month"), QStringLiteral("2027-07-05 10:00:00"));
+        AddTestEvent(QStringLiteral("9"), QStringLiteral("Next month"),
+                     QStringLiteral("2027-07-05 10:00:00"));
         const QList<QStringList> records =
             CsvRecords(WriteReport(clsReportCatalogue::Events, 2, false, QStringLiteral("2027-06:2027-06")));
         QCOMPARE(records.value(0).value(0), QStringLiteral("June 2027"));
@@ -124,7 +127,8 @@ private slots:
         QTest::addColumn<QString>("range");
         QTest::addColumn<QStringList>("headings");
         QTest::newRow("one month") << "2027-06:2027-06" << QStringList{"June 2027"};
-        QTest::newRow("over the new year") << "2026-12:2027-02" << QStringList{"December 2026", "January 2027", "February 2027"};
+        QTest::newRow("over the new year")
+            << "2026-12:2027-02" << QStringList{"December 2026", "January 2027", "February 2027"};
     }
     void aRangePrintsEachMonthOnce() {
         QFETCH(QString, range);
@@ -135,7 +139,8 @@ private slots:
                 found << record.first();
         QCOMPARE(found, headings);
         // The RTF sheets are separate pages.
-        const QString rtf = QString::fromUtf8(FileBytes(WriteReport(clsReportCatalogue::Events, 2, true, range)));
+        const QString rtf =
+            QString::fromUtf8(FileBytes(WriteReport(clsReportCatalogue::Events, 2, true, range)));
         QCOMPARE(int(rtf.count(QStringLiteral("\\page"))), int(headings.size()) - 1);
     }
 
@@ -149,12 +154,13 @@ private slots:
     void typedTextSurvivesTheReports() {
         QFETCH(int, section);
         QFETCH(int, filter);
-        AddTestEvent(QStringLiteral("1"), QStringLiteral("Wedding"), QStringLiteral("2027-06-05 15:30:00"), kNasty);
+        AddTestEvent(QStringLiteral("1"), QStringLiteral("Wedding"), QStringLiteral("2027-06-05 15:30:00"),
+                     kNasty);
         AddTestEvent(QStringLiteral("2"), kNasty, QStringLiteral("2027-06-04 18:00:00"));
-        AddTestEntry(QStringLiteral("2"), kNasty, QStringLiteral("2027-06-04 18:00:00"), QStringLiteral("2027-06-04 19:30:00"),
-                 kNasty);
+        AddTestEntry(QStringLiteral("2"), kNasty, QStringLiteral("2027-06-04 18:00:00"),
+                     QStringLiteral("2027-06-04 19:30:00"), kNasty);
         AddTestEntry(QStringLiteral("1"), QStringLiteral("Ceremony"), QStringLiteral("2027-06-05 15:30:00"),
-                 QStringLiteral("2027-06-05 16:00:00"));
+                     QStringLiteral("2027-06-05 16:00:00"));
         const QString csv = WriteReport(section, filter, false);
         QVERIFY(!csv.isEmpty());
         bool whole = false;
@@ -176,11 +182,11 @@ private slots:
     void timelineGroupsByDayAndEvent() {
         AddTestEvent(QStringLiteral("1"), QStringLiteral("Wedding"), QStringLiteral("2027-06-05 15:30:00"));
         AddTestEntry(QStringLiteral("1"), QStringLiteral("Ceremony"), QStringLiteral("2027-06-05 15:30:00"),
-                 QStringLiteral("2027-06-05 16:00:00"));
+                     QStringLiteral("2027-06-05 16:00:00"));
         AddTestEntry(QStringLiteral("1"), QStringLiteral("Last dance"), QStringLiteral("2027-06-05 23:45:00"),
-                 QStringLiteral("2027-06-06 00:15:00"));
+                     QStringLiteral("2027-06-06 00:15:00"));
         AddTestEntry(QStringLiteral("1"), QStringLiteral("Brunch"), QStringLiteral("2027-06-06 10:00:00"),
-                 QStringLiteral("2027-06-06 10:00:00"));
+                     QStringLiteral("2027-06-06 10:00:00"));
         const QList<QStringList> records = CsvRecords(WriteReport(clsReportCatalogue::Timelines, 0, false));
         QCOMPARE(records.value(0), (QStringList{"Time", "Duration", "Description", "Contact(s)"}));
         QCOMPARE(records.value(1), QStringList{"05-Jun-2027: Wedding"});

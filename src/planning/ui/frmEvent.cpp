@@ -96,14 +96,16 @@ QWidget* frmEvent::BuildFields() {
     row->addStretch(1);
     modLayout::CaptionedRow(form, QStringLiteral("&Date"), when, dt);
     txtAddress = TextBox(QStringLiteral("txtADDRESS_TX"), 3, fields);
-    modLayout::CaptionedRow(form, QStringLiteral("&Address"), txtAddress)->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    modLayout::CaptionedRow(form, QStringLiteral("&Address"), txtAddress)
+        ->setAlignment(Qt::AlignRight | Qt::AlignTop);
     for (const LineField& field : kLines) {
         mLines << LineBox(QLatin1String(field.Name), fields);
         modLayout::CaptionedRow(form, QLatin1String(field.Caption), mLines.last());
         connect(mLines.last(), &QLineEdit::textChanged, this, &frmEvent::UpdateState);
     }
     txtNotes = TextBox(QStringLiteral("txtNOTES_TX"), 4, fields);
-    modLayout::CaptionedRow(form, QStringLiteral("N&otes"), txtNotes)->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    modLayout::CaptionedRow(form, QStringLiteral("N&otes"), txtNotes)
+        ->setAlignment(Qt::AlignRight | Qt::AlignTop);
     connect(txtName, &QLineEdit::textChanged, this, &frmEvent::UpdateState);
     connect(dt, &QDateEdit::dateChanged, this, &frmEvent::UpdateState);
     connect(tm, &QTimeEdit::timeChanged, this, &frmEvent::UpdateState);

@@ -23,7 +23,9 @@ using Column = frmMain_09_Timelines::Column;
 QList<clsGridColumn> TimelineColumns() {
     QList<clsGridColumn> columns = {
         clsGridColumn(QStringLiteral("TIMELINE_ICON"), QString(), 28).OfKind(GridColumnKind::Icon),
-        clsGridColumn(QStringLiteral("TIME"), QStringLiteral("Time"), 150).OfKind(GridColumnKind::Time).StoreWidth(),
+        clsGridColumn(QStringLiteral("TIME"), QStringLiteral("Time"), 150)
+            .OfKind(GridColumnKind::Time)
+            .StoreWidth(),
         clsGridColumn(QStringLiteral("DURATION"), QStringLiteral("Duration"), 100).StoreWidth(),
         clsGridColumn(QStringLiteral("DESC"), QStringLiteral("Description"), 400).StoreWidth(),
         clsGridColumn(QStringLiteral("CONTACT"), QStringLiteral("Contact(s)"), 150).StoreWidth(),
@@ -35,21 +37,22 @@ QList<clsGridColumn> TimelineColumns() {
 }
 
 // The group of an entry: each day of each event has its own.
-QString DayGroup(const clsTIMELINE& entry) {
-    return entry.EVENT_TX + QStringLiteral(": ") + entry.TIMELINE_START_DT_DateFormat();
+QString DayGroup(const clsTIMELINE& entry, const QDate& day) {
+    return entry.EVENT_TX + QStringLiteral(": ") + FormatDate(day);
 }
 
+// An entry's row; its two moments are read once.
 clsGridCells& WriteRow(clsGridCells& cells, const clsTIMELINE& t) {
     const QDateTime start = ParseDateTimeText(t.TIMELINE_START_DT);
-    const QDateTime end = ParseDateTimeText(t.TIMELINE_END_DT);
+    const QTime end = ParseDateTimeText(t.TIMELINE_END_DT).time();
     return cells.Icon(Column::TIMELINE_ICON, 1)
-        .Set(Column::TIME, t.TIMELINE_START_TM_TO_END_TM(), start)
-        .Set(Column::DURATION, t.Duration(),
-             modTimelineTimes::MinutesBetween(start.time(), end.time()))
+        .Set(Column::TIME, clsTIMELINE::TIMELINE_START_TM_TO_END_TM(start.time(), end), start)
+        .Set(Column::DURATION, clsTIMELINE::Duration(start.time(), end),
+             modTimelineTimes::MinutesBetween(start.time(), end))
         .Set(Column::DESC, t.TIMELINE_DESC)
         .Set(Column::CONTACT, t.CONTACT_NM)
         .Set(Column::EVENT_ID, t.EVENT_ID)
-        .Set(Column::START_DT, DayGroup(t))
+        .Set(Column::START_DT, DayGroup(t, start.date()))
         .Notes(t.NOTES_TX)
         .Keep(t);
 }
@@ -58,9 +61,10 @@ clsGridCells& WriteRow(clsGridCells& cells, const clsTIMELINE& t) {
 
 frmMain_09_Timelines::frmMain_09_Timelines(QWidget* parent) : usrListPage(modPages::FormName(9), parent) {
     SetRecordNoun(QStringLiteral("entry"), QStringLiteral("entries"));
-    SetEmptyText(QStringLiteral("No timeline entries yet — add the first one, and each next one starts where the "
-                                "last one ends."),
-                 QStringLiteral("No entries match."));
+    SetEmptyText(
+        QStringLiteral("No timeline entries yet — add the first one, and each next one starts where the "
+                       "last one ends."),
+        QStringLiteral("No entries match."));
     SetFilterEntries({{AllEntries, QStringLiteral("All Entries")}});
     Grid()->Model()->SetImages({QIcon(), modPlanningIcons::Clock()});
     SetColumns(TimelineColumns());
@@ -114,8 +118,9 @@ void frmMain_09_Timelines::showEvent(QShowEvent* event) {
 
 void frmMain_09_Timelines::ShowBreadcrumb() {
     const QString caption = FilterCaption(CurrentFilter());
-    emit Breadcrumb(CurrentFilter() > AllEntries && !caption.isEmpty() ? QStringLiteral("Timelines>") + caption
-                                                                       : QStringLiteral("Timelines"));
+    emit Breadcrumb(CurrentFilter() > AllEntries && !caption.isEmpty()
+                        ? QStringLiteral("Timelines>") + caption
+                        : QStringLiteral("Timelines"));
 }
 
 long frmMain_09_Timelines::CountOf(int filterId) const {
@@ -125,8 +130,10 @@ long frmMain_09_Timelines::CountOf(int filterId) const {
 int frmMain_09_Timelines::FillRows(clsGridFill& fill, int filterId) {
     const QString eventId = filterId == AllEntries ? QString() : QString::number(filterId);
     const QList<clsTIMELINE> entries = RecordIO::Read([&] { return clsTIMELINE().OpenRecords(eventId); });
-    for (const clsTIMELINE& entry : entries)
-        WriteRow(fill.Group(DayGroup(entry)).Row(entry.TIMELINE_ID.toLongLong()), entry);
+    for (const clsTIMELINE& entry : entries) {
+        const QString group = DayGroup(entry, ParseDateTimeText(entry.TIMELINE_START_DT).date());
+        WriteRow(fill.Group(group).Row(entry.TIMELINE_ID.toLongLong()), entry);
+    }
     return int(entries.size());
 }
 
@@ -156,7 +163,8 @@ bool frmMain_09_Timelines::DeleteSelected() {
     const QList<qint64> keys = SelectedKeys();
     if (keys.size() != 1)
         return false;
-    if (ShowMessage(QStringLiteral("Delete entry?"), Msg::YesNo | Msg::Question, QStringLiteral("Delete")) != Msg::Yes)
+    if (ShowMessage(QStringLiteral("Delete entry?"), Msg::YesNo | Msg::Question, QStringLiteral("Delete")) !=
+        Msg::Yes)
         return false;
     if (!RecordIO::Attempt([&keys] { clsTIMELINE().Delete(QString::number(keys.first())); }))
         return false;

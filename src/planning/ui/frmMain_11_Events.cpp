@@ -24,13 +24,16 @@ QList<clsGridColumn> EventColumns() {
     QList<clsGridColumn> columns = {
         clsGridColumn(QStringLiteral("EVENT_ICON"), QString(), 28).OfKind(GridColumnKind::Icon),
         clsGridColumn(QStringLiteral("EVENT"), QStringLiteral("Event"), 150).StoreWidth(),
-        clsGridColumn(QStringLiteral("DATE"), QStringLiteral("Date"), 150).OfKind(GridColumnKind::Date).StoreWidth(),
+        clsGridColumn(QStringLiteral("DATE"), QStringLiteral("Date"), 150)
+            .OfKind(GridColumnKind::Date)
+            .StoreWidth(),
         clsGridColumn(QStringLiteral("ADDRESS"), QStringLiteral("Address"), 185).StoreWidth(),
         clsGridColumn(QStringLiteral("CONTACT"), QStringLiteral("Contact"), 140).StoreWidth(),
         clsGridColumn(QStringLiteral("PHONE"), QStringLiteral("Phone"), 100).StoreWidth(),
         clsGridColumn(QStringLiteral("FAX"), QStringLiteral("Fax"), 100).StoreWidth(),
         clsGridColumn(QStringLiteral("EMAIL"), QStringLiteral("E-mail"), 100).StoreWidth(),
-        clsGridColumn(QStringLiteral("WEBSITE"), QStringLiteral("Web Site"), 100).StoreWidth(QStringLiteral("EMAIL")),
+        clsGridColumn(QStringLiteral("WEBSITE"), QStringLiteral("Web Site"), 100)
+            .StoreWidth(QStringLiteral("EMAIL")),
     };
     Q_ASSERT(columns.size() == Column::ColumnCount);
     return columns;
@@ -150,12 +153,11 @@ bool frmMain_11_Events::DeleteSelected() {
     if (!selected)
         return false;
     const clsEVENT event = *selected;
-    if (ShowMessage(QStringLiteral("Delete '") + event.EVENT_TX + QStringLiteral("'?"), Msg::YesNo | Msg::Question,
-                    QStringLiteral("Delete")) != Msg::Yes)
+    if (ShowMessage(QStringLiteral("Delete '") + event.EVENT_TX + QStringLiteral("'?"),
+                    Msg::YesNo | Msg::Question, QStringLiteral("Delete")) != Msg::Yes)
         return false;
     if (!RecordIO::Attempt([&event] { clsEVENT().Delete(event.EVENT_ID); }))
         return false;
-    Grid()->Model()->RemoveRow(RowOfKey(event.EVENT_ID.toLongLong()));
     Reload();
     return true;
 }
@@ -166,10 +168,11 @@ void frmMain_11_Events::ChooseCalendarFile() {
                                                       modCalendarExport::DefaultPath(),
                                                       QStringLiteral("iCalendar files (*.ics)"));
     if (!path.isEmpty() && ExportToCalendar(path))
-        ShowMessage(QStringLiteral("The calendar was written to ") + path +
-                        QStringLiteral(".\n\nImport it into Google Calendar, Apple Calendar or Thunderbird; a "
-                                       "second import after changes updates the same entries."),
-                    Msg::Information, ProgramTitle());
+        ShowMessage(
+            QStringLiteral("The calendar was written to ") + path +
+                QStringLiteral(".\n\nImport it into Google Calendar, Apple Calendar or Thunderbird; a "
+                               "second import after changes updates the same entries."),
+            Msg::Information, ProgramTitle());
 }
 
 bool frmMain_11_Events::ExportToCalendar(const QString& path) {

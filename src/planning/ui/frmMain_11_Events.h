@@ -24,7 +24,18 @@ public:
         OpenReportsFolder,
         ExportCalendar,
     };
-    enum Column : int { EVENT_ICON = 0, EVENT, DATE, ADDRESS, CONTACT, PHONE, FAX, EMAIL, WEBSITE, ColumnCount };
+    enum Column : int {
+        EVENT_ICON = 0,
+        EVENT,
+        DATE,
+        ADDRESS,
+        CONTACT,
+        PHONE,
+        FAX,
+        EMAIL,
+        WEBSITE,
+        ColumnCount
+    };
     static constexpr int AllEvents = 0;
 
     // Asks, then deletes the selected event; false when nothing was deleted.

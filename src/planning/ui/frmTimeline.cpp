@@ -80,7 +80,8 @@ frmTimeline::frmTimeline(const QString& timelineId, const QString& eventId, QWid
 
 // A time box that loses the focus while the dialog goes would still report the end of its editing.
 frmTimeline::~frmTimeline() {
-    for (QObject* sender : {static_cast<QObject*>(cboStart->lineEdit()), static_cast<QObject*>(cboEnd->lineEdit())})
+    for (QObject* sender :
+         {static_cast<QObject*>(cboStart->lineEdit()), static_cast<QObject*>(cboEnd->lineEdit())})
         sender->disconnect(this);
 }
 
@@ -94,7 +95,8 @@ QWidget* frmTimeline::BuildFields() {
     usrEVENT->setAddIsVisible(true);
     usrEVENT->setAddToolTip(QStringLiteral("Add a new event (Insert)"));
     modLayout::CaptionedRow(form, QStringLiteral("E&vent"), usrEVENT, usrEVENT->ComboBox());
-    const auto row = [fields](QDateEdit*& date, QComboBox*& time, const char* dateName, const char* timeName) {
+    const auto row = [fields](QDateEdit*& date, QComboBox*& time, const char* dateName,
+                              const char* timeName) {
         auto* line = new QWidget(fields);
         auto* box = new QHBoxLayout(line);
         box->setContentsMargins(0, 0, 0, 0);
@@ -104,7 +106,8 @@ QWidget* frmTimeline::BuildFields() {
         box->addWidget(time, 1);
         return line;
     };
-    modLayout::CaptionedRow(form, QStringLiteral("&Start"), row(dtStart, cboStart, "dtStart", "cboTime_0"), dtStart);
+    modLayout::CaptionedRow(form, QStringLiteral("&Start"), row(dtStart, cboStart, "dtStart", "cboTime_0"),
+                            dtStart);
     modLayout::CaptionedRow(form, QStringLiteral("E&nd"), row(dtEnd, cboEnd, "dtEnd", "cboTime_1"), dtEnd);
     cboStart->addItems(T::StartTimes());
     txtDesc = LineBox(QStringLiteral("txtTIMELINE_DESC"), fields);
@@ -112,7 +115,8 @@ QWidget* frmTimeline::BuildFields() {
     txtContact = LineBox(QStringLiteral("txtCONTACT_NM"), fields);
     modLayout::CaptionedRow(form, QStringLiteral("&Contact(s)"), txtContact);
     txtNotes = TextBox(QStringLiteral("txtNOTES_TX"), 4, fields);
-    modLayout::CaptionedRow(form, QStringLiteral("N&otes"), txtNotes)->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    modLayout::CaptionedRow(form, QStringLiteral("N&otes"), txtNotes)
+        ->setAlignment(Qt::AlignRight | Qt::AlignTop);
 
     connect(usrEVENT, &usrDropdown::Click, this, &frmTimeline::usrEVENT_Click);
     connect(usrEVENT, &usrDropdown::AddClick, this, &frmTimeline::usrEVENT_AddClick);
@@ -238,9 +242,10 @@ void frmTimeline::usrEVENT_AddClick() {
 }
 
 QStringList frmTimeline::Snapshot() const {
-    return {usrEVENT->Code(),           dtStart->date().toString(Qt::ISODate), cboStart->currentText(),
-            dtEnd->date().toString(Qt::ISODate), cboEnd->currentText(),     txtDesc->text(),
-            txtContact->text(),         txtNotes->toPlainText()};
+    return {usrEVENT->Code(),        dtStart->date().toString(Qt::ISODate),
+            cboStart->currentText(), dtEnd->date().toString(Qt::ISODate),
+            cboEnd->currentText(),   txtDesc->text(),
+            txtContact->text(),      txtNotes->toPlainText()};
 }
 
 void frmTimeline::UpdateState() {

@@ -23,14 +23,17 @@ template <class Page> QWidget* LoadedPage() {
 
 // The busiest event's latest entry, for the picture of the entry editor.
 QString SomeTimelineEntry() {
-    const QList<clsTIMELINE> entries = RecordIO::Read([] { return clsTIMELINE().OpenRecords(QStringLiteral("1")); });
+    const QList<clsTIMELINE> entries =
+        RecordIO::Read([] { return clsTIMELINE().OpenRecords(QStringLiteral("1")); });
     return entries.isEmpty() ? QString() : entries.last().TIMELINE_ID;
 }
 
 void RegisterScreenshots() {
     modScreenshots::Register(modPages::FormName(kEvents), [] { return LoadedPage<frmMain_11_Events>(); });
-    modScreenshots::Register(modPages::FormName(kTimelines), [] { return LoadedPage<frmMain_09_Timelines>(); });
-    modScreenshots::Register(QStringLiteral("frmEvent"), []() -> QWidget* { return new frmEvent(QStringLiteral("1")); });
+    modScreenshots::Register(modPages::FormName(kTimelines),
+                             [] { return LoadedPage<frmMain_09_Timelines>(); });
+    modScreenshots::Register(QStringLiteral("frmEvent"),
+                             []() -> QWidget* { return new frmEvent(QStringLiteral("1")); });
     modScreenshots::Register(QStringLiteral("frmTimeline"),
                              []() -> QWidget* { return new frmTimeline(SomeTimelineEntry(), QString()); });
     modScreenshots::Register(QStringLiteral("frmTimeline_New"),

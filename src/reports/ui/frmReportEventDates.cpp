@@ -83,10 +83,18 @@ frmReportEventDates::frmReportEventDates(QWidget* parent) : QDialog(parent) {
     layout->addWidget(buttons);
 }
 
-int frmReportEventDates::FromMonthNumber() const { return cboFromMonth->currentData().toInt(); }
-int frmReportEventDates::FromYearNumber() const { return cboFromYear->currentData().toInt(); }
-int frmReportEventDates::ToMonthNumber() const { return cboToMonth->currentData().toInt(); }
-int frmReportEventDates::ToYearNumber() const { return cboToYear->currentData().toInt(); }
+int frmReportEventDates::FromMonthNumber() const {
+    return cboFromMonth->currentData().toInt();
+}
+int frmReportEventDates::FromYearNumber() const {
+    return cboFromYear->currentData().toInt();
+}
+int frmReportEventDates::ToMonthNumber() const {
+    return cboToMonth->currentData().toInt();
+}
+int frmReportEventDates::ToYearNumber() const {
+    return cboToYear->currentData().toInt();
+}
 
 clsCalendarMonths frmReportEventDates::Range() const {
     clsCalendarMonths range;

@@ -71,7 +71,8 @@ private slots:
         QTest::addColumn<QString>("lastMessage");
         QTest::newRow("the shower, yes") << "2" << int(Msg::Yes) << true << "Delete 'Shower'?";
         QTest::newRow("the shower, no") << "2" << int(Msg::No) << false << "Delete 'Shower'?";
-        QTest::newRow("the wedding day") << "1" << int(Msg::Yes) << false << "You cannot delete the Wedding Day event.";
+        QTest::newRow("the wedding day")
+            << "1" << int(Msg::Yes) << false << "You cannot delete the Wedding Day event.";
     }
     void deletingAnEvent() {
         QFETCH(QString, eventId);
@@ -96,8 +97,10 @@ private slots:
         QTest::addColumn<QString>("site");
         QTest::addColumn<bool>("canMail");
         QTest::addColumn<bool>("canVisit");
-        QTest::newRow("address and site") << "hall@example.com" << "hall.example.com" << true << true;
-        QTest::newRow("no @ in the e-mail, no site") << "ask at the door" << "" << false << false;
+        QTest::newRow("address and site") << "hall@example.com"
+                                          << "hall.example.com" << true << true;
+        QTest::newRow("no @ in the e-mail, no site") << "ask at the door"
+                                                     << "" << false << false;
     }
     void actionsFollowTheSelectedEvent() {
         QFETCH(QString, email);
@@ -193,9 +196,11 @@ private slots:
         QTest::addColumn<QString>("startText");
         QTest::addColumn<bool>("endBeforeStart");
         QTest::addColumn<QString>("message");
-        QTest::newRow("a start that is no time") << "half past nine" << false << "\"half past nine\" is not a time.";
+        QTest::newRow("a start that is no time")
+            << "half past nine" << false << "\"half past nine\" is not a time.";
         QTest::newRow("no such hour") << "27:15" << false << "\"27:15\" is not a time.";
-        QTest::newRow("end date before the start") << "" << true << "The end date you entered occurs before the start date.";
+        QTest::newRow("end date before the start")
+            << "" << true << "The end date you entered occurs before the start date.";
     }
     void refusedEntries() {
         QFETCH(QString, startText);
@@ -212,7 +217,8 @@ private slots:
             endDate->setDate(QDate(2027, 6, 1));
         }
         Click(&editor, "cmdSave");
-        QVERIFY2(db->Messages().Prompts.value(0).startsWith(message), qPrintable(db->Messages().Prompts.value(0)));
+        QVERIFY2(db->Messages().Prompts.value(0).startsWith(message),
+                 qPrintable(db->Messages().Prompts.value(0)));
         QCOMPARE(PlanningDatabase::Count("TIMELINE"), QStringLiteral("0"));
         QVERIFY(editor.isVisible());
         if (endBeforeStart)
@@ -259,7 +265,8 @@ private slots:
         choose("cboToMonth", 6);
         choose("cboToYear", 2027);
         Click(&dialog, "cmdOK");
-        QCOMPARE(db->Messages().Prompts.value(0), QStringLiteral("From Date must be equal to or before To Date."));
+        QCOMPARE(db->Messages().Prompts.value(0),
+                 QStringLiteral("From Date must be equal to or before To Date."));
         QVERIFY(!dialog.Continue());
         choose("cboToMonth", 1);
         choose("cboToYear", 2028);
