@@ -34,6 +34,8 @@ CliCommand ChecklistCommand();
 CliCommand HouseCommand();
 CliCommand BoardCommand();
 CliCommand TravelCommand();
+CliCommand WeddingCommand();
+CliCommand IcsCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

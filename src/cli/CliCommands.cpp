@@ -52,6 +52,8 @@ const std::vector<CliCommand>& CliCommands() {
         HouseCommand(),
         BoardCommand(),
         TravelCommand(),
+        WeddingCommand(),
+        IcsCommand(),
     };
     return commands;
 }

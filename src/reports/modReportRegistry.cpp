@@ -2,11 +2,13 @@
 
 #include "reports/clsRTFAttendees.h"
 #include "reports/clsRTFAttendeesTabulaRasa.h"
+#include "reports/clsRTFCalendar.h"
 #include "reports/clsRTFContacts.h"
 #include "reports/clsRTFFlightOverview.h"
 #include "reports/clsRTFFlights.h"
 #include "reports/clsRTFHotelOverview.h"
 #include "reports/clsRTFHotels.h"
+#include "reports/clsRTFEvent.h"
 #include "reports/clsRTFInvitation.h"
 #include "reports/clsRTFMeal.h"
 #include "reports/clsRTFNotebook.h"
@@ -17,6 +19,7 @@
 #include "reports/clsRTFTableLayout.h"
 #include "reports/clsRTFTask.h"
 #include "reports/clsRTFTentcard.h"
+#include "reports/clsRTFTimeline.h"
 #include "reports/clsReportClasses.h"
 
 #include <functional>
@@ -64,4 +67,13 @@ void RegisterReportClasses() {
     Register<clsRTFFlightOverview>();
     Register<clsRTFHotels>();
     Register<clsRTFHotelOverview>();
+    Register<clsRTFEvent>();
+    Register<clsRTFTimeline>(TakeFilter);
+    // The months come with the route ("2027-01:2027-06"), or else from the month dialog's settings.
+    clsReportClasses::Register(QStringLiteral("clsRTFCalendar"), [](const clsReportRoute& route) {
+        clsRTFCalendar calendar;
+        if (!calendar.SetRange(route.Argument))
+            calendar.TakeStoredRange();
+        return calendar.Build();
+    });
 }

@@ -268,6 +268,21 @@ check "board a flight" 0 "^Flight #1: ${ids[2]}$" "$cli" board --flight 1 "${ids
 check "travel takes no arguments" 2 'usage: travel' "$cli" travel --all
 check "the hotels report" 0 '04_Hotels_.*\.rtf$' "$cli" report Hotels
 check "the flight overview as CSV" 0 '04_FlightOverview_.*\.csv$' "$cli" report Flights --filter 2 --format csv
+# Events: the wedding day moves as the event editor moves it; every date goes into one calendar file.
+check "wedding needs a real date" 2 '--date takes a date such as 2027-06-05' "$cli" wedding --date 2027-02-30
+check "wedding refuses a time that is none" 2 '--time takes a time such as' "$cli" wedding --date 2027-06-05 --time "half past"
+check "wedding --date --time" 0 '^05-Jun-2027 (3:30 PM|15:30)$' "$cli" wedding --date 2027-06-05 --time "3:30 PM"
+check "wedding prints the day" 0 '^05-Jun-2027 (3:30 PM|15:30)$' "$cli" wedding
+check "wedding --date keeps the hour" 0 '^12-Jun-2027 (3:30 PM|15:30)$' "$cli" wedding --date 2027-06-12
+check "the wedding day row follows" 0 '^"2027-06-12 15:30:00"' "$cli" sql "SELECT EVENT_DT FROM EVENT WHERE EVENT_ID = 1"
+check "ics rejects arguments" 2 'usage: ics \[--out FILE\]' "$cli" ics --frob
+check "ics writes the calendar" 0 "^$home/Reports/Vowren.ics$" "$cli" ics
+check "ics holds the wedding day" 0 '^DTSTART:20270612T' tr -d '\r' <"$home/Reports/Vowren.ics"
+check "ics --out" 0 "^$home/wedding.ics$" "$cli" ics --out "$home/wedding.ics"
+check "ics into a missing folder" 1 'was not written' "$cli" ics --out "$home/no/such/x.ics"
+check "the calendar of two months" 0 '09_Calendar_.*\.csv$' "$cli" report Events --filter 2 --months 2027-05:2027-06 --format csv
+check "a calendar of no months" 2 '--months takes the calendar' "$cli" report Events --filter 2 --months 2027-13:2027-01
+check "the timeline of the wedding day" 0 '10_Timeline_.*\.rtf$' "$cli" report Timelines --filter 1
 
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
