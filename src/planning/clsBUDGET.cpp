@@ -86,10 +86,6 @@ QList<clsBUDGET> clsBUDGET::Open(const QString& sql, const QVariantList& values)
     return expenses;
 }
 
-double clsBUDGET::ACTUAL_AMOUNT_NB_DOUBLE() const {
-    return ACTUAL_AMOUNT_NB.toDouble();
-}
-
 QString clsBUDGET::DUE_DT_DDMMMYYYY() const {
     return FormatAsDate(DUE_DT);
 }
