@@ -157,6 +157,21 @@ void clsGIFT::Delete(const QString& giftId) {
     RecordIO::Delete(QStringLiteral("GIFT"), QStringLiteral("GIFT_ID"), giftId);
 }
 
+void clsGIFT::Delete(const QStringList& giftIds) {
+    clsTransaction tx(gDB());
+    for (const QString& id : giftIds)
+        gDB().Execute(QStringLiteral("DELETE FROM GIFT WHERE GIFT_ID = ?"), {id});
+    tx.Commit();
+}
+
+void clsGIFT::SetThankYouSent(const QStringList& giftIds, bool sent) {
+    clsTransaction tx(gDB());
+    for (const QString& id : giftIds)
+        gDB().Execute(QStringLiteral("UPDATE GIFT SET THANK_YOU_SENT_FG = ? WHERE GIFT_ID = ?"),
+                      {sent ? QStringLiteral("Y") : QStringLiteral("N"), id});
+    tx.Commit();
+}
+
 long clsGIFT::GetTotal(int filter, const QString& customWhere) const {
     return RecordIO::Count(QStringLiteral("SELECT COUNT(GIFT.GIFT_ID) AS CNT FROM GIFT INNER JOIN EVENT ON "
                                           "GIFT.EVENT_ID = EVENT.EVENT_ID ") +

@@ -2,7 +2,11 @@
 
 #include "reports/clsRTFAttendees.h"
 #include "reports/clsRTFAttendeesTabulaRasa.h"
+#include "reports/clsRTFBudget.h"
+#include "reports/clsRTFBudgetCategory.h"
+#include "reports/clsRTFBudgetPaidBy.h"
 #include "reports/clsRTFContacts.h"
+#include "reports/clsRTFGift.h"
 #include "reports/clsRTFInvitation.h"
 #include "reports/clsRTFMeal.h"
 #include "reports/clsRTFRSVP.h"
@@ -52,4 +56,8 @@ void RegisterReportClasses() {
     Register<clsRTFTableLayout>();
     Register<clsRTFTentcard>();
     Register<clsRTFStatistics>();
+    Register<clsRTFBudget>(TakeFilter);
+    Register<clsRTFBudgetPaidBy>();
+    Register<clsRTFBudgetCategory>();
+    Register<clsRTFGift>(TakeFilter);
 }
