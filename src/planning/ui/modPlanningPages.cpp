@@ -1,7 +1,10 @@
 #include "planning/ui/modPlanningPages.h"
 
+#include "planning/ui/modBudgetPages.h"
+
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
 
 void RegisterPlanningPages() {
+    RegisterBudgetPages();
 }
