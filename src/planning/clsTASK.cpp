@@ -4,6 +4,7 @@
 #include "planning/clsEVENT.h"
 #include "planning/modPlanningSql.h"
 
+#include <QSet>
 #include <array>
 
 namespace {
@@ -194,4 +195,51 @@ void clsTASK::WriteSortOrder(const QStringList& taskIds) {
     for (int i = 0; i < taskIds.size(); ++i)
         UpdateSort(taskIds[i], QString::number(i + 1));
     tx.Commit();
+}
+
+QStringList clsTASK::WriteShownOrder(const QStringList& shownInOrder) {
+    clsTransaction tx(gDB());
+    const clsRecordset rs = gDB().Execute(
+        QStringLiteral("SELECT TASK_ID, SORT_ORDER_NB FROM TASK ORDER BY SORT_ORDER_NB, TASK_ID"));
+    QStringList stored;
+    for (int row = 0; row < rs.RowCount(); ++row)
+        stored << rs.Value(row, 0);
+    // Keys of tasks that are gone, and a key given twice, take no place.
+    const QSet<QString> existing(stored.cbegin(), stored.cend());
+    QStringList shown;
+    QSet<QString> shownSet;
+    for (const QString& id : shownInOrder) {
+        if (existing.contains(id) && !shownSet.contains(id)) {
+            shown << id;
+            shownSet.insert(id);
+        }
+    }
+    QStringList order = stored;
+    auto next = shown.cbegin();
+    for (QString& id : order)
+        if (shownSet.contains(id))
+            id = *next++;
+    for (int i = 0; i < order.size(); ++i) {
+        if (stored[i] != order[i] || rs.Value(i, 1) != QString::number(i + 1))
+            UpdateSort(order[i], QString::number(i + 1));
+    }
+    tx.Commit();
+    return order;
+}
+
+QStringList clsTASK::DeleteKeepingOrder(const QString& taskId, const QStringList& shownInOrder) {
+    clsTransaction tx(gDB());
+    clsTASK().Delete(taskId);
+    QStringList shown = shownInOrder;
+    shown.removeAll(taskId);
+    const QStringList order = WriteShownOrder(shown);
+    tx.Commit();
+    return order;
+}
+
+void clsTASK::ToggleCompleted() {
+    clsTASK changed = *this;
+    changed.COMPLETED_FG = COMPLETED_FG == QLatin1String("Y") ? QStringLiteral("N") : QStringLiteral("Y");
+    changed.Update_COMPLETED_FG();
+    *this = changed;
 }

@@ -1,10 +1,12 @@
 #include "planning/ui/modPlanningPages.h"
 
 #include "planning/ui/modBudgetPages.h"
+#include "planning/ui/modChecklistPages.h"
 
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
 
 void RegisterPlanningPages() {
     RegisterBudgetPages();
+    RegisterChecklistPages();
 }
