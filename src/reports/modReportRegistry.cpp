@@ -15,6 +15,7 @@
 #include "reports/clsRTFTable.h"
 #include "reports/clsRTFTableLayout.h"
 #include "reports/clsRTFTentcard.h"
+#include "reports/clsRTFVendor.h"
 #include "reports/clsReportClasses.h"
 
 #include <functional>
@@ -60,4 +61,5 @@ void RegisterReportClasses() {
     Register<clsRTFBudgetPaidBy>();
     Register<clsRTFBudgetCategory>();
     Register<clsRTFGift>(TakeFilter);
+    Register<clsRTFVendor>();
 }

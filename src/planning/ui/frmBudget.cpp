@@ -4,7 +4,7 @@
 #include "core/clsDICT.h"
 #include "core/modGeneral.h"
 #include "planning/ui/usrMoneyBox.h"
-#include "planning/ui/usrOptionalDate.h"
+#include "shell/controls/usrDate.h"
 #include "shell/controls/modLayout.h"
 #include "shell/controls/usrDropdown.h"
 
@@ -72,9 +72,9 @@ void frmBudget::BuildControls() {
     usrPAID_BY_DICT = new usrDropdown(this);
     usrPAID_BY_DICT->setObjectName(QStringLiteral("usrPAID_BY_DICT"));
     usrPAID_BY_DICT->PopulateX(clsDICT::PaidBy);
-    usrDUE_DT = new usrOptionalDate(this);
+    usrDUE_DT = new usrDate(this);
     usrDUE_DT->setObjectName(QStringLiteral("usrDUE_DT"));
-    usrPAID_DT = new usrOptionalDate(this);
+    usrPAID_DT = new usrDate(this);
     usrPAID_DT->setObjectName(QStringLiteral("usrPAID_DT"));
     txtNOTES_TX = new QPlainTextEdit(this);
     txtNOTES_TX->setObjectName(QStringLiteral("txtNOTES_TX"));
@@ -105,8 +105,8 @@ void frmBudget::BuildControls() {
     connect(usrACTUAL_AMOUNT_NB, &usrMoneyBox::Changed, this, &frmBudget::RefreshEnabling);
     for (usrDropdown* list : {usrBUDGET_CATEGORY_DICT, usrVENDOR, usrPAID_BY_DICT})
         connect(list, &usrDropdown::Click, this, &frmBudget::RefreshEnabling);
-    for (usrOptionalDate* date : {usrDUE_DT, usrPAID_DT})
-        connect(date, &QDateEdit::dateChanged, this, [this] {
+    for (usrDate* date : {usrDUE_DT, usrPAID_DT})
+        connect(date, &usrDate::Changed, this, [this] {
             ShowPastdue();
             RefreshEnabling();
         });

@@ -10,7 +10,7 @@ class QLineEdit;
 class QPlainTextEdit;
 class usrDropdown;
 class usrMoneyBox;
-class usrOptionalDate;
+class usrDate;
 
 // One expense: name, amount, category, vendor (with a link to add a new one), payer, due and paid
 // dates and a memo. "Pastdue" shows while it is unpaid after its due day. Save is offered once something
@@ -54,7 +54,7 @@ private:
     usrDropdown* usrBUDGET_CATEGORY_DICT;
     usrDropdown* usrVENDOR;
     usrDropdown* usrPAID_BY_DICT;
-    usrOptionalDate* usrDUE_DT;
-    usrOptionalDate* usrPAID_DT;
+    usrDate* usrDUE_DT;
+    usrDate* usrPAID_DT;
     QPlainTextEdit* txtNOTES_TX;
 };

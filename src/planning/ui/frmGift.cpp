@@ -3,7 +3,7 @@
 #include "core/modGeneral.h"
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
-#include "planning/ui/usrOptionalDate.h"
+#include "shell/controls/usrDate.h"
 #include "shell/controls/modLayout.h"
 #include "shell/controls/usrDropdown.h"
 
@@ -64,7 +64,7 @@ void frmGift::BuildControls() {
     usrEVENT = new usrDropdown(this);
     usrEVENT->setObjectName(QStringLiteral("usrEVENT"));
     usrEVENT->PopulateSQL(QStringLiteral("SELECT EVENT_ID, EVENT_TX FROM EVENT ORDER BY EVENT_ID"));
-    usrRECEIVED_DT = new usrOptionalDate(this);
+    usrRECEIVED_DT = new usrDate(this);
     usrRECEIVED_DT->setObjectName(QStringLiteral("usrRECEIVED_DT"));
     txtGIFT_TX = new QLineEdit(this);
     txtGIFT_TX->setObjectName(QStringLiteral("txtGIFT_TX"));
@@ -110,7 +110,7 @@ void frmGift::BuildControls() {
         RefreshEnabling();
     });
     connect(usrEVENT, &usrDropdown::Click, this, &frmGift::RefreshEnabling);
-    connect(usrRECEIVED_DT, &QDateEdit::dateChanged, this, &frmGift::RefreshEnabling);
+    connect(usrRECEIVED_DT, &usrDate::Changed, this, &frmGift::RefreshEnabling);
     connect(txtGIFT_TX, &QLineEdit::textChanged, this, &frmGift::RefreshEnabling);
     connect(chk, &QCheckBox::toggled, this, &frmGift::RefreshEnabling);
     connect(txtNOTES_TX, &QPlainTextEdit::textChanged, this, &frmGift::RefreshEnabling);
@@ -136,8 +136,8 @@ void frmGift::FillGivers() {
             auto* item = new QListWidgetItem(contact.LastFirstMiddleSuffix(), lvw);
             item->setData(kKeyRole, RowKey(FromContact, contact.CONTACT_ID));
             item->setData(kIdRole, contact.CONTACT_ID);
-            item->setData(kAddressRole, contact.TitleFirstMiddleLastSuffix() + QStringLiteral("\r\n") +
-                                            contact.DisplayAddress(true));
+            item->setData(kAddressRole, QString(contact.TitleFirstMiddleLastSuffix() + QStringLiteral("\r\n") +
+                                                    contact.DisplayAddress(true)));
         }
     } else {
         lblList->setText(QStringLiteral("Invitations"));

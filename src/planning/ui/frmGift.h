@@ -10,7 +10,7 @@ class QListWidget;
 class QPlainTextEdit;
 class QRadioButton;
 class usrDropdown;
-class usrOptionalDate;
+class usrDate;
 
 // One gift: from a contact or from a whole invitation, chosen in a list with the giver's address shown,
 // at an event, received on a day (or not yet known), and whether the thank-you note went out. Save is
@@ -52,7 +52,7 @@ private:
     QListWidget* lvw;
     QPlainTextEdit* txtAddress;
     usrDropdown* usrEVENT;
-    usrOptionalDate* usrRECEIVED_DT;
+    usrDate* usrRECEIVED_DT;
     QLineEdit* txtGIFT_TX;
     QCheckBox* chk;
     QPlainTextEdit* txtNOTES_TX;

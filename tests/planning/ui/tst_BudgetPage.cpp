@@ -4,7 +4,7 @@
 #include "planning/ui/frmBudget.h"
 #include "planning/ui/frmMain_07_Budget.h"
 #include "planning/ui/usrMoneyBox.h"
-#include "planning/ui/usrOptionalDate.h"
+#include "shell/controls/usrDate.h"
 #include "shell/controls/usrDropdown.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/grid/usrGrid.h"
@@ -241,7 +241,7 @@ private slots:
         UiTestTools::Child<QLineEdit>(UiTestTools::Child<usrMoneyBox>(&editor, "usrACTUAL_AMOUNT_NB"), "txt")
             ->setText(amount);
         if (due)
-            UiTestTools::Child<usrOptionalDate>(&editor, "usrDUE_DT")->SetDate(QDate(2027, 6, 1));
+            UiTestTools::Child<usrDate>(&editor, "usrDUE_DT")->SetDate(QDate(2027, 6, 1));
         QVERIFY(!editor.cmdSave_Click());
         QCOMPARE(db->Messages().Prompts, QStringList({message}));
         QCOMPARE(PlanningDatabase::Count("BUDGET"), QStringLiteral("0"));
@@ -256,7 +256,7 @@ private slots:
         UiTestTools::Child<QLineEdit>(&editor, "txtITEM_NM")->setText("Bouquet");
         UiTestTools::Child<QLineEdit>(UiTestTools::Child<usrMoneyBox>(&editor, "usrACTUAL_AMOUNT_NB"), "txt")
             ->setText("1,250.05");
-        UiTestTools::Child<usrOptionalDate>(&editor, "usrDUE_DT")->SetDate(QDate(2027, 6, 1));
+        UiTestTools::Child<usrDate>(&editor, "usrDUE_DT")->SetDate(QDate(2027, 6, 1));
         QVERIFY(editor.cmdSaveAndNew_Click());
         QCOMPARE(TestDatabase::Scalar("SELECT ITEM_NM || '|' || ACTUAL_AMOUNT_NB || '|' || BUDGET_CATEGORY_ID || "
                                       "'|' || PAID_BY_ID || '|' || DUE_DT FROM BUDGET"),
@@ -264,7 +264,7 @@ private slots:
         QVERIFY(UiTestTools::Child<QLineEdit>(&editor, "txtITEM_NM")->text().isEmpty());
         QCOMPARE(UiTestTools::Child<usrDropdown>(&editor, "usrBUDGET_CATEGORY_DICT")->Code(), kFlowers);
         QCOMPARE(payer->Code(), QStringLiteral("1"));
-        QCOMPARE(UiTestTools::Child<usrOptionalDate>(&editor, "usrDUE_DT")->Date(), QDate(2027, 6, 1));
+        QCOMPARE(UiTestTools::Child<usrDate>(&editor, "usrDUE_DT")->Date(), QDate(2027, 6, 1));
     }
 };
 

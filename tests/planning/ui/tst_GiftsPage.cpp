@@ -3,7 +3,7 @@
 #include "planning/clsGIFT.h"
 #include "planning/ui/frmGift.h"
 #include "planning/ui/frmMain_05_Gifts.h"
-#include "planning/ui/usrOptionalDate.h"
+#include "shell/controls/usrDate.h"
 #include "shell/controls/usrDropdown.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/grid/usrGrid.h"
