@@ -28,6 +28,8 @@ CliCommand SeatCommand();
 CliCommand UnseatCommand();
 CliCommand TablesCommand();
 CliCommand TentcardsCommand();
+CliCommand BudgetCommand();
+CliCommand ThankYouCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

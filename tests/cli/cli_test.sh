@@ -221,6 +221,22 @@ check "unseat needs keys" 2 'usage: unseat ID' "$cli" unseat
 check "unseat one" 0 "^Unseated: ${ids[0]}$" "$cli" unseat "${ids[0]}"
 check "tables after unseating one" 0 '^Table #1: 11 of 12 seats taken$' "$cli" tables
 
+# The budget in cents and the thank-you notes: figures a script can add up, all or none.
+check "budget lists the categories and the totals" 0 '^"Totals",[0-9]+\.[0-9]{2},' "$cli" budget
+check "budget takes no arguments" 2 'takes no arguments' "$cli" budget extra
+check "every actual is due plus paid" 0 '^ok$' bash -c "\"$cli\" budget | awk -F, 'NR > 1 && \$5 * 100 != \$3 * 100 + \$4 * 100 { bad = 1 } END { print bad ? \"bad\" : \"ok\" }'"
+check "estimates vs. actuals as CSV" 0 "^$home/Reports/07_BudgetEstimatesActuals_.*\.csv$" "$cli" report Budget --filter 99 --format csv
+check "its totals are plain numbers" 0 '^"Totals:","[0-9]+\.[0-9]{2}","100\.00%","[0-9]+\.[0-9]{2}"' cat "$(ls -t "$home"/Reports/07_BudgetEstimatesActuals_*.csv | head -1)"
+check "budget by payer as CSV" 0 "^$home/Reports/07_BudgetPaidBy_.*\.csv$" "$cli" report Budget --filter 98 --format csv
+check "a subtotal per payer" 0 "^\"Subtotal Bride's Family\",\"[0-9]+\\.[0-9]{2}\"" cat "$(ls -t "$home"/Reports/07_BudgetPaidBy_*.csv | head -1)"
+gift=$("$cli" sql "SELECT MIN(GIFT_ID) FROM GIFT" | tail -1 | tr -d '"')
+check "thank-you marks a note sent" 0 "^Thank-you notes sent: $gift$" "$cli" thank-you "$gift"
+check "the note is sent" 0 '^"?Y"?$' bash -c "\"$cli\" sql \"SELECT THANK_YOU_SENT_FG FROM GIFT WHERE GIFT_ID = $gift\" | tail -1"
+check "thank-you --unsent takes it back" 0 "^Thank-you notes unsent: $gift$" "$cli" thank-you --unsent "$gift"
+check "an unknown gift changes nothing" 1 'there is no gift 99999\. Nothing was changed' "$cli" thank-you "$gift" 99999
+check "the known one of them stays unsent" 0 '^"?N"?$' bash -c "\"$cli\" sql \"SELECT THANK_YOU_SENT_FG FROM GIFT WHERE GIFT_ID = $gift\" | tail -1"
+check "thank-you needs keys" 2 'usage: thank-you' "$cli" thank-you
+
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
 check "the damaged file is untouched" 0 'not a database at all' cat "$home/Database/Vowren.quilldata"
