@@ -27,6 +27,8 @@
 #include <QPainter>
 #include <QShortcut>
 #include <QSplitter>
+#include <QHeaderView>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 namespace {
@@ -219,11 +221,14 @@ QWidget* frmMain_07_Budget::BuildTopPane() {
     gridTop->setMinimumHeight(0);
     mBars = modBudgetCharts::NewChart();
     mBarView = ChartView(mBars, QStringLiteral("chartBars"), pane);
-    mBarView->setMinimumWidth(300);
+    // The categories take the width of their columns; the bars the rest.
+    gridTop->setMinimumWidth(gridTop->header()->length() + gridTop->verticalScrollBar()->sizeHint().width() +
+                             2 * gridTop->frameWidth());
+    mBarView->setMinimumWidth(200);
     auto* layout = new QHBoxLayout(pane);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(gridTop, 3);
-    layout->addWidget(mBarView, 2);
+    layout->addWidget(gridTop, 0);
+    layout->addWidget(mBarView, 1);
     pane->setMinimumHeight(kSplitterTop / 15);
     connect(gridTop->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &frmMain_07_Budget::OnCategoryChanged);

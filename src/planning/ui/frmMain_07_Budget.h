@@ -68,6 +68,8 @@ public:
     void SelectCategory(const QString& categoryId);
     // "12.50%"; a category of no estimates shows "0.00%".
     static QString PercentText(double share);
+    // Keeps the splitter's place.
+    void Leaving() override;
 
 public slots:
     void mfrmBudget_Changed(const QString& budgetId);
@@ -80,7 +82,6 @@ protected:
     void Activate(qint64 key) override;
     void UpdateActions() override;
     void showEvent(QShowEvent* event) override;
-    void Leaving() override;
 
 private:
     QWidget* BuildTopPane();

@@ -31,6 +31,16 @@ usrHyperlink* LinkBeside(const QString& caption, const QString& name, QWidget* p
     return link;
 }
 
+// A field with its link at the right.
+QWidget* FieldWithLink(QLineEdit* field, usrHyperlink* link) {
+    auto* row = new QWidget(field->parentWidget());
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(field, 1);
+    layout->addWidget(link);
+    return row;
+}
+
 } // namespace
 
 QString frmVendor::Details(const clsVENDOR& vendor) {
@@ -93,14 +103,9 @@ QWidget* frmVendor::BuildFields() {
     modLayout::CaptionedRow(form, QStringLiteral("C&ontact"), txtCONTACT_NM);
     modLayout::CaptionedRow(form, QStringLiteral("&Phone"), txtPHONE_TX);
     modLayout::CaptionedRow(form, QStringLiteral("&Fax"), txtFAX_TX);
-    auto* email = new QHBoxLayout;
-    email->addWidget(txtEMAIL_TX, 1);
-    email->addWidget(picEmail);
-    form->addRow(QStringLiteral("&E-mail"), email);
-    auto* web = new QHBoxLayout;
-    web->addWidget(txtWEB_SITE_TX, 1);
-    web->addWidget(picWeb);
-    form->addRow(QStringLiteral("&Web Site"), web);
+    modLayout::CaptionedRow(form, QStringLiteral("&E-mail"), FieldWithLink(txtEMAIL_TX, picEmail), txtEMAIL_TX);
+    modLayout::CaptionedRow(form, QStringLiteral("&Web Site"), FieldWithLink(txtWEB_SITE_TX, picWeb),
+                            txtWEB_SITE_TX);
     return fields;
 }
 

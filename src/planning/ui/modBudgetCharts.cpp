@@ -81,7 +81,6 @@ void FillBars(QChart* chart, const QList<clsBudgetCategorySums>& categories, con
     chart->addSeries(series);
     auto* categoryAxis = new QBarCategoryAxis;
     categoryAxis->append(names);
-    categoryAxis->setReverse(true);
     chart->addAxis(categoryAxis, Qt::AlignLeft);
     series->attachAxis(categoryAxis);
     auto* amounts = new QValueAxis;
@@ -100,19 +99,21 @@ void FillRing(QChart* chart, const QList<clsBudgetCategorySums>& categories, con
     auto* ring = new QPieSeries;
     ring->setHoleSize(0.5);
     ring->setPieSize(0.85);
+    chart->setTitle(QStringLiteral("Spent by category"));
     for (const clsBudgetCategorySums& category : categories) {
         if (category.Actual() <= clsMoney())
             continue;
-        QPieSlice* slice = ring->append(category.BUDGET_CATEGORY_TX, category.Actual().ToDouble());
-        const bool selected = category.BUDGET_CATEGORY_ID == selectedId;
-        slice->setExploded(selected);
-        slice->setLabelVisible(selected);
-        slice->setLabel(category.BUDGET_CATEGORY_TX + QStringLiteral(" ") + category.Actual().Text());
+        const QString label = category.BUDGET_CATEGORY_TX + QStringLiteral(" ") + category.Actual().Text();
+        QPieSlice* slice = ring->append(label, category.Actual().ToDouble());
+        if (category.BUDGET_CATEGORY_ID == selectedId) {
+            slice->setExploded(true);
+            chart->setTitle(label);
+        }
     }
     if (ring->count() == 0) {
         QPieSlice* nothing = ring->append(QStringLiteral("Nothing spent yet"), 1);
         nothing->setColor(QColor(220, 220, 220));
-        nothing->setLabelVisible(true);
+        chart->setTitle(QStringLiteral("Nothing spent yet"));
     }
     chart->addSeries(ring);
     chart->legend()->setVisible(false);

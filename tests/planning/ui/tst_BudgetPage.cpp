@@ -133,15 +133,17 @@ private slots:
         QCOMPARE(Stat(&page, clsBUDGET::AllExpenses), QStringLiteral("1"));
         QCOMPARE(Stat(&page, clsBUDGET::Pastdue), QStringLiteral("0"));
         QVERIFY(UiTestTools::Child<usrHyperlink>(&page, "linkAction_1")->isEnabled());
-        // The bars of stationery, the first category by name, stand out; so does its slice of the ring.
+        // The bars of stationery, the tenth category by name, stand out; so does its slice of the ring.
         auto* bars = qobject_cast<QHorizontalBarSeries*>(page.BarChart()->series().first());
-        QCOMPARE(bars->barSets().first()->selectedBars(), QList<int>({int(0)}));
+        QCOMPARE(bars->barSets().first()->selectedBars(), QList<int>({9}));
+        QCOMPARE(bars->barSets().last()->selectedBars(), QList<int>({9}));
         auto* ring = qobject_cast<QPieSeries*>(page.RingChart()->series().first());
         QStringList exploded;
         for (QPieSlice* slice : ring->slices())
             if (slice->isExploded())
                 exploded << slice->label();
         QCOMPARE(exploded, QStringList({"Stationery $120.50"}));
+        QCOMPARE(page.RingChart()->title(), QStringLiteral("Stationery $120.50"));
 
         page.SelectCategory(QString()); // "Totals": every expense again
         QCOMPARE(Keys(page.Grid()).size(), 4);

@@ -28,6 +28,8 @@ void AddGifts() {
                        "VALUES (3, 'Mr.', 'John', 'Q', 'Smith', 'Jr.')");
     TestDatabase::Exec("INSERT INTO INVITE (INVITE_ID, DISPLAY_AS_TX, OUTER_ENVELOPE_TX) VALUES "
                        "(1, 'Carter, Tom and Lucy', 'Mr. and Mrs. Tom Carter')");
+    TestDatabase::Exec("INSERT INTO CONTACT (CONTACT_ID, FIRST_NM, LAST_NM, INVITE_ID, PRIMARY_CONTACT_FG, "
+                       "SORT_ORDER_NB) VALUES (5, 'Tom', 'Carter', 1, 'Y', 1)");
     TestDatabase::Exec("INSERT INTO EVENT (EVENT_ID, EVENT_TX) VALUES (2, 'Shower')");
     TestDatabase::Exec("INSERT INTO GIFT (GIFT_ID, EVENT_ID, CONTACT_ID, INVITE_ID, GIFT_TX, THANK_YOU_SENT_FG) "
                        "VALUES (1, 1, 3, NULL, 'Toaster', 'N'), (2, 1, NULL, 1, 'Blender', 'N'), "
