@@ -15,33 +15,38 @@ namespace {
 
 // Rows numbered from 1 to n, for the inserts below.
 QString Numbers(int n) {
-    return QStringLiteral("WITH RECURSIVE N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < %1) ").arg(n);
+    return QStringLiteral("WITH RECURSIVE N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < %1) ")
+        .arg(n);
 }
 
 bool GrowTheWedding(QString* message) {
     try {
         clsTransaction tx(gDB());
-        gDB().Execute(Numbers(40) +
-                      QStringLiteral("INSERT INTO BUDGET_CATEGORY_DICT (BUDGET_CATEGORY_ID, BUDGET_CATEGORY_TX, "
-                                     "ESTIMATE_AMOUNT_NB) SELECT 100 + I, 'Category ' || I, I * 250.25 FROM N "
-                                     "WHERE I > 10"));
-        gDB().Execute(Numbers(1000) +
-                      QStringLiteral("INSERT INTO VENDOR (VENDOR_ID, VENDOR_NM, VENDOR_CATEGORY_ID, ADDRESS_TX, "
-                                     "PHONE_TX, EMAIL_TX) SELECT 1000 + I, 'Vendor ' || I, 1 + I % 5, "
-                                     "I || ' Main St', '555-' || I, 'v' || I || '@example.com' FROM N"));
-        gDB().Execute(Numbers(5000) +
-                      QStringLiteral("INSERT INTO BUDGET (BUDGET_ID, ITEM_NM, ACTUAL_AMOUNT_NB, DUE_DT, PAID_DT, "
-                                     "BUDGET_CATEGORY_ID, PAID_BY_ID, VENDOR_ID) SELECT 10000 + I, 'Expense ' || "
-                                     "I, (I % 997) + 0.01 * (I % 100), '2027-05-' || printf('%02d', 1 + I % 28), "
-                                     "CASE WHEN I % 3 = 0 THEN '2027-01-15' END, (SELECT BUDGET_CATEGORY_ID FROM "
-                                     "BUDGET_CATEGORY_DICT ORDER BY BUDGET_CATEGORY_ID LIMIT 1 OFFSET I % 40), "
-                                     "1 + I % 5, 1000 + 1 + I % 1000 FROM N "
-                                     "WHERE (SELECT COUNT(*) FROM BUDGET) + I <= 5000"));
-        gDB().Execute(Numbers(5000) +
-                      QStringLiteral("INSERT INTO GIFT (GIFT_ID, EVENT_ID, CONTACT_ID, GIFT_TX, THANK_YOU_SENT_FG) "
-                                     "SELECT 10000 + I, 1, (SELECT CONTACT_ID FROM CONTACT ORDER BY CONTACT_ID LIMIT 1 "
-                                     "OFFSET I % 9000), 'Gift ' || I, CASE WHEN I % 2 = 0 THEN 'Y' ELSE 'N' END "
-                                     "FROM N WHERE (SELECT COUNT(*) FROM GIFT) + I <= 5000"));
+        gDB().Execute(
+            Numbers(40) +
+            QStringLiteral("INSERT INTO BUDGET_CATEGORY_DICT (BUDGET_CATEGORY_ID, BUDGET_CATEGORY_TX, "
+                           "ESTIMATE_AMOUNT_NB) SELECT 100 + I, 'Category ' || I, I * 250.25 FROM N "
+                           "WHERE I > 10"));
+        gDB().Execute(
+            Numbers(1000) +
+            QStringLiteral("INSERT INTO VENDOR (VENDOR_ID, VENDOR_NM, VENDOR_CATEGORY_ID, ADDRESS_TX, "
+                           "PHONE_TX, EMAIL_TX) SELECT 1000 + I, 'Vendor ' || I, 1 + I % 5, "
+                           "I || ' Main St', '555-' || I, 'v' || I || '@example.com' FROM N"));
+        gDB().Execute(
+            Numbers(5000) +
+            QStringLiteral("INSERT INTO BUDGET (BUDGET_ID, ITEM_NM, ACTUAL_AMOUNT_NB, DUE_DT, PAID_DT, "
+                           "BUDGET_CATEGORY_ID, PAID_BY_ID, VENDOR_ID) SELECT 10000 + I, 'Expense ' || "
+                           "I, (I % 997) + 0.01 * (I % 100), '2027-05-' || printf('%02d', 1 + I % 28), "
+                           "CASE WHEN I % 3 = 0 THEN '2027-01-15' END, (SELECT BUDGET_CATEGORY_ID FROM "
+                           "BUDGET_CATEGORY_DICT ORDER BY BUDGET_CATEGORY_ID LIMIT 1 OFFSET I % 40), "
+                           "1 + I % 5, 1000 + 1 + I % 1000 FROM N "
+                           "WHERE (SELECT COUNT(*) FROM BUDGET) + I <= 5000"));
+        gDB().Execute(
+            Numbers(5000) +
+            QStringLiteral("INSERT INTO GIFT (GIFT_ID, EVENT_ID, CONTACT_ID, GIFT_TX, THANK_YOU_SENT_FG) "
+                           "SELECT 10000 + I, 1, (SELECT CONTACT_ID FROM CONTACT ORDER BY CONTACT_ID LIMIT 1 "
+                           "OFFSET I % 9000), 'Gift ' || I, CASE WHEN I % 2 = 0 THEN 'Y' ELSE 'N' END "
+                           "FROM N WHERE (SELECT COUNT(*) FROM GIFT) + I <= 5000"));
         tx.Commit();
     } catch (const clsDbError& e) {
         *message = e.Message();
@@ -84,7 +89,8 @@ void BM_BudgetCategoryChange(benchmark::State& state) {
     page.LoadNow();
     const QStringList ids = [] {
         QStringList keys;
-        const clsRecordset rs = gDB().Execute(QStringLiteral("SELECT BUDGET_CATEGORY_ID FROM BUDGET_CATEGORY_DICT"));
+        const clsRecordset rs =
+            gDB().Execute(QStringLiteral("SELECT BUDGET_CATEGORY_ID FROM BUDGET_CATEGORY_DICT"));
         for (int row = 0; row < rs.RowCount(); ++row)
             keys << rs.Value(row, 0);
         return keys;

@@ -11,8 +11,9 @@ namespace {
 const QString kThankYouUsage = QStringLiteral("thank-you [--unsent] ID...");
 
 void PrintSums(QTextStream& out, const clsBudgetCategorySums& sums) {
-    out << QuoteCSV(sums.BUDGET_CATEGORY_TX) << ',' << sums.Estimate.Stored() << ',' << sums.Due.Stored() << ','
-        << sums.Paid.Stored() << ',' << sums.Actual().Stored() << ',' << sums.Remaining().Stored() << '\n';
+    out << QuoteCSV(sums.BUDGET_CATEGORY_TX) << ',' << sums.Estimate.Stored() << ',' << sums.Due.Stored()
+        << ',' << sums.Paid.Stored() << ',' << sums.Actual().Stored() << ',' << sums.Remaining().Stored()
+        << '\n';
 }
 
 // Every category with its estimate, due, paid, actual and what is left, then the whole budget; plain
@@ -48,7 +49,8 @@ int RunThankYou(const QStringList& args, QTextStream& out, QTextStream& err) {
         }
     }
     clsGIFT::SetThankYouSent(keys, !unsent);
-    out << (unsent ? "Thank-you notes unsent: " : "Thank-you notes sent: ") << keys.join(QLatin1Char(' ')) << '\n';
+    out << (unsent ? "Thank-you notes unsent: " : "Thank-you notes sent: ") << keys.join(QLatin1Char(' '))
+        << '\n';
     return kExitOk;
 }
 
@@ -56,7 +58,8 @@ int RunThankYou(const QStringList& args, QTextStream& out, QTextStream& err) {
 
 CliCommand BudgetCommand() {
     return {QStringLiteral("budget"), QStringLiteral("budget"),
-            QStringLiteral("every budget category's estimate, due, paid, actual and remainder as CSV"), RunBudget};
+            QStringLiteral("every budget category's estimate, due, paid, actual and remainder as CSV"),
+            RunBudget};
 }
 
 CliCommand ThankYouCommand() {

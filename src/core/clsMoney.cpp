@@ -85,8 +85,8 @@ clsMoney::ParseResult clsMoney::Parse(const QString& typed, const QLocale& local
     const QLocale rules = CurrencyLocale(locale);
     const QString example = FromCents(123450).Editable(rules);
     const auto refuse = [](const QString& error) { return ParseResult{0, error}; };
-    const QString notAnAmount =
-        QStringLiteral("\"%1\" is not an amount. Type it as a number, such as %2.").arg(typed.trimmed(), example);
+    const QString notAnAmount = QStringLiteral("\"%1\" is not an amount. Type it as a number, such as %2.")
+                                    .arg(typed.trimmed(), example);
     QString text = Bare(typed, rules);
     if (text.isEmpty())
         return {};
@@ -113,8 +113,8 @@ clsMoney::ParseResult clsMoney::Parse(const QString& typed, const QLocale& local
     while (decimals.size() > 2 && decimals.endsWith(QLatin1Char('0')))
         decimals.chop(1);
     if (decimals.size() > 2)
-        return refuse(QStringLiteral("An amount has at most two decimals (cents): %1 has more.")
-                          .arg(typed.trimmed()));
+        return refuse(
+            QStringLiteral("An amount has at most two decimals (cents): %1 has more.").arg(typed.trimmed()));
     const QString maximum = FromCents(kMaximumCents).Editable(rules);
     if (whole.size() > 12 || CentsOf(whole, decimals) > kMaximumCents)
         return refuse(QStringLiteral("An amount can't be more than %1.").arg(maximum));

@@ -76,16 +76,19 @@ QList<clsBUDGET_CATEGORY_DICT> clsBUDGET_CATEGORY_DICT::OpenRecords() const {
 
 QList<clsBudgetCategorySums> clsBUDGET_CATEGORY_DICT::OpenSums() {
     const clsRecordset rs = gDB().Execute(
-        QStringLiteral("SELECT C.BUDGET_CATEGORY_ID, C.BUDGET_CATEGORY_TX, ") + Cents("C.ESTIMATE_AMOUNT_NB") +
-        QStringLiteral(", SUM(CASE WHEN B.PAID_DT IS NULL THEN ") + Cents("B.ACTUAL_AMOUNT_NB") +
-        QStringLiteral(" END), SUM(CASE WHEN B.PAID_DT IS NOT NULL THEN ") + Cents("B.ACTUAL_AMOUNT_NB") +
+        QStringLiteral("SELECT C.BUDGET_CATEGORY_ID, C.BUDGET_CATEGORY_TX, ") +
+        Cents("C.ESTIMATE_AMOUNT_NB") + QStringLiteral(", SUM(CASE WHEN B.PAID_DT IS NULL THEN ") +
+        Cents("B.ACTUAL_AMOUNT_NB") + QStringLiteral(" END), SUM(CASE WHEN B.PAID_DT IS NOT NULL THEN ") +
+        Cents("B.ACTUAL_AMOUNT_NB") +
         QStringLiteral(" END) FROM BUDGET_CATEGORY_DICT AS C LEFT JOIN BUDGET AS B ON "
                        "B.BUDGET_CATEGORY_ID = C.BUDGET_CATEGORY_ID GROUP BY C.BUDGET_CATEGORY_ID "
                        "ORDER BY C.BUDGET_CATEGORY_TX COLLATE NOCASE"));
     QList<clsBudgetCategorySums> sums;
     sums.reserve(rs.RowCount());
     for (int row = 0; row < rs.RowCount(); ++row) {
-        const auto cents = [&](int column) { return clsMoney::FromCents(rs.Value(row, column).toLongLong()); };
+        const auto cents = [&](int column) {
+            return clsMoney::FromCents(rs.Value(row, column).toLongLong());
+        };
         sums.append({rs.Value(row, 0), rs.Value(row, 1), cents(2), cents(3), cents(4)});
     }
     return sums;

@@ -12,12 +12,9 @@ RtfMarkup clsRTFBudget::Statistics() const {
 }
 
 QList<clsRTFReport::Column> clsRTFBudget::Columns() const {
-    return {{"Expense", 4500, 2500},
-            {"Actual", 6200, 4000, clsRTFCell::AlignRight},
-            {"Due Date", 7700, 5500},
-            {"Paid Date", 9200, 7000},
-            {"Vendor", 11600, 8300},
-            {"Paid by", 0, 0}};
+    return {{"Expense", 4500, 2500},  {"Actual", 6200, 4000, clsRTFCell::AlignRight},
+            {"Due Date", 7700, 5500}, {"Paid Date", 9200, 7000},
+            {"Vendor", 11600, 8300},  {"Paid by", 0, 0}};
 }
 
 QList<clsBUDGET> clsRTFBudget::Expenses() const {
@@ -25,8 +22,9 @@ QList<clsBUDGET> clsRTFBudget::Expenses() const {
 }
 
 QList<RtfMarkup> clsRTFBudget::Cells(const clsBUDGET& expense) const {
-    return {expense.ITEM_NM,           Amount(expense.Amount()), expense.DUE_DT_DDMMMYYYY(),
-            expense.PAID_DT_DDMMMYYYY(), expense.VENDOR_NM,        expense.PAID_BY_TX};
+    return {
+        expense.ITEM_NM,   Amount(expense.Amount()), expense.DUE_DT_DDMMMYYYY(), expense.PAID_DT_DDMMMYYYY(),
+        expense.VENDOR_NM, expense.PAID_BY_TX};
 }
 
 RtfMarkup clsRTFBudget::Amount(clsMoney amount) const {

@@ -82,10 +82,9 @@ void clsRTFBudgetCategory::PrintChart(const QList<clsBudgetCategorySums>& catego
     RtfMarkup text = RtfMarkup::Control("\\pard\\plain\\ql\\sb240\\sa120") +
                      RtfMarkup::Bold("Estimate against actual per category") +
                      RtfMarkup::Control("\\par\\pard\\plain\\qc");
-    const int widthTwips =
-        int((RTF.PAPER_WIDTH - RTF.MARGIN_LEFT - RTF.MARGIN_RIGHT) * kTwipsPerInch * 0.9);
-    const int heightTwips = std::min(widthTwips / 2, int((RTF.PAPER_HEIGHT - RTF.MARGIN_TOP -
-                                                          RTF.MARGIN_BOTTOM - 1.5) * kTwipsPerInch));
+    const int widthTwips = int((RTF.PAPER_WIDTH - RTF.MARGIN_LEFT - RTF.MARGIN_RIGHT) * kTwipsPerInch * 0.9);
+    const int heightTwips = std::min(
+        widthTwips / 2, int((RTF.PAPER_HEIGHT - RTF.MARGIN_TOP - RTF.MARGIN_BOTTOM - 1.5) * kTwipsPerInch));
     const QSize pixels(2 * widthTwips / kTwipsPerPixel, 2 * heightTwips / kTwipsPerPixel);
     const QByteArray png = Painter() ? Painter()(categories, pixels) : QByteArray();
     if (png.isEmpty())

@@ -13,7 +13,7 @@ RtfMarkup clsRTFGift::Statistics() const {
 }
 
 QList<clsRTFReport::Column> clsRTFGift::Columns() const {
-    return {{"Thank You Sent", 1440, 1200},     {"Name", 4700, 3300}, {"Envelope", 8200, 5400},
+    return {{"Thank You Sent", 1440, 1200},    {"Name", 4700, 3300},  {"Envelope", 8200, 5400},
             {"Envelope Address", 11500, 7600}, {"Gift", 12600, 8700}, {"Received", 0, 0}};
 }
 

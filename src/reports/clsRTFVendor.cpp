@@ -44,7 +44,8 @@ void clsRTFVendor::PrintRows() {
         if (i == 0 || vendors[i - 1].VENDOR_CATEGORY_TX != vendor.VENDOR_CATEGORY_TX)
             GroupRow(vendor.VENDOR_CATEGORY_TX);
         RTF.RTFCells[0].BOLD = true;
-        PrintRow({vendor.VENDOR_NM, vendor.ADDRESS_TX, vendor.CONTACT_NM, Numbers(vendor), vendor.WEB_SITE_TX});
+        PrintRow(
+            {vendor.VENDOR_NM, vendor.ADDRESS_TX, vendor.CONTACT_NM, Numbers(vendor), vendor.WEB_SITE_TX});
         if (!vendor.NOTES_TX.isEmpty())
             NoteRow(RtfMarkup::Italic(vendor.NOTES_TX));
     }

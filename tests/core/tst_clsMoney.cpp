@@ -87,11 +87,14 @@ private slots:
         QTest::addColumn<qint64>("cents");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("editable");
-        QTest::newRow("us") << kUs << qint64(123450) << "$1,234.50" << "1,234.50";
-        QTest::newRow("us negative") << kUs << qint64(-500) << "($5.00)" << "-5.00";
+        QTest::newRow("us") << kUs << qint64(123450) << "$1,234.50"
+                            << "1,234.50";
+        QTest::newRow("us negative") << kUs << qint64(-500) << "($5.00)"
+                                     << "-5.00";
         QTest::newRow("german") << kGerman << qint64(123450) << QString::fromUtf8("1.234,50\u00a0€")
                                 << "1.234,50";
-        QTest::newRow("no country writes dollars") << QLocale::c() << qint64(7) << "$0.07" << "0.07";
+        QTest::newRow("no country writes dollars") << QLocale::c() << qint64(7) << "$0.07"
+                                                   << "0.07";
     }
     void shownInTheLocalesCurrency() {
         QFETCH(QLocale, locale);

@@ -4,8 +4,8 @@
 #include "core/clsDICT.h"
 #include "core/modGeneral.h"
 #include "planning/ui/usrMoneyBox.h"
-#include "shell/controls/usrDate.h"
 #include "shell/controls/modLayout.h"
+#include "shell/controls/usrDate.h"
 #include "shell/controls/usrDropdown.h"
 
 #include <QDialogButtonBox>
@@ -95,11 +95,12 @@ void frmBudget::BuildControls() {
     layout->addLayout(top);
     layout->addLayout(form);
     layout->addWidget(txtNOTES_TX, 1);
-    layout->addWidget(ButtonRow({QStringLiteral("cmdSave"), QStringLiteral("cmdCancel"), QStringLiteral("Save"),
-                                 QStringLiteral("cmdSaveAndNew")}));
+    layout->addWidget(ButtonRow({QStringLiteral("cmdSave"), QStringLiteral("cmdCancel"),
+                                 QStringLiteral("Save"), QStringLiteral("cmdSaveAndNew")}));
 
     connect(txtITEM_NM, &QLineEdit::textChanged, this, [this] {
-        lblTop->setText(txtITEM_NM->text().trimmed().isEmpty() ? QStringLiteral("Expense") : txtITEM_NM->text());
+        lblTop->setText(txtITEM_NM->text().trimmed().isEmpty() ? QStringLiteral("Expense")
+                                                               : txtITEM_NM->text());
         RefreshEnabling();
     });
     connect(usrACTUAL_AMOUNT_NB, &usrMoneyBox::Changed, this, &frmBudget::RefreshEnabling);
@@ -146,9 +147,9 @@ void frmBudget::LoadExpense(const QString& categoryId) {
 }
 
 QStringList frmBudget::Snapshot() const {
-    return {txtITEM_NM->text(),         usrACTUAL_AMOUNT_NB->Text(), usrBUDGET_CATEGORY_DICT->Code(),
-            usrVENDOR->Code(),          usrPAID_BY_DICT->Code(),     usrDUE_DT->Text(),
-            usrPAID_DT->Text(),         txtNOTES_TX->toPlainText()};
+    return {txtITEM_NM->text(), usrACTUAL_AMOUNT_NB->Text(), usrBUDGET_CATEGORY_DICT->Code(),
+            usrVENDOR->Code(),  usrPAID_BY_DICT->Code(),     usrDUE_DT->Text(),
+            usrPAID_DT->Text(), txtNOTES_TX->toPlainText()};
 }
 
 void frmBudget::RefreshEnabling() {

@@ -16,7 +16,8 @@ frmBudgetCategory::frmBudgetCategory(const QString& categoryId, QWidget* parent)
     SetAdding(categoryId.isEmpty());
     if (!categoryId.isEmpty())
         RecordIO::Attempt([&] { mCategory.OpenRecord(categoryId); });
-    setWindowTitle(IsAdding() ? QStringLiteral("Add budget category") : QStringLiteral("Edit budget category"));
+    setWindowTitle(IsAdding() ? QStringLiteral("Add budget category")
+                              : QStringLiteral("Edit budget category"));
 
     QLabel* header = modLayout::HeaderLabel(this);
     header->setText(windowTitle());

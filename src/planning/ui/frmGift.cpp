@@ -3,8 +3,8 @@
 #include "core/modGeneral.h"
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
-#include "shell/controls/usrDate.h"
 #include "shell/controls/modLayout.h"
+#include "shell/controls/usrDate.h"
 #include "shell/controls/usrDropdown.h"
 
 #include <QButtonGroup>
@@ -136,8 +136,8 @@ void frmGift::FillGivers() {
             auto* item = new QListWidgetItem(contact.LastFirstMiddleSuffix(), lvw);
             item->setData(kKeyRole, RowKey(FromContact, contact.CONTACT_ID));
             item->setData(kIdRole, contact.CONTACT_ID);
-            item->setData(kAddressRole, QString(contact.TitleFirstMiddleLastSuffix() + QStringLiteral("\r\n") +
-                                                    contact.DisplayAddress(true)));
+            item->setData(kAddressRole, QString(contact.TitleFirstMiddleLastSuffix() +
+                                                QStringLiteral("\r\n") + contact.DisplayAddress(true)));
         }
     } else {
         lblList->setText(QStringLiteral("Invitations"));
@@ -163,8 +163,9 @@ void frmGift::SelectGiver(const QString& rowKey) {
 
 void frmGift::ShowGiver() {
     const QListWidgetItem* item = lvw->currentItem();
-    txtAddress->setPlainText(item ? item->data(kAddressRole).toString().replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
-                                  : QString());
+    txtAddress->setPlainText(
+        item ? item->data(kAddressRole).toString().replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
+             : QString());
 }
 
 frmGift::GiverKind frmGift::Kind() const {
@@ -177,8 +178,9 @@ QString frmGift::GiverId() const {
 }
 
 QStringList frmGift::Snapshot() const {
-    return {QString::number(Kind()), GiverId(),           usrEVENT->Code(), usrRECEIVED_DT->Text(),
-            txtGIFT_TX->text(),      QString::number(chk->isChecked()), txtNOTES_TX->toPlainText()};
+    return {QString::number(Kind()),   GiverId(),          usrEVENT->Code(),
+            usrRECEIVED_DT->Text(),    txtGIFT_TX->text(), QString::number(chk->isChecked()),
+            txtNOTES_TX->toPlainText()};
 }
 
 void frmGift::RefreshEnabling() {

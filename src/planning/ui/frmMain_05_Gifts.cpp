@@ -43,7 +43,8 @@ QList<clsGridColumn> GiftColumns() {
         clsGridColumn(QStringLiteral("RECEIVED_DT"), QStringLiteral("Received"), 95)
             .OfKind(GridColumnKind::Date)
             .StoreWidth(),
-        clsGridColumn(QStringLiteral("THANK_YOU_SENT_FG"), QStringLiteral("Thank You Sent"), 110).StoreWidth(),
+        clsGridColumn(QStringLiteral("THANK_YOU_SENT_FG"), QStringLiteral("Thank You Sent"), 110)
+            .StoreWidth(),
     };
     Q_ASSERT(columns.size() == Column::ColumnCount);
     return columns;
@@ -63,7 +64,8 @@ clsGridCells& WriteRow(clsGridCells& cells, const clsGIFT& gift) {
 
 } // namespace
 
-frmMain_05_Gifts::frmMain_05_Gifts(QWidget* parent) : usrListPage(QStringLiteral("frmMain_05_Gifts"), parent) {
+frmMain_05_Gifts::frmMain_05_Gifts(QWidget* parent)
+    : usrListPage(QStringLiteral("frmMain_05_Gifts"), parent) {
     SetRecordNoun(QStringLiteral("gift"));
     SetEmptyText(QStringLiteral("No gifts yet. Click \"Add new gift\" when the first one arrives."),
                  QStringLiteral("No gifts match."));
@@ -118,7 +120,8 @@ void frmMain_05_Gifts::BuildMenu() {
 
 void frmMain_05_Gifts::showEvent(QShowEvent* event) {
     usrListPage::showEvent(event);
-    const QString filter = CurrentFilter() > 0 ? QStringLiteral(">") + FilterCaption(CurrentFilter()) : QString();
+    const QString filter =
+        CurrentFilter() > 0 ? QStringLiteral(">") + FilterCaption(CurrentFilter()) : QString();
     emit Breadcrumb(QStringLiteral("Gifts") + filter);
 }
 

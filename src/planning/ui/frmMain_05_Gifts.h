@@ -14,7 +14,14 @@ class frmMain_05_Gifts : public usrListPage {
 public:
     explicit frmMain_05_Gifts(QWidget* parent = nullptr);
 
-    enum ActionIndex : int { AddGift = 0, EditGift, DeleteGift, MarkThankYouSent, PrintReports, OpenReportsFolder };
+    enum ActionIndex : int {
+        AddGift = 0,
+        EditGift,
+        DeleteGift,
+        MarkThankYouSent,
+        PrintReports,
+        OpenReportsFolder
+    };
     enum Column : int {
         GIFT_ICON = 0,
         FROM,

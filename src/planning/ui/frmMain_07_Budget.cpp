@@ -5,12 +5,12 @@
 #include "core/clsColor.h"
 #include "core/clsDICT.h"
 #include "core/modGeneral.h"
-#include "platform/clsRegistry.h"
-#include "platform/clsShell.h"
 #include "planning/ui/frmBudget.h"
 #include "planning/ui/frmBudgetCategory.h"
 #include "planning/ui/modBudgetCharts.h"
 #include "planning/ui/usrBudgetInfo.h"
+#include "platform/clsRegistry.h"
+#include "platform/clsShell.h"
 #include "reports/clsReportCatalogue.h"
 #include "shell/controls/ControlIcons.h"
 #include "shell/controls/usrDropdown.h"
@@ -22,13 +22,13 @@
 #include <QChart>
 #include <QChartView>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLocale>
 #include <QMenu>
 #include <QPainter>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
-#include <QHeaderView>
-#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 namespace {
@@ -42,8 +42,8 @@ QIcon Coin(const QColor& color) {
         [](QPainter& painter, const QRectF& r, const QColor& c) {
             painter.setPen(QPen(c.darker(140), r.width() * 0.07));
             painter.setBrush(c);
-            painter.drawEllipse(r.adjusted(r.width() * 0.12, r.width() * 0.12, -r.width() * 0.12,
-                                           -r.width() * 0.12));
+            painter.drawEllipse(
+                r.adjusted(r.width() * 0.12, r.width() * 0.12, -r.width() * 0.12, -r.width() * 0.12));
             painter.drawLine(QPointF(r.center().x(), r.top() + r.height() * 0.3),
                              QPointF(r.center().x(), r.bottom() - r.height() * 0.3));
         },
@@ -55,8 +55,8 @@ QIcon Ledger() {
         [](QPainter& painter, const QRectF& r, const QColor& c) {
             painter.setPen(QPen(c, r.width() * 0.07));
             painter.setBrush(QColor(240, 245, 252));
-            painter.drawRect(r.adjusted(r.width() * 0.15, r.width() * 0.12, -r.width() * 0.15,
-                                        -r.width() * 0.12));
+            painter.drawRect(
+                r.adjusted(r.width() * 0.15, r.width() * 0.12, -r.width() * 0.15, -r.width() * 0.12));
             for (double y : {0.38, 0.55, 0.72})
                 painter.drawLine(QPointF(r.left() + r.width() * 0.3, r.top() + r.height() * y),
                                  QPointF(r.right() - r.width() * 0.3, r.top() + r.height() * y));
@@ -104,7 +104,7 @@ QList<clsGridColumn> CategoryColumns() {
         money("DUE_AMOUNT_NB", "Due", 100),
         money("PAID_AMOUNT_NB", "+ Paid", 100),
         money("ACTUAL_AMOUNT_NB", "= Actual", 100),
-        money("REMAINING", "+/-  ", 75),
+        money("REMAINING", "+/-  ", 95),
     };
     Q_ASSERT(columns.size() == TopColumn::TopColumnCount);
     return columns;
@@ -156,7 +156,8 @@ void WriteExpenseRow(clsGridCells& cells, const clsBUDGET& expense, clsMoney cat
         .Set(Column::PAID_BY_TX, expense.PAID_BY_TX)
         .Set(Column::BUDGET_CATEGORY_TX, expense.BUDGET_CATEGORY_TX)
         .Set(Column::ACTUAL_PERCENT,
-             categoryActual.Cents() > 0 ? frmMain_07_Budget::PercentText(share) + QLatin1Char(' ') : QString(),
+             categoryActual.Cents() > 0 ? frmMain_07_Budget::PercentText(share) + QLatin1Char(' ')
+                                        : QString(),
              share)
         .Notes(expense.NOTES_TX)
         .Keep(expense);
@@ -172,7 +173,8 @@ QChartView* ChartView(QChart* chart, const QString& name, QWidget* parent) {
 
 } // namespace
 
-frmMain_07_Budget::frmMain_07_Budget(QWidget* parent) : usrListPage(QStringLiteral("frmMain_07_Budget"), parent) {
+frmMain_07_Budget::frmMain_07_Budget(QWidget* parent)
+    : usrListPage(QStringLiteral("frmMain_07_Budget"), parent) {
     SetRecordNoun(QStringLiteral("expense"));
     SetEmptyText(QStringLiteral("There are no expenses here yet. Click \"Add new expense\" to enter one."),
                  QStringLiteral("No expenses match."));
@@ -203,7 +205,8 @@ frmMain_07_Budget::frmMain_07_Budget(QWidget* parent) : usrListPage(QStringLiter
     connect(imgSplitter, &QSplitter::splitterMoved, this, &frmMain_07_Budget::StoreSplitter);
     BuildMenus();
     AddShortcut(QKeySequence::New, [this] { emit ActionLink(AddExpense)->Click(AddExpense); });
-    AddShortcut(QKeySequence(Qt::Key_F12), [this] { emit ActionLink(OpenCalculator)->Click(OpenCalculator); });
+    AddShortcut(QKeySequence(Qt::Key_F12),
+                [this] { emit ActionLink(OpenCalculator)->Click(OpenCalculator); });
     connect(&usrDropdown::Notifier(), &usrDropdownNotifier::OptionsUpdated, this,
             &frmMain_07_Budget::mfrmBudget_OptionsUpdated);
 }
@@ -407,7 +410,8 @@ void frmMain_07_Budget::showEvent(QShowEvent* event) {
         mSplitterRestored = true;
         RestoreSplitter();
     }
-    const QString filter = CurrentFilter() > 0 ? QStringLiteral(">") + FilterCaption(CurrentFilter()) : QString();
+    const QString filter =
+        CurrentFilter() > 0 ? QStringLiteral(">") + FilterCaption(CurrentFilter()) : QString();
     emit Breadcrumb(QStringLiteral("Budget") + filter);
 }
 
@@ -489,7 +493,8 @@ void frmMain_07_Budget::DeleteCategoryRow() {
         return;
     const QModelIndex row = gridTop->SelectedRow();
     const QString name = gridTop->Model()->RowAt(row)->Cell(TopColumn::CATEGORY_TX);
-    if (ShowMessage(QStringLiteral("Delete budget category ") + name + QStringLiteral(" and all related expenses?"),
+    if (ShowMessage(QStringLiteral("Delete budget category ") + name +
+                        QStringLiteral(" and all related expenses?"),
                     Msg::YesNo | Msg::Question, QStringLiteral("Delete")) != Msg::Yes)
         return;
     if (!RecordIO::Attempt([&id] { clsBUDGET_CATEGORY_DICT().Delete(id); }))
@@ -507,12 +512,12 @@ void frmMain_07_Budget::SetPaidBy(const QString& paidById) {
     const qint64 key = SelectedExpense();
     clsBUDGET expense;
     const bool saved = key != 0 && RecordIO::Attempt([&] {
-        if (!expense.OpenRecord(QString::number(key)))
-            return;
-        expense.PAID_BY_ID = paidById;
-        expense.Save(false);
-        expense.OpenRecord(expense.BUDGET_ID);
-    });
+                           if (!expense.OpenRecord(QString::number(key)))
+                               return;
+                           expense.PAID_BY_ID = paidById;
+                           expense.Save(false);
+                           expense.OpenRecord(expense.BUDGET_ID);
+                       });
     const QModelIndex row = RowOfKey(key);
     if (!saved || !row.isValid() || expense.BUDGET_ID.isEmpty())
         return;

@@ -2,9 +2,9 @@
 
 #include "core/ShowMessage.h"
 #include "core/clsApp.h"
-#include "platform/clsShell.h"
 #include "planning/ui/frmVendor.h"
 #include "planning/ui/usrAssignedFiles.h"
+#include "platform/clsShell.h"
 #include "reports/clsReportCatalogue.h"
 #include "shell/controls/ControlIcons.h"
 #include "shell/controls/usrHyperlink.h"
@@ -40,9 +40,10 @@ QIcon PaperclipIcon() {
             const qreal s = r.width();
             painter.setPen(QPen(color, s * 0.08, Qt::SolidLine, Qt::RoundCap));
             painter.setBrush(Qt::NoBrush);
-            painter.drawRoundedRect(QRectF(r.left() + s * 0.35, r.top() + s * 0.1, s * 0.3, s * 0.8), s * 0.15,
-                                    s * 0.15);
-            painter.drawLine(QPointF(r.center().x(), r.top() + s * 0.3), QPointF(r.center().x(), r.bottom() - s * 0.2));
+            painter.drawRoundedRect(QRectF(r.left() + s * 0.35, r.top() + s * 0.1, s * 0.3, s * 0.8),
+                                    s * 0.15, s * 0.15);
+            painter.drawLine(QPointF(r.center().x(), r.top() + s * 0.3),
+                             QPointF(r.center().x(), r.bottom() - s * 0.2));
         },
         QColor(90, 90, 90));
 }
@@ -83,7 +84,8 @@ clsGridCells& WriteRow(clsGridCells& cells, const clsVENDOR& vendor) {
 
 } // namespace
 
-frmMain_08_Vendors::frmMain_08_Vendors(QWidget* parent) : usrListPage(QStringLiteral("frmMain_08_Vendors"), parent) {
+frmMain_08_Vendors::frmMain_08_Vendors(QWidget* parent)
+    : usrListPage(QStringLiteral("frmMain_08_Vendors"), parent) {
     SetRecordNoun(QStringLiteral("vendor"));
     SetEmptyText(QStringLiteral("No vendors yet. Click \"Add new vendor\" to enter the first one."),
                  QStringLiteral("No vendors match."));
@@ -131,8 +133,9 @@ void frmMain_08_Vendors::BuildMenu() {
         mnuAssignedFiles->clear();
         const clsVENDOR* vendor = SelectedVendor();
         for (const QString& path : vendor ? vendor->FilePaths() : QStringList())
-            mnuAssignedFiles->addAction(QFileInfo(path).fileName(), this,
-                                        [path] { usrAssignedFiles::OpenAttachedFile(path); })
+            mnuAssignedFiles
+                ->addAction(QFileInfo(path).fileName(), this,
+                            [path] { usrAssignedFiles::OpenAttachedFile(path); })
                 ->setToolTip(path);
     });
     ShowNotesAsRowText(menu);
@@ -175,8 +178,9 @@ void frmMain_08_Vendors::UpdateActions() {
 
 void frmMain_08_Vendors::DeleteSelected() {
     const clsVENDOR* vendor = SelectedVendor();
-    if (vendor == nullptr || ShowMessage(QStringLiteral("Delete '") + vendor->VENDOR_NM + QStringLiteral("'?"),
-                                         Msg::YesNo | Msg::Question, QStringLiteral("Delete")) != Msg::Yes)
+    if (vendor == nullptr ||
+        ShowMessage(QStringLiteral("Delete '") + vendor->VENDOR_NM + QStringLiteral("'?"),
+                    Msg::YesNo | Msg::Question, QStringLiteral("Delete")) != Msg::Yes)
         return;
     const QString id = vendor->VENDOR_ID;
     if (RecordIO::Attempt([&id] { clsVENDOR().Delete(id); }))

@@ -1,8 +1,8 @@
 #include "planning/ui/frmVendor.h"
 
 #include "core/clsDICT.h"
-#include "platform/clsShell.h"
 #include "planning/ui/usrAssignedFiles.h"
+#include "platform/clsShell.h"
 #include "shell/controls/modLayout.h"
 #include "shell/controls/usrDropdown.h"
 #include "shell/controls/usrHyperlink.h"
@@ -90,7 +90,8 @@ QWidget* frmVendor::BuildFields() {
     txtFAX_TX = Line(QStringLiteral("txtFAX_TX"), fields);
     txtEMAIL_TX = Line(QStringLiteral("txtEMAIL_TX"), fields);
     txtWEB_SITE_TX = Line(QStringLiteral("txtWEB_SITE_TX"), fields);
-    picMapIt = LinkBeside(QStringLiteral("Map Location with Google Maps"), QStringLiteral("picMapIt"), fields);
+    picMapIt =
+        LinkBeside(QStringLiteral("Map Location with Google Maps"), QStringLiteral("picMapIt"), fields);
     picEmail = LinkBeside(QStringLiteral("Write"), QStringLiteral("picEmail"), fields);
     picWeb = LinkBeside(QStringLiteral("Visit"), QStringLiteral("picWeb"), fields);
 
@@ -103,7 +104,8 @@ QWidget* frmVendor::BuildFields() {
     modLayout::CaptionedRow(form, QStringLiteral("C&ontact"), txtCONTACT_NM);
     modLayout::CaptionedRow(form, QStringLiteral("&Phone"), txtPHONE_TX);
     modLayout::CaptionedRow(form, QStringLiteral("&Fax"), txtFAX_TX);
-    modLayout::CaptionedRow(form, QStringLiteral("&E-mail"), FieldWithLink(txtEMAIL_TX, picEmail), txtEMAIL_TX);
+    modLayout::CaptionedRow(form, QStringLiteral("&E-mail"), FieldWithLink(txtEMAIL_TX, picEmail),
+                            txtEMAIL_TX);
     modLayout::CaptionedRow(form, QStringLiteral("&Web Site"), FieldWithLink(txtWEB_SITE_TX, picWeb),
                             txtWEB_SITE_TX);
     return fields;
@@ -161,13 +163,15 @@ void frmVendor::BuildControls() {
     connect(picMapIt, &usrHyperlink::Click, this, [this] { Typed().MapIt(); });
     connect(picEmail, &usrHyperlink::Click, this,
             [this] { gShell().OpenDocument(QStringLiteral("mailto:") + txtEMAIL_TX->text().trimmed()); });
-    connect(picWeb, &usrHyperlink::Click, this, [this] { gShell().OpenDocument(txtWEB_SITE_TX->text().trimmed()); });
+    connect(picWeb, &usrHyperlink::Click, this,
+            [this] { gShell().OpenDocument(txtWEB_SITE_TX->text().trimmed()); });
 }
 
 void frmVendor::LoadVendor() {
     txtVENDOR_NM->setText(mVendor.VENDOR_NM);
     usrVENDOR_CATEGORY_DICT->setCode(mVendor.VENDOR_CATEGORY_ID);
-    txtADDRESS_TX->setPlainText(QString(mVendor.ADDRESS_TX).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    txtADDRESS_TX->setPlainText(
+        QString(mVendor.ADDRESS_TX).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     txtCONTACT_NM->setText(mVendor.CONTACT_NM);
     txtPHONE_TX->setText(mVendor.PHONE_TX);
     txtFAX_TX->setText(mVendor.FAX_TX);
@@ -184,7 +188,8 @@ clsVENDOR frmVendor::Typed() const {
     clsVENDOR vendor = mVendor;
     vendor.VENDOR_NM = txtVENDOR_NM->text().trimmed();
     vendor.VENDOR_CATEGORY_ID = usrVENDOR_CATEGORY_DICT->Code();
-    vendor.ADDRESS_TX = txtADDRESS_TX->toPlainText().trimmed().replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
+    vendor.ADDRESS_TX =
+        txtADDRESS_TX->toPlainText().trimmed().replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
     vendor.CONTACT_NM = txtCONTACT_NM->text().trimmed();
     vendor.PHONE_TX = txtPHONE_TX->text().trimmed();
     vendor.FAX_TX = txtFAX_TX->text().trimmed();
@@ -207,8 +212,8 @@ void frmVendor::ShowSummary() {
 
 QStringList frmVendor::Snapshot() const {
     const clsVENDOR v = Typed();
-    return {v.VENDOR_NM,   v.VENDOR_CATEGORY_ID, v.ADDRESS_TX,  v.CONTACT_NM,  v.PHONE_TX,
-            v.FAX_TX,      v.EMAIL_TX,           v.WEB_SITE_TX, v.NOTES_TX,    v.FILE_PATH_TX};
+    return {v.VENDOR_NM, v.VENDOR_CATEGORY_ID, v.ADDRESS_TX,  v.CONTACT_NM, v.PHONE_TX,
+            v.FAX_TX,    v.EMAIL_TX,           v.WEB_SITE_TX, v.NOTES_TX,   v.FILE_PATH_TX};
 }
 
 void frmVendor::RefreshEnabling() {

@@ -63,15 +63,17 @@ void FillBars(QChart* chart, const QList<clsBudgetCategorySums>& categories, con
     auto* actuals = NewSet(QStringLiteral("Actual"), kActual, kSelectedActual);
     QStringList names;
     double largest = 0;
-    for (qsizetype i = 0; i < categories.size(); ++i) {
+    // The axis runs from the bottom up: the last category goes in first, so that the bars read top down
+    // in the order of the list beside them.
+    for (qsizetype i = categories.size() - 1; i >= 0; --i) {
         const clsBudgetCategorySums& category = categories[i];
         estimates->append(category.Estimate.ToDouble());
         actuals->append(category.Actual().ToDouble());
         largest = std::max({largest, category.Estimate.ToDouble(), category.Actual().ToDouble()});
         names << category.BUDGET_CATEGORY_TX;
         if (category.BUDGET_CATEGORY_ID == selectedId) {
-            estimates->selectBar(int(i));
-            actuals->selectBar(int(i));
+            estimates->selectBar(int(names.size() - 1));
+            actuals->selectBar(int(names.size() - 1));
         }
     }
     auto* series = new QHorizontalBarSeries;
@@ -86,7 +88,7 @@ void FillBars(QChart* chart, const QList<clsBudgetCategorySums>& categories, con
     auto* amounts = new QValueAxis;
     amounts->setRange(0, AxisEnd(largest));
     amounts->setLabelFormat(QStringLiteral("%.0f"));
-    amounts->setTickCount(5);
+    amounts->setTickCount(3);
     chart->addAxis(amounts, Qt::AlignBottom);
     series->attachAxis(amounts);
     chart->legend()->setAlignment(Qt::AlignBottom);

@@ -31,9 +31,10 @@ QString AddVendor(QWidget* parent) {
 
 void RegisterScreenshots() {
     modScreenshots::Register(QStringLiteral("frmBudget"), [] {
-        return new frmBudget(FirstKey(QStringLiteral("SELECT BUDGET_ID FROM BUDGET WHERE VENDOR_ID IS NOT NULL "
-                                                     "ORDER BY BUDGET_ID LIMIT 1")),
-                             QString());
+        return new frmBudget(
+            FirstKey(QStringLiteral("SELECT BUDGET_ID FROM BUDGET WHERE VENDOR_ID IS NOT NULL "
+                                    "ORDER BY BUDGET_ID LIMIT 1")),
+            QString());
     });
     modScreenshots::Register(QStringLiteral("frmBudgetCategory"), [] {
         return new frmBudgetCategory(FirstKey(QStringLiteral(
@@ -51,9 +52,9 @@ void RegisterScreenshots() {
         auto* page = new frmMain_07_Budget;
         page->resize(modScreenshots::MainWindowSize());
         page->LoadNow();
-        page->SelectCategory(FirstKey(QStringLiteral(
-            "SELECT BUDGET_CATEGORY_ID FROM BUDGET GROUP BY BUDGET_CATEGORY_ID ORDER BY SUM(ACTUAL_AMOUNT_NB) "
-            "DESC LIMIT 1")));
+        page->SelectCategory(FirstKey(QStringLiteral("SELECT BUDGET_CATEGORY_ID FROM BUDGET GROUP BY "
+                                                     "BUDGET_CATEGORY_ID ORDER BY SUM(ACTUAL_AMOUNT_NB) "
+                                                     "DESC LIMIT 1")));
         return page;
     });
 }

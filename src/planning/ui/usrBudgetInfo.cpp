@@ -23,7 +23,8 @@ usrBudgetInfo::usrBudgetInfo(QWidget* parent) : QWidget(parent) {
     lblActual = AddLine(2, QStringLiteral("Actual"), QStringLiteral("lblActual"));
     lblPlusMinus = AddLine(3, QStringLiteral("+/-"), QStringLiteral("lblPlusMinus"));
     lblPlusMinusCaption = qobject_cast<QLabel*>(layout->itemAtPosition(3, 0)->widget());
-    lblCostPerAttendee = AddLine(4, QStringLiteral("Cost per attendee"), QStringLiteral("lblCostPerAttendee"));
+    lblCostPerAttendee =
+        AddLine(4, QStringLiteral("Cost per attendee"), QStringLiteral("lblCostPerAttendee"));
 }
 
 QLabel* usrBudgetInfo::AddLine(int row, const QString& caption, const QString& name) {

@@ -1,17 +1,24 @@
 #include "UiTestTools.h"
 #include "planning/PlanningTestTools.h"
 #include "planning/clsBUDGET.h"
+#include "planning/clsBUDGET_CATEGORY_DICT.h"
 #include "planning/ui/frmBudget.h"
 #include "planning/ui/frmMain_07_Budget.h"
+#include "planning/ui/modBudgetCharts.h"
 #include "planning/ui/usrMoneyBox.h"
+#include "reports/clsRTFBudgetCategory.h"
+#include "reports/modReportRunner.h"
 #include "shell/controls/usrDate.h"
 #include "shell/controls/usrDropdown.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/grid/usrGrid.h"
 
+#include <QBarCategoryAxis>
 #include <QBarSet>
 #include <QChart>
+#include <QFile>
 #include <QHorizontalBarSeries>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -30,9 +37,10 @@ const QString kFlowers = QStringLiteral("5");
 
 void AddExpense(const QString& id, const QString& name, const QString& amount, const QString& category,
                 const QString& due, const QString& paid = QString()) {
-    TestDatabase::Exec("INSERT INTO BUDGET (BUDGET_ID, ITEM_NM, ACTUAL_AMOUNT_NB, BUDGET_CATEGORY_ID, PAID_BY_ID, "
-                       "DUE_DT, PAID_DT) VALUES (?, ?, ?, ?, 4, ?, ?)",
-                       {id, name, amount, category, due, paid.isEmpty() ? QVariant() : QVariant(paid)});
+    TestDatabase::Exec(
+        "INSERT INTO BUDGET (BUDGET_ID, ITEM_NM, ACTUAL_AMOUNT_NB, BUDGET_CATEGORY_ID, PAID_BY_ID, "
+        "DUE_DT, PAID_DT) VALUES (?, ?, ?, ?, 4, ?, ?)",
+        {id, name, amount, category, due, paid.isEmpty() ? QVariant() : QVariant(paid)});
 }
 
 void SetEstimate(const QString& category, const QString& amount) {
@@ -92,9 +100,18 @@ private slots:
         QTest::addColumn<QString>("share");
         QTest::addColumn<QString>("remaining");
         QTest::addColumn<QString>("totalsShare");
-        QTest::newRow("no estimates at all") << "0" << "0.00%" << "($1,799.99)" << "100.00%";
-        QTest::newRow("a quarter of the estimates") << "1000" << "25.00%" << "($799.99)" << "100.00%";
-        QTest::newRow("spent to the cent") << "1799.99" << "36.24%" << "$0.00" << "100.00%";
+        QTest::newRow("no estimates at all") << "0"
+                                             << "0.00%"
+                                             << "($1,799.99)"
+                                             << "100.00%";
+        QTest::newRow("a quarter of the estimates") << "1000"
+                                                    << "25.00%"
+                                                    << "($799.99)"
+                                                    << "100.00%";
+        QTest::newRow("spent to the cent") << "1799.99"
+                                           << "36.24%"
+                                           << "$0.00"
+                                           << "100.00%";
     }
     void categoryFigures() {
         QFETCH(QString, fashionEstimate);
@@ -133,10 +150,14 @@ private slots:
         QCOMPARE(Stat(&page, clsBUDGET::AllExpenses), QStringLiteral("1"));
         QCOMPARE(Stat(&page, clsBUDGET::Pastdue), QStringLiteral("0"));
         QVERIFY(UiTestTools::Child<usrHyperlink>(&page, "linkAction_1")->isEnabled());
-        // The bars of stationery, the tenth category by name, stand out; so does its slice of the ring.
+        // The bars of stationery stand out, and the list of categories reads top down as in the grid; so
+        // does its slice of the ring.
         auto* bars = qobject_cast<QHorizontalBarSeries*>(page.BarChart()->series().first());
-        QCOMPARE(bars->barSets().first()->selectedBars(), QList<int>({9}));
-        QCOMPARE(bars->barSets().last()->selectedBars(), QList<int>({9}));
+        auto* names = qobject_cast<QBarCategoryAxis*>(page.BarChart()->axes(Qt::Vertical).first());
+        QCOMPARE(names->categories().first(), QStringLiteral("Stationery"));
+        QCOMPARE(names->categories().last(), QStringLiteral("Ceremony"));
+        QCOMPARE(bars->barSets().first()->selectedBars(), QList<int>({0}));
+        QCOMPARE(bars->barSets().last()->selectedBars(), QList<int>({0}));
         auto* ring = qobject_cast<QPieSeries*>(page.RingChart()->series().first());
         QStringList exploded;
         for (QPieSlice* slice : ring->slices())
@@ -147,6 +168,28 @@ private slots:
 
         page.SelectCategory(QString()); // "Totals": every expense again
         QCOMPARE(Keys(page.Grid()).size(), 4);
+    }
+
+    // The report's picture is the page's bar chart, drawn without a window at the size the page asks.
+    void theReportsChartIsDrawnOffscreen() {
+        AddLedger();
+        const QByteArray png = modBudgetCharts::BarsPng(clsBUDGET_CATEGORY_DICT::OpenSums(), QSize(900, 450));
+        const QImage picture = QImage::fromData(png, "PNG");
+        QCOMPARE(picture.size(), QSize(900, 450));
+        QCOMPARE(picture.pixelColor(0, 0), QColor(Qt::white));
+        int coloured = 0;
+        for (int x = 0; x < picture.width(); x += 3)
+            for (int y = 0; y < picture.height(); y += 3)
+                coloured += picture.pixelColor(x, y).saturation() > 60 ? 1 : 0;
+        QVERIFY2(coloured > 200, qPrintable(QString::number(coloured))); // the bars of stationery and fashion
+        clsRTFBudgetCategory::SetChartPainter(&modBudgetCharts::BarsPng);
+        modReportRunner::ApplyOutput({});
+        clsRTFBudgetCategory report;
+        const QString file = report.Build();
+        clsRTFBudgetCategory::SetChartPainter({});
+        QFile written(file);
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        QVERIFY(written.readAll().contains("\\pngblip"));
     }
 
     void deletingAnExpenseAsksFirst_data() {
@@ -200,7 +243,8 @@ private slots:
                 ticked << item->text();
         QCOMPARE(ticked, QStringList({"Bride's Family"}));
         UiTestTools::Child<QAction>(&page, "mnuPaidBy_2")->trigger();
-        QCOMPARE(TestDatabase::Scalar("SELECT PAID_BY_ID FROM BUDGET WHERE BUDGET_ID = 3"), QStringLiteral("2"));
+        QCOMPARE(TestDatabase::Scalar("SELECT PAID_BY_ID FROM BUDGET WHERE BUDGET_ID = 3"),
+                 QStringLiteral("2"));
         QCOMPARE(Cell(page.Grid(), 3, Page::PAID_BY_TX), QStringLiteral("Groom"));
     }
 
@@ -229,10 +273,10 @@ private slots:
         QTest::addColumn<bool>("due");
         QTest::addColumn<QString>("message");
         QTest::newRow("no due date") << "12.50" << false << frmBudget::DueDateMissingText();
-        QTest::newRow("amount in words") << "ten" << true
-                                         << "\"ten\" is not an amount. Type it as a number, such as 1,234.50.";
-        QTest::newRow("too many decimals") << "1.999" << true
-                                           << "An amount has at most two decimals (cents): 1.999 has more.";
+        QTest::newRow("amount in words")
+            << "ten" << true << "\"ten\" is not an amount. Type it as a number, such as 1,234.50.";
+        QTest::newRow("too many decimals")
+            << "1.999" << true << "An amount has at most two decimals (cents): 1.999 has more.";
     }
     void theExpenseEditorRefusesBeforeWriting() {
         QFETCH(QString, amount);
@@ -260,9 +304,10 @@ private slots:
             ->setText("1,250.05");
         UiTestTools::Child<usrDate>(&editor, "usrDUE_DT")->SetDate(QDate(2027, 6, 1));
         QVERIFY(editor.cmdSaveAndNew_Click());
-        QCOMPARE(TestDatabase::Scalar("SELECT ITEM_NM || '|' || ACTUAL_AMOUNT_NB || '|' || BUDGET_CATEGORY_ID || "
-                                      "'|' || PAID_BY_ID || '|' || DUE_DT FROM BUDGET"),
-                 QStringLiteral("Bouquet|1250.05|5|1|2027-06-01"));
+        QCOMPARE(
+            TestDatabase::Scalar("SELECT ITEM_NM || '|' || ACTUAL_AMOUNT_NB || '|' || BUDGET_CATEGORY_ID || "
+                                 "'|' || PAID_BY_ID || '|' || DUE_DT FROM BUDGET"),
+            QStringLiteral("Bouquet|1250.05|5|1|2027-06-01"));
         QVERIFY(UiTestTools::Child<QLineEdit>(&editor, "txtITEM_NM")->text().isEmpty());
         QCOMPARE(UiTestTools::Child<usrDropdown>(&editor, "usrBUDGET_CATEGORY_DICT")->Code(), kFlowers);
         QCOMPARE(payer->Code(), QStringLiteral("1"));

@@ -31,9 +31,10 @@ void AddGifts() {
     TestDatabase::Exec("INSERT INTO CONTACT (CONTACT_ID, FIRST_NM, LAST_NM, INVITE_ID, PRIMARY_CONTACT_FG, "
                        "SORT_ORDER_NB) VALUES (5, 'Tom', 'Carter', 1, 'Y', 1)");
     TestDatabase::Exec("INSERT INTO EVENT (EVENT_ID, EVENT_TX) VALUES (2, 'Shower')");
-    TestDatabase::Exec("INSERT INTO GIFT (GIFT_ID, EVENT_ID, CONTACT_ID, INVITE_ID, GIFT_TX, THANK_YOU_SENT_FG) "
-                       "VALUES (1, 1, 3, NULL, 'Toaster', 'N'), (2, 1, NULL, 1, 'Blender', 'N'), "
-                       "(3, 2, 3, NULL, 'Towels', 'N')");
+    TestDatabase::Exec(
+        "INSERT INTO GIFT (GIFT_ID, EVENT_ID, CONTACT_ID, INVITE_ID, GIFT_TX, THANK_YOU_SENT_FG) "
+        "VALUES (1, 1, 3, NULL, 'Toaster', 'N'), (2, 1, NULL, 1, 'Blender', 'N'), "
+        "(3, 2, 3, NULL, 'Towels', 'N')");
 }
 
 usrHyperlink* Link(const QWidget* page, int index) {
@@ -87,10 +88,12 @@ private slots:
         QTest::addColumn<QStringList>("selected");
         QTest::addColumn<QString>("caption");
         QTest::addColumn<QString>("question");
-        QTest::newRow("a contact's gift") << QStringList({"1"}) << "Delete gift" << "Delete 'Smith, John Q, Jr.'?";
+        QTest::newRow("a contact's gift") << QStringList({"1"}) << "Delete gift"
+                                          << "Delete 'Smith, John Q, Jr.'?";
         QTest::newRow("an invitation's gift") << QStringList({"2"}) << "Delete gift"
                                               << "Delete 'Carter, Tom and Lucy'?";
-        QTest::newRow("two") << QStringList({"1", "2"}) << "Delete gifts (2)" << "Delete 2 gifts?";
+        QTest::newRow("two") << QStringList({"1", "2"}) << "Delete gifts (2)"
+                             << "Delete 2 gifts?";
     }
     void deletingCountsTheSelection() {
         QFETCH(QStringList, selected);
@@ -106,7 +109,8 @@ private slots:
         QTest::mouseClick(Link(&page, Page::DeleteGift), Qt::LeftButton);
         QCOMPARE(db->Messages().Prompts, QStringList({question}));
         QCOMPARE(PlanningDatabase::Count("GIFT"), QString::number(3 - selected.size()));
-        QCOMPARE(UiTestTools::Child<QLabel>(&page, "lblStat_0")->text(), QString::number(3 - selected.size()));
+        QCOMPARE(UiTestTools::Child<QLabel>(&page, "lblStat_0")->text(),
+                 QString::number(3 - selected.size()));
     }
 
     void saveAndNewKeepsTheEventAndTheKindOfGiver() {
@@ -118,8 +122,9 @@ private slots:
         UiTestTools::Child<QLineEdit>(&editor, "txtGIFT_TX")->setText("Blender and bowls");
         UiTestTools::Child<QCheckBox>(&editor, "chk")->setChecked(true);
         QVERIFY(editor.cmdSaveAndNew_Click());
-        QCOMPARE(TestDatabase::Scalar("SELECT EVENT_ID || GIFT_TX || THANK_YOU_SENT_FG || coalesce(CONTACT_ID, '-') "
-                                      "FROM GIFT WHERE GIFT_ID = 2"),
+        QCOMPARE(TestDatabase::Scalar(
+                     "SELECT EVENT_ID || GIFT_TX || THANK_YOU_SENT_FG || coalesce(CONTACT_ID, '-') "
+                     "FROM GIFT WHERE GIFT_ID = 2"),
                  QStringLiteral("2Blender and bowlsY-"));
         QVERIFY(UiTestTools::Child<QLineEdit>(&editor, "txtGIFT_TX")->text().isEmpty());
         QVERIFY(!UiTestTools::Child<QCheckBox>(&editor, "chk")->isChecked());

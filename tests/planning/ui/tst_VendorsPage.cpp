@@ -95,8 +95,11 @@ private slots:
         QTest::addColumn<QString>("phone");
         QTest::addColumn<QString>("email");
         QTest::addColumn<QString>("details");
-        QTest::newRow("address only") << "" << "" << "4 Rose Ln\nAustin, TX";
-        QTest::newRow("all") << "555-0100" << "ann@bloom.example"
+        QTest::newRow("address only") << ""
+                                      << ""
+                                      << "4 Rose Ln\nAustin, TX";
+        QTest::newRow("all") << "555-0100"
+                             << "ann@bloom.example"
                              << "4 Rose Ln\nAustin, TX\nAnn\np. 555-0100\ne. ann@bloom.example";
     }
     void theSummaryShowsWhatIsFilled() {
@@ -120,14 +123,16 @@ private slots:
         QMetaObject::invokeMethod(files, "mfrmNotebookAddFile_Refresh", Q_ARG(QString, QString()));
         QCOMPARE(tabs->tabText(1), QStringLiteral("Files (0)"));
         QVERIFY(editor.cmdSave_Click());
-        QCOMPARE(TestDatabase::Scalar("SELECT coalesce(FILE_PATH_TX, 'NULL') FROM VENDOR WHERE VENDOR_ID = 1"),
-                 QStringLiteral("NULL"));
+        QCOMPARE(
+            TestDatabase::Scalar("SELECT coalesce(FILE_PATH_TX, 'NULL') FROM VENDOR WHERE VENDOR_ID = 1"),
+            QStringLiteral("NULL"));
     }
 
     // The expense editor's "new" link adds a vendor, which comes back selected.
     void aVendorAddedFromAnExpenseComesBackSelected() {
         frmBudget::SetVendorAdder([](QWidget*) {
-            TestDatabase::Exec("INSERT INTO VENDOR (VENDOR_ID, VENDOR_NM, VENDOR_CATEGORY_ID) VALUES (7, 'Cakes', 1)");
+            TestDatabase::Exec(
+                "INSERT INTO VENDOR (VENDOR_ID, VENDOR_NM, VENDOR_CATEGORY_ID) VALUES (7, 'Cakes', 1)");
             return QStringLiteral("7");
         });
         frmBudget editor(QString(), QStringLiteral("1"));
