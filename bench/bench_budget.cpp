@@ -32,21 +32,23 @@ bool GrowTheWedding(QString* message) {
             QStringLiteral("INSERT INTO VENDOR (VENDOR_ID, VENDOR_NM, VENDOR_CATEGORY_ID, ADDRESS_TX, "
                            "PHONE_TX, EMAIL_TX) SELECT 1000 + I, 'Vendor ' || I, 1 + I % 5, "
                            "I || ' Main St', '555-' || I, 'v' || I || '@example.com' FROM N"));
+        const long expenses = gDB().Execute(QStringLiteral("SELECT COUNT(*) FROM BUDGET")).Scalar().toLong();
         gDB().Execute(
-            Numbers(5000) +
-            QStringLiteral("INSERT INTO BUDGET (BUDGET_ID, ITEM_NM, ACTUAL_AMOUNT_NB, DUE_DT, PAID_DT, "
-                           "BUDGET_CATEGORY_ID, PAID_BY_ID, VENDOR_ID) SELECT 10000 + I, 'Expense ' || "
-                           "I, (I % 997) + 0.01 * (I % 100), '2027-05-' || printf('%02d', 1 + I % 28), "
-                           "CASE WHEN I % 3 = 0 THEN '2027-01-15' END, (SELECT BUDGET_CATEGORY_ID FROM "
-                           "BUDGET_CATEGORY_DICT ORDER BY BUDGET_CATEGORY_ID LIMIT 1 OFFSET I % 40), "
-                           "1 + I % 5, 1000 + 1 + I % 1000 FROM N "
-                           "WHERE (SELECT COUNT(*) FROM BUDGET) + I <= 5000"));
+            Numbers(5000 - int(expenses)) +
+            QStringLiteral(", C(K, ID) AS (SELECT ROW_NUMBER() OVER (ORDER BY BUDGET_CATEGORY_ID) - 1, "
+                           "BUDGET_CATEGORY_ID FROM BUDGET_CATEGORY_DICT) "
+                           "INSERT INTO BUDGET (BUDGET_ID, ITEM_NM, ACTUAL_AMOUNT_NB, DUE_DT, PAID_DT, "
+                           "BUDGET_CATEGORY_ID, PAID_BY_ID, VENDOR_ID) SELECT 10000 + I, 'Expense ' || I, "
+                           "(I % 997) + 0.01 * (I % 100), '2027-05-' || printf('%02d', 1 + I % 28), "
+                           "CASE WHEN I % 3 = 0 THEN '2027-01-15' END, C.ID, 1 + I % 5, 1001 + I % 1000 "
+                           "FROM N JOIN C ON C.K = I % 40"));
+        const long gifts = gDB().Execute(QStringLiteral("SELECT COUNT(*) FROM GIFT")).Scalar().toLong();
         gDB().Execute(
-            Numbers(5000) +
-            QStringLiteral("INSERT INTO GIFT (GIFT_ID, EVENT_ID, CONTACT_ID, GIFT_TX, THANK_YOU_SENT_FG) "
-                           "SELECT 10000 + I, 1, (SELECT CONTACT_ID FROM CONTACT ORDER BY CONTACT_ID LIMIT 1 "
-                           "OFFSET I % 9000), 'Gift ' || I, CASE WHEN I % 2 = 0 THEN 'Y' ELSE 'N' END "
-                           "FROM N WHERE (SELECT COUNT(*) FROM GIFT) + I <= 5000"));
+            Numbers(5000 - int(gifts)) +
+            QStringLiteral(", P(K, ID) AS (SELECT ROW_NUMBER() OVER (ORDER BY CONTACT_ID) - 1, CONTACT_ID "
+                           "FROM CONTACT) INSERT INTO GIFT (GIFT_ID, EVENT_ID, CONTACT_ID, GIFT_TX, "
+                           "THANK_YOU_SENT_FG) SELECT 10000 + I, 1, P.ID, 'Gift ' || I, CASE WHEN I % 2 = 0 "
+                           "THEN 'Y' ELSE 'N' END FROM N JOIN P ON P.K = I % 9000"));
         tx.Commit();
     } catch (const clsDbError& e) {
         *message = e.Message();

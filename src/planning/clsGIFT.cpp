@@ -65,7 +65,8 @@ const RecordTable<clsGIFT>& clsGIFT::ReadTable() {
 }
 
 // Every gift with its event (a gift whose event is gone is not listed), its giving contact or
-// invitation, and the address of the invitation's primary contact, which is the envelope's.
+// invitation, and the address of the invitation's primary contact, which is the envelope's. The gifts
+// lead the joins, so that each giver is found by its key.
 QString clsGIFT::SelectSql() {
     return QStringLiteral("SELECT ") + QualifiedColumns(Table()) +
            QStringLiteral(
@@ -80,9 +81,9 @@ QString clsGIFT::SelectSql() {
                "WHERE PRIMARY_CONTACT.INVITE_ID = GIFT.INVITE_ID AND "
                "PRIMARY_CONTACT.PRIMARY_CONTACT_FG = 'Y' "
                "ORDER BY PRIMARY_CONTACT.SORT_ORDER_NB LIMIT 1) AS INVITE_ADDRESS_TX "
-               "FROM INVITE RIGHT JOIN (EVENT INNER JOIN (CONTACT RIGHT JOIN GIFT "
-               "ON CONTACT.CONTACT_ID = GIFT.CONTACT_ID) ON EVENT.EVENT_ID = GIFT.EVENT_ID) "
-               "ON INVITE.INVITE_ID = GIFT.INVITE_ID ");
+               "FROM GIFT INNER JOIN EVENT ON EVENT.EVENT_ID = GIFT.EVENT_ID "
+               "LEFT JOIN CONTACT ON CONTACT.CONTACT_ID = GIFT.CONTACT_ID "
+               "LEFT JOIN INVITE ON INVITE.INVITE_ID = GIFT.INVITE_ID ");
 }
 
 QString clsGIFT::WhereSql(int filter, const QString& customWhere) {
