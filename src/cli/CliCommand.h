@@ -36,6 +36,8 @@ CliCommand BoardCommand();
 CliCommand TravelCommand();
 CliCommand WeddingCommand();
 CliCommand IcsCommand();
+CliCommand BudgetCommand();
+CliCommand ThankYouCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

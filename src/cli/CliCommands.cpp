@@ -54,6 +54,8 @@ const std::vector<CliCommand>& CliCommands() {
         TravelCommand(),
         WeddingCommand(),
         IcsCommand(),
+        BudgetCommand(),
+        ThankYouCommand(),
     };
     return commands;
 }

@@ -9,6 +9,11 @@
 #include "reports/clsRTFHotelOverview.h"
 #include "reports/clsRTFHotels.h"
 #include "reports/clsRTFEvent.h"
+#include "reports/clsRTFBudget.h"
+#include "reports/clsRTFBudgetCategory.h"
+#include "reports/clsRTFBudgetPaidBy.h"
+#include "reports/clsRTFContacts.h"
+#include "reports/clsRTFGift.h"
 #include "reports/clsRTFInvitation.h"
 #include "reports/clsRTFMeal.h"
 #include "reports/clsRTFNotebook.h"
@@ -20,6 +25,7 @@
 #include "reports/clsRTFTask.h"
 #include "reports/clsRTFTentcard.h"
 #include "reports/clsRTFTimeline.h"
+#include "reports/clsRTFVendor.h"
 #include "reports/clsReportClasses.h"
 
 #include <functional>
@@ -76,4 +82,9 @@ void RegisterReportClasses() {
             calendar.TakeStoredRange();
         return calendar.Build();
     });
+    Register<clsRTFBudget>(TakeFilter);
+    Register<clsRTFBudgetPaidBy>();
+    Register<clsRTFBudgetCategory>();
+    Register<clsRTFGift>(TakeFilter);
+    Register<clsRTFVendor>();
 }

@@ -63,12 +63,12 @@ check "report custom box unknown" 2 'has no box "Martian"' "$cli" report Contact
 check "report custom on tables" 2 'only Contacts, Invitations, RSVPs and Attendees' "$cli" report Tables --custom "A list"
 check "report list" 0 '^  All Contacts \[0\]: 2' "$cli" report --list
 check "report list by section key" 0 '^Wedding Statistics \[14\]' "$cli" report --list
-check "report list marks what exists" 0 'All Gifts \[0\]: 0 \(not yet available\)' "$cli" report --list
+check "report list marks what exists" 0 'All Entries \[0\]: 0 \(not yet available\)' "$cli" report --list
 check "report writes RTF" 0 "^$home/Reports/01_Contacts_[0-9_-]+\.rtf$" "$cli" report Contacts
 check "report writes CSV by section key" 0 "^$home/Reports/04_Meals_.*\.csv$" "$cli" report 4 --filter 98 --format csv
 check "report of statistics in portrait A4" 0 '12_Wedding_Statistics_.*\.rtf$' "$cli" report "wedding statistics" --portrait --a4
 check "report with a custom filter" 0 '01_Contacts_.*\.csv$' "$cli" report Contacts --custom "Friend of Bride+A list" --format csv
-check "report not yet available" 1 'not available yet' "$cli" report Gifts
+check "report not yet available" 1 'not available yet' "$cli" report Timelines
 check "report needing the screen" 2 'needs the report screen' "$cli" report Tables --filter 3
 check "report all in both dialects" 0 '04_Tentcard_.*\.csv' "$cli" report --all
 check "report writes PDF" 0 "^$home/Reports/01_Contacts_[0-9_-]+\.pdf$" "$cli" report Contacts --format pdf --portrait
@@ -283,6 +283,21 @@ check "ics into a missing folder" 1 'was not written' "$cli" ics --out "$home/no
 check "the calendar of two months" 0 '09_Calendar_.*\.csv$' "$cli" report Events --filter 2 --months 2027-05:2027-06 --format csv
 check "a calendar of no months" 2 '--months takes the calendar' "$cli" report Events --filter 2 --months 2027-13:2027-01
 check "the timeline of the wedding day" 0 '10_Timeline_.*\.rtf$' "$cli" report Timelines --filter 1
+# The budget in cents and the thank-you notes: figures a script can add up, all or none.
+check "budget lists the categories and the totals" 0 '^"Totals",[0-9]+\.[0-9]{2},' "$cli" budget
+check "budget takes no arguments" 2 'takes no arguments' "$cli" budget extra
+check "every actual is due plus paid" 0 '^ok$' bash -c "\"$cli\" budget | awk -F, 'NR > 1 && \$5 * 100 != \$3 * 100 + \$4 * 100 { bad = 1 } END { print bad ? \"bad\" : \"ok\" }'"
+check "estimates vs. actuals as CSV" 0 "^$home/Reports/07_BudgetEstimatesActuals_.*\.csv$" "$cli" report Budget --filter 99 --format csv
+check "its totals are plain numbers" 0 '^"Totals:","[0-9]+\.[0-9]{2}","100\.00%","[0-9]+\.[0-9]{2}"' cat "$(ls -t "$home"/Reports/07_BudgetEstimatesActuals_*.csv | head -1)"
+check "budget by payer as CSV" 0 "^$home/Reports/07_BudgetPaidBy_.*\.csv$" "$cli" report Budget --filter 98 --format csv
+check "a subtotal per payer" 0 "^\"Subtotal Bride's Family\",\"[0-9]+\\.[0-9]{2}\"" cat "$(ls -t "$home"/Reports/07_BudgetPaidBy_*.csv | head -1)"
+gift=$(value "SELECT MIN(GIFT_ID) FROM GIFT")
+check "thank-you marks a note sent" 0 "^Thank-you notes sent: $gift$" "$cli" thank-you "$gift"
+check "the note is sent" 0 '^Y$' value "SELECT THANK_YOU_SENT_FG FROM GIFT WHERE GIFT_ID = $gift"
+check "thank-you --unsent takes it back" 0 "^Thank-you notes unsent: $gift$" "$cli" thank-you --unsent "$gift"
+check "an unknown gift changes nothing" 1 'there is no gift 99999\. Nothing was changed' "$cli" thank-you "$gift" 99999
+check "the known one of them stays unsent" 0 '^N$' value "SELECT THANK_YOU_SENT_FG FROM GIFT WHERE GIFT_ID = $gift"
+check "thank-you needs keys" 2 'usage: thank-you' "$cli" thank-you
 
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
