@@ -28,6 +28,8 @@ CliCommand SeatCommand();
 CliCommand UnseatCommand();
 CliCommand TablesCommand();
 CliCommand TentcardsCommand();
+CliCommand WordingCommand();
+CliCommand PlaylistCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

@@ -41,6 +41,8 @@ const std::vector<CliCommand>& CliCommands() {
         UnseatCommand(),
         TablesCommand(),
         TentcardsCommand(),
+        WordingCommand(),
+        PlaylistCommand(),
     };
     return commands;
 }
