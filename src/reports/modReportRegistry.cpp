@@ -7,10 +7,14 @@
 #include "reports/clsRTFMeal.h"
 #include "reports/clsRTFRSVP.h"
 #include "reports/clsRTFRole.h"
+#include "reports/clsRTFSongs.h"
 #include "reports/clsRTFStatistics.h"
 #include "reports/clsRTFTable.h"
 #include "reports/clsRTFTableLayout.h"
 #include "reports/clsRTFTentcard.h"
+#include "reports/clsRTFWidgetInvite.h"
+#include "reports/clsRTFWidgetsInvitation.h"
+#include "reports/clsRTFWidgetsWeddingVows.h"
 #include "reports/clsReportClasses.h"
 
 #include <functional>
@@ -52,4 +56,10 @@ void RegisterReportClasses() {
     Register<clsRTFTableLayout>();
     Register<clsRTFTentcard>();
     Register<clsRTFStatistics>();
+    Register<clsRTFWidgetsInvitation>();
+    Register<clsRTFWidgetsWeddingVows>(
+        [](clsRTFWidgetsWeddingVows& report, const clsReportRoute& route) { report.ReportIndex = route.Argument; });
+    Register<clsRTFSongs>();
+    Register<clsRTFWidgetInvite>(
+        [](clsRTFWidgetInvite& report, const clsReportRoute& route) { report.EVENT_ID = route.Argument; });
 }

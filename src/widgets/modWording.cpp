@@ -191,8 +191,22 @@ People People::Open(const Choices& choices) {
     p.BrideFather.OpenRecord(QString(), QStringLiteral("3"));
     p.BrideMother.OpenRecord(QString(), QStringLiteral("4"));
     p.GroomFather.OpenRecord(QString(), QStringLiteral("5"));
+    p.GroomMother.OpenRecord(QString(), QStringLiteral("6"));
     p.NewHusband.OpenRecord(choices.RemarriedTo(4));
     return p;
+}
+
+const clsCONTACT& People::Parent(int roleId) const {
+    switch (roleId) {
+    case 3:
+        return BrideFather;
+    case 4:
+        return BrideMother;
+    case 5:
+        return GroomFather;
+    default:
+        return GroomMother;
+    }
 }
 
 // ---- The date in words ----

@@ -44,7 +44,7 @@ struct Choices {
 // The settings key of the widgets page, below which the choices and the chosen side are kept.
 QString SettingsKey();
 
-// The people the templates name: the couple, the bride's parents, the groom's father, and the new
+// The people the templates name: the couple, the parents, and the new
 // husband of the bride's mother (an empty contact when there is none).
 struct People {
     clsCONTACT Bride;
@@ -52,9 +52,13 @@ struct People {
     clsCONTACT BrideFather;
     clsCONTACT BrideMother;
     clsCONTACT GroomFather;
+    clsCONTACT GroomMother;
     clsCONTACT NewHusband;
 
-    // Reads them from the database: the couple by their rows, the parents by role 3, 4 and 5, the new
+    // The parent of the role 3 to 6.
+    const clsCONTACT& Parent(int roleId) const;
+
+    // Reads them from the database: the couple by their rows, the parents by the roles 3 to 6, the new
     // husband by the contact chosen for the mother of the bride. Throws clsDbError.
     static People Open(const Choices& choices);
 };
