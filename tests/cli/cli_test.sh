@@ -221,6 +221,30 @@ check "unseat needs keys" 2 'usage: unseat ID' "$cli" unseat
 check "unseat one" 0 "^Unseated: ${ids[0]}$" "$cli" unseat "${ids[0]}"
 check "tables after unseating one" 0 '^Table #1: 11 of 12 seats taken$' "$cli" tables
 
+# The invitation wording and the playlists.
+saved_wording() { "$cli" sql "SELECT WORDING_TX FROM WORDING WHERE WORDING_ID = 1" | md5sum; }
+wording_before=$(saved_wording)
+check "wording starts with an empty line" 0 '^$' sh -c "\"$cli\" wording | head -1"
+check "wording by the stored choices" 0 '^the son of$' "$cli" wording
+check "wording spells the year" 0 '^Two thousand and [a-z-]+$' "$cli" wording
+check "wording of another template" 0 '^at the Nuptial Mass uniting their daughter$' "$cli" wording --template 12 --phrase 1
+check "wording with a place of two lines" 0 '^St\. "Ann" & <Hall>$' "$cli" wording --place $'St. "Ann" & <Hall>\nSalem' --no-reception
+check "wording without reception" 1 '' sh -c "\"$cli\" wording --no-reception | grep -q 'Reception to follow'"
+check "wording with a bad template" 2 '--template takes 0 to 18' "$cli" wording --template 19
+check "wording with both reception options" 2 'exclude each other' "$cli" wording --reception X --no-reception
+check "wording changes nothing" 0 "^$wording_before\$" saved_wording
+check "wording --save" 0 '^Reception to follow$' "$cli" wording --save --reception 'The Barn'
+check "the saved wording" 0 'The Barn' "$cli" sql "SELECT WORDING_TX FROM WORDING WHERE WORDING_ID = 1"
+check "playlist of every song" 0 '/Playlists/All_Songs\.wpl$' "$cli" playlist --all
+check "playlist of a list into a file" 0 "^$home/c&d.wpl\$" "$cli" playlist Ceremony --out "$home/c&d.wpl"
+check "the playlist counts its songs" 0 '<meta name="ItemCount" content="[0-9]+"/>' cat "$home/c&d.wpl"
+check "playlist of an unknown list" 1 'there is no songlist "Nope"' "$cli" playlist Nope
+check "playlist without a list" 2 'usage: playlist SONGLIST' "$cli" playlist
+check "playlist into a folder that is a file" 1 'could not be written' "$cli" playlist --all --out "$home/c&d.wpl/x.wpl"
+if command -v xmllint >/dev/null; then
+    check "the playlist is XML" 0 '' xmllint --noout "$home/Playlists/All_Songs.wpl"
+fi
+
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
 check "the damaged file is untouched" 0 'not a database at all' cat "$home/Database/Vowren.quilldata"
