@@ -27,10 +27,10 @@ RtfMarkup clsRTFWidgetInvite::Statistics() const {
 }
 
 QList<clsRTFReport::Column> clsRTFWidgetInvite::Columns() const {
-    return {{"Name", 5000, 3800},
-            {"Address", 8600, 6300},
-            {"Phone/E-mail", 11000, 8300},
-            {"Attending?", 12000, 9300, clsRTFCell::AlignCenter},
+    return {{"Name", 4200, 3000},
+            {"Address", 7600, 5600},
+            {"Phone/E-mail", 10600, 7700},
+            {"Attending?", 12000, 8900, clsRTFCell::AlignCenter},
             {"Gift", 0, 0}};
 }
 

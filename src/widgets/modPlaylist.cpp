@@ -30,6 +30,14 @@ bool IsSongFile(const QString& fileName) {
     return false;
 }
 
+QStringList SongFiles(const QString& folder) {
+    QStringList songs;
+    for (const QString& name : QDir(folder).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase))
+        if (IsSongFile(name))
+            songs << name;
+    return songs;
+}
+
 QList<Entry> Entries() {
     QList<Entry> entries{{QStringLiteral("(All)"), QStringLiteral("0"), QStringLiteral("All_Songs")}};
     clsDICT lists(clsDICT::Songlist);

@@ -12,6 +12,8 @@ namespace modPlaylist {
 // A file whose upper-cased name holds ".M4P", ".ACC", ".WMA", ".WAV" or ".MP3" anywhere: a search in
 // the name, not a test of its ending ("track.mp3.txt" passes).
 bool IsSongFile(const QString& fileName);
+// The names of the song files in the folder itself (its subfolders are not visited), by name.
+QStringList SongFiles(const QString& folder);
 
 // The songlists of the dialog: "(All)" with the value "0", then every list by its order as its name +
 // " (" + its number of songs + ")".

@@ -60,6 +60,18 @@ private slots:
         QCOMPARE(modPlaylist::IsSongFile(name), song);
     }
 
+    // Only the folder's own files, by name; a folder named like a song is no song.
+    void songFilesOfAFolder() {
+        QDir folder(db->File("music"));
+        QVERIFY(folder.mkpath("sub.mp3"));
+        for (const char* name : {"b.MP3", "a.wav", "cover.jpg", "sub.mp3/deep.mp3", "track.mp3.txt"}) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        QCOMPARE(modPlaylist::SongFiles(folder.path()), (QStringList{"a.wav", "b.MP3", "track.mp3.txt"}));
+        QVERIFY(modPlaylist::SongFiles(db->File("nowhere")).isEmpty());
+    }
+
     // The file's lines, each with its indent; the XML reader gives back title and paths unharmed.
     void playlistLines_data() {
         QTest::addColumn<QString>("title");

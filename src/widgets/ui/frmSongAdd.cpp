@@ -102,11 +102,8 @@ void frmSongAdd::SetFolder(const QString& folder) {
     mFolder = QDir::cleanPath(folder);
     mTree->setCurrentIndex(mFolders->index(mFolder));
     mGrid->setHeaderLabels({QStringLiteral("Songs in ") + mFolder});
-    const QStringList names = QDir(mFolder).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
     QList<QTreeWidgetItem*> items;
-    for (const QString& name : names) {
-        if (!modPlaylist::IsSongFile(name))
-            continue;
+    for (const QString& name : modPlaylist::SongFiles(mFolder)) {
         auto* item = new QTreeWidgetItem({name});
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable | Qt::ItemNeverHasChildren);
         item->setCheckState(0, Qt::Unchecked);

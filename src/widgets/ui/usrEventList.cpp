@@ -48,11 +48,9 @@ bool usrEventList::FromTheOtherList(const QMimeData* mime) const {
     return lines.size() > 1 && lines.first() != objectName();
 }
 
+// Entering is the first move.
 void usrEventList::dragEnterEvent(QDragEnterEvent* event) {
-    if (FromTheOtherList(event->mimeData()))
-        event->acceptProposedAction();
-    else
-        event->ignore();
+    dragMoveEvent(event);
 }
 
 void usrEventList::dragMoveEvent(QDragMoveEvent* event) {

@@ -66,7 +66,7 @@ usrSongsSide::usrSongsSide(QWidget* parent) : usrWidgetSide(parent) {
                             QStringLiteral("File Path"), QStringLiteral("Notes")});
     mGrid->setColumnWidth(IconColumn, 40);
     mGrid->setColumnWidth(SortColumn, 35);
-    mGrid->setColumnWidth(SongColumn, 250);
+    mGrid->setColumnWidth(SongColumn, 330);
     mGrid->setColumnWidth(PathColumn, 250);
     mGrid->setSelectionMode(QAbstractItemView::ExtendedSelection);
     mGrid->setContextMenuPolicy(Qt::CustomContextMenu);
