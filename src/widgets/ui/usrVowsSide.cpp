@@ -5,6 +5,7 @@
 #include "guests/clsCONTACT.h"
 #include "guests/modParseText.h"
 #include "shell/controls/modLayout.h"
+#include "shell/options/modBrideGroomIcons.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -24,6 +25,15 @@ usrVowsSide::usrVowsSide(QWidget* parent) : usrWidgetSide(parent) {
     layout->addWidget(BuildVows(clsWORDING::GroomVows, QStringLiteral("lblHis"), his));
 }
 
+// The partner's picture kept with the data, beside the label.
+QLabel* usrVowsSide::Picture(int row) {
+    const bool bride = row == clsWORDING::BrideVows;
+    auto* picture = new QLabel(this);
+    picture->setObjectName(bride ? QStringLiteral("imgBride") : QStringLiteral("imgGroom"));
+    picture->setPixmap(modBrideGroomIcons::StoredIcon(bride).pixmap(32, 32));
+    return picture;
+}
+
 QWidget* usrVowsSide::BuildVows(int row, const QString& name, const QString& caption) {
     auto* box = new QWidget(this);
     auto* layout = new QVBoxLayout(box);
@@ -33,7 +43,10 @@ QWidget* usrVowsSide::BuildVows(int row, const QString& name, const QString& cap
     text->setObjectName(QStringLiteral("txtVows_%1").arg(row));
     auto* save = new QPushButton(QStringLiteral("Save"), box);
     save->setObjectName(QStringLiteral("cmdSaveVows_%1").arg(row));
-    layout->addWidget(label);
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(Picture(row));
+    heading->addWidget(label, 1);
+    layout->addLayout(heading);
     layout->addWidget(text, 1);
     layout->addWidget(save, 0, Qt::AlignRight);
     mText.at(Slot(row)) = text;

@@ -10,7 +10,8 @@ class QPlainTextEdit;
 class QPushButton;
 
 // The couple's own vows, one text each with its own save button. Children: "lblHers", "lblHis",
-// "txtVows_2", "txtVows_3", "cmdSaveVows_2", "cmdSaveVows_3".
+// "imgBride", "imgGroom", "txtVows_2", "txtVows_3",
+// "cmdSaveVows_2", "cmdSaveVows_3".
 class usrVowsSide : public usrWidgetSide {
     Q_OBJECT
 
@@ -25,6 +26,7 @@ public:
 
 private:
     QWidget* BuildVows(int row, const QString& name, const QString& caption);
+    QLabel* Picture(int row);
     void UpdateSaveButton(int row);
     size_t Slot(int row) const { return static_cast<size_t>(row - clsWORDING::BrideVows); }
 
