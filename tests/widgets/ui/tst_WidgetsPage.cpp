@@ -1,8 +1,11 @@
 #include "TestDatabase.h"
 #include "UiTestTools.h"
+#include "shell/controls/usrHyperlink.h"
 #include "widgets/clsSONG.h"
+#include "widgets/modWording.h"
 #include "widgets/ui/frmCreateWPL.h"
 #include "widgets/ui/frmMain_12_Widgets.h"
+#include "widgets/ui/modWidgetLinks.h"
 #include "widgets/ui/usrEventList.h"
 #include "widgets/ui/usrSongsSide.h"
 
@@ -197,6 +200,44 @@ private slots:
         page.opt_Click(1);
         QCOMPARE(db->Messages().Prompts, QStringList{"Save Invitation Wording?"});
         QCOMPARE(!Scalar("SELECT WORDING_TX FROM WORDING WHERE WORDING_ID = 1").isEmpty(), saved);
+    }
+
+    // A parent's link adds the contact for its role; "remarried" names the new husband, and the
+    // wording follows both at once.
+    void parentsLinksFeedTheWording() {
+        QStringList asked;
+        modWidgetLinks::SetContactOpener([&asked](QWidget*, const QString& id, const QString& role) {
+            asked << id + "/" + role;
+            TestDatabase::Exec(
+                "INSERT INTO CONTACT (CONTACT_ID, TITLE_TX, FIRST_NM, LAST_NM, ROLE_ID, SORT_ORDER_NB) "
+                "VALUES (7, 'Mrs.', 'Linda', 'Hall', ?, 1), (8, 'Mr.', 'Tom', 'Hall', 18, 1)",
+                {role});
+            return true;
+        });
+        modWidgetLinks::SetRemarriedOpener([](QWidget*, int, QString* id) {
+            *id = "8";
+            return true;
+        });
+        frmMain_12_Widgets page;
+        Child<QComboBox>(page, "cbo_0")->setCurrentIndex(16);
+        auto* mother = Child<usrHyperlink>(page, "link_4");
+        auto* remarried = Child<usrHyperlink>(page, "linkRE_4");
+        QCOMPARE(mother->Caption(), QStringLiteral("Mother of the Bride"));
+        QVERIFY(remarried->isHidden());
+        QTest::mouseClick(mother, Qt::LeftButton);
+        QCOMPARE(asked, QStringList{"/4"});
+        QCOMPARE(mother->Caption(), QStringLiteral("Mrs. Linda Hall"));
+        QVERIFY(!remarried->isHidden());
+        auto* text = Child<QPlainTextEdit>(page, "txtInvitation");
+        QVERIFY(
+            text->toPlainText().startsWith("\nMrs. Bride's Mother's Husband's First, Middle, Last Name\n"));
+        QTest::mouseClick(remarried, Qt::LeftButton);
+        QCOMPARE(remarried->Caption(), QStringLiteral("and Mr. Tom Hall"));
+        QVERIFY(text->toPlainText().startsWith("\nMrs. Tom Hall\n"));
+        page.Leaving();
+        QCOMPARE(modWording::Choices::Load().RemarriedTo(4), QStringLiteral("8"));
+        modWidgetLinks::SetContactOpener({});
+        modWidgetLinks::SetRemarriedOpener({});
     }
 
     void vowsSaveOneAtATime() {
