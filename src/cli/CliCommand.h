@@ -38,6 +38,8 @@ CliCommand WeddingCommand();
 CliCommand IcsCommand();
 CliCommand BudgetCommand();
 CliCommand ThankYouCommand();
+CliCommand WordingCommand();
+CliCommand PlaylistCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

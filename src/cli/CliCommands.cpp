@@ -56,6 +56,8 @@ const std::vector<CliCommand>& CliCommands() {
         IcsCommand(),
         BudgetCommand(),
         ThankYouCommand(),
+        WordingCommand(),
+        PlaylistCommand(),
     };
     return commands;
 }

@@ -19,6 +19,7 @@
 #include "reports/clsRTFNotebook.h"
 #include "reports/clsRTFRSVP.h"
 #include "reports/clsRTFRole.h"
+#include "reports/clsRTFSongs.h"
 #include "reports/clsRTFStatistics.h"
 #include "reports/clsRTFTable.h"
 #include "reports/clsRTFTableLayout.h"
@@ -26,6 +27,9 @@
 #include "reports/clsRTFTentcard.h"
 #include "reports/clsRTFTimeline.h"
 #include "reports/clsRTFVendor.h"
+#include "reports/clsRTFWidgetInvite.h"
+#include "reports/clsRTFWidgetsInvitation.h"
+#include "reports/clsRTFWidgetsWeddingVows.h"
 #include "reports/clsReportClasses.h"
 
 #include <functional>
@@ -87,4 +91,10 @@ void RegisterReportClasses() {
     Register<clsRTFBudgetCategory>();
     Register<clsRTFGift>(TakeFilter);
     Register<clsRTFVendor>();
+    Register<clsRTFWidgetsInvitation>();
+    Register<clsRTFWidgetsWeddingVows>(
+        [](clsRTFWidgetsWeddingVows& report, const clsReportRoute& route) { report.ReportIndex = route.Argument; });
+    Register<clsRTFSongs>();
+    Register<clsRTFWidgetInvite>(
+        [](clsRTFWidgetInvite& report, const clsReportRoute& route) { report.EVENT_ID = route.Argument; });
 }
