@@ -2,6 +2,8 @@
 // the screenshots of anything that is not a page.
 #include "app/modKnownScreens.h"
 
+#include "guests/ui/frmContact.h"
+#include "guests/ui/frmRemarriedTo.h"
 #include "guests/ui/modGuestPages.h"
 #include "planning/ui/modPlanningPages.h"
 #include "reports/ui/modReportDialogs.h"
@@ -19,9 +21,39 @@
 #include "shell/options/frmOptions.h"
 #include "startup/ui/frmMain_00_Home.h"
 #include "startup/ui/frmMain_00_Welcome.h"
+#include "widgets/ui/modWidgetLinks.h"
 #include "widgets/ui/modWidgetPages.h"
 
 #include <QDialog>
+
+namespace {
+
+// The widgets page opens the parents' contacts and names a remarried parent's spouse through the guest
+// screens.
+void LinkWidgetsToGuests() {
+    modWidgetLinks::SetContactOpener([](QWidget* parent, const QString& contactId, const QString& roleId) {
+        frmContact editor(contactId, parent);
+        if (contactId.isEmpty())
+            editor.SetRole(roleId);
+        bool changed = false;
+        QObject::connect(&editor, &frmContact::Added, &editor, [&changed] { changed = true; });
+        QObject::connect(&editor, &frmContact::Updated, &editor, [&changed] { changed = true; });
+        editor.exec();
+        return changed;
+    });
+    modWidgetLinks::SetRemarriedOpener([](QWidget* parent, int roleId, QString* contactId) {
+        frmRemarriedTo dialog(roleId, parent);
+        bool chosen = false;
+        QObject::connect(&dialog, &frmRemarriedTo::NameSelected, &dialog, [&](const QString& id) {
+            chosen = true;
+            *contactId = id;
+        });
+        dialog.exec();
+        return chosen;
+    });
+}
+
+} // namespace
 
 void RegisterKnownScreens() {
     using namespace modPages;
@@ -36,13 +68,16 @@ void RegisterKnownScreens() {
     RegisterSeatingPages();
     RegisterPlanningPages();
     RegisterWidgetPages();
+    LinkWidgetsToGuests();
     RegisterReportScreens();
 
     modScreenshots::Register(QStringLiteral("frmAbout"), [] { return mdiMain::MakeAbout(nullptr); });
     modScreenshots::Register(FormName(kOptions), []() -> QWidget* { return new frmOptions(nullptr); });
-    modScreenshots::Register(QStringLiteral("frmFeatureTour"), []() -> QWidget* { return new frmFeatureTour; });
+    modScreenshots::Register(QStringLiteral("frmFeatureTour"),
+                             []() -> QWidget* { return new frmFeatureTour; });
     modScreenshots::Register(QStringLiteral("frmForums"), []() -> QWidget* { return new frmForums; });
-    modScreenshots::Register(QStringLiteral("frmScreenResolution"), []() -> QWidget* { return new frmScreenResolution; });
+    modScreenshots::Register(QStringLiteral("frmScreenResolution"),
+                             []() -> QWidget* { return new frmScreenResolution; });
     modScreenshots::Register(QStringLiteral("frmBackup"), []() -> QWidget* { return new frmBackup; });
     // The columns of the guest list; the page goes with the dialog.
     modScreenshots::Register(QStringLiteral("frmCustomizeColumns"), []() -> QWidget* {

@@ -36,6 +36,10 @@ CliCommand BoardCommand();
 CliCommand TravelCommand();
 CliCommand WeddingCommand();
 CliCommand IcsCommand();
+CliCommand BudgetCommand();
+CliCommand ThankYouCommand();
+CliCommand WordingCommand();
+CliCommand PlaylistCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

@@ -54,6 +54,10 @@ const std::vector<CliCommand>& CliCommands() {
         TravelCommand(),
         WeddingCommand(),
         IcsCommand(),
+        BudgetCommand(),
+        ThankYouCommand(),
+        WordingCommand(),
+        PlaylistCommand(),
     };
     return commands;
 }

@@ -185,7 +185,7 @@ long clsApp::TotalTentcards() const { return Counters().TotalTentcards(); }
 long clsApp::TotalTimelineEntries(const QString& eventId) const { return Counters().TotalTimelineEntries(eventId); }
 long clsApp::TotalTimelineEvents() const { return Counters().TotalTimelineEvents(); }
 long clsApp::TotalVendors() const { return Counters().TotalVendors(); }
-double clsApp::TotalBudgetSumEstimates() const { return Counters().TotalBudgetSumEstimates(); }
+clsMoney clsApp::TotalBudgetSumEstimates() const { return Counters().TotalBudgetSumEstimates(); }
 long clsApp::TotalFlights() const { return Counters().TotalFlights(); }
 long clsApp::TotalHotels() const { return Counters().TotalHotels(); }
 long clsApp::TotalSongs() const { return Counters().TotalSongs(); }

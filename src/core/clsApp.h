@@ -131,7 +131,7 @@ public:
     long TotalTimelineEntries(const QString& eventId = QString()) const;
     long TotalTimelineEvents() const;
     long TotalVendors() const;
-    double TotalBudgetSumEstimates() const;
+    clsMoney TotalBudgetSumEstimates() const;
     long TotalFlights() const;
     long TotalHotels() const;
     long TotalSongs() const;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/clsMoney.h"
+
 #include <QString>
 
 // The counts of the records of every part of the wedding, as gApp hands them to the Home page, the
@@ -22,7 +24,7 @@ public:
     virtual long TotalTimelineEntries(const QString& eventId) const = 0;
     virtual long TotalTimelineEvents() const = 0;
     virtual long TotalVendors() const = 0;
-    virtual double TotalBudgetSumEstimates() const = 0;
+    virtual clsMoney TotalBudgetSumEstimates() const = 0;
     virtual long TotalFlights() const = 0;
     virtual long TotalHotels() const = 0;
     virtual long TotalSongs() const = 0;

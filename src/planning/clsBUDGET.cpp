@@ -44,14 +44,15 @@ const RecordTable<clsBUDGET>& clsBUDGET::ReadTable() {
     return table;
 }
 
-// Only expenses with a payer are listed; one whose category is gone still is.
+// Only expenses with a payer are listed; one whose category is gone still is. The expenses lead the
+// joins, so that each payer, category and vendor is found by its key.
 QString clsBUDGET::SelectSql() {
     return QStringLiteral("SELECT ") + QualifiedColumns(Table()) +
            QStringLiteral(
                ", VENDOR.VENDOR_NM, BUDGET_CATEGORY_DICT.BUDGET_CATEGORY_TX, PAID_BY_DICT.PAID_BY_TX "
-               "FROM PAID_BY_DICT INNER JOIN (BUDGET_CATEGORY_DICT RIGHT JOIN (BUDGET LEFT JOIN VENDOR ON "
-               "BUDGET.VENDOR_ID = VENDOR.VENDOR_ID) ON BUDGET_CATEGORY_DICT.BUDGET_CATEGORY_ID = "
-               "BUDGET.BUDGET_CATEGORY_ID) ON PAID_BY_DICT.PAID_BY_ID = BUDGET.PAID_BY_ID ");
+               "FROM BUDGET INNER JOIN PAID_BY_DICT ON PAID_BY_DICT.PAID_BY_ID = BUDGET.PAID_BY_ID "
+               "LEFT JOIN BUDGET_CATEGORY_DICT ON BUDGET_CATEGORY_DICT.BUDGET_CATEGORY_ID = "
+               "BUDGET.BUDGET_CATEGORY_ID LEFT JOIN VENDOR ON VENDOR.VENDOR_ID = BUDGET.VENDOR_ID ");
 }
 
 QString clsBUDGET::WhereSql(int filter, const QString& categoryId, QVariantList& values) {
@@ -84,10 +85,6 @@ QList<clsBUDGET> clsBUDGET::Open(const QString& sql, const QVariantList& values)
             expense.BUDGET_CATEGORY_TX = QStringLiteral("(none)");
     }
     return expenses;
-}
-
-double clsBUDGET::ACTUAL_AMOUNT_NB_DOUBLE() const {
-    return ACTUAL_AMOUNT_NB.toDouble();
 }
 
 QString clsBUDGET::DUE_DT_DDMMMYYYY() const {

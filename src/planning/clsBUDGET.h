@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/RecordIO.h"
+#include "core/clsMoney.h"
 
 #include <QDate>
 #include <QList>
@@ -31,7 +32,7 @@ public:
 
     static const RecordTable<clsBUDGET>& Table();
 
-    double ACTUAL_AMOUNT_NB_DOUBLE() const;
+    clsMoney Amount() const { return clsMoney::FromStored(ACTUAL_AMOUNT_NB); }
     QString DUE_DT_DDMMMYYYY() const;
     QString PAID_DT_DDMMMYYYY() const;
     // Unpaid with a due date before today; the due day itself is not past due.

@@ -65,7 +65,8 @@ const RecordTable<clsGIFT>& clsGIFT::ReadTable() {
 }
 
 // Every gift with its event (a gift whose event is gone is not listed), its giving contact or
-// invitation, and the address of the invitation's primary contact, which is the envelope's.
+// invitation, and the address of the invitation's primary contact, which is the envelope's. The gifts
+// lead the joins, so that each giver is found by its key.
 QString clsGIFT::SelectSql() {
     return QStringLiteral("SELECT ") + QualifiedColumns(Table()) +
            QStringLiteral(
@@ -80,9 +81,9 @@ QString clsGIFT::SelectSql() {
                "WHERE PRIMARY_CONTACT.INVITE_ID = GIFT.INVITE_ID AND "
                "PRIMARY_CONTACT.PRIMARY_CONTACT_FG = 'Y' "
                "ORDER BY PRIMARY_CONTACT.SORT_ORDER_NB LIMIT 1) AS INVITE_ADDRESS_TX "
-               "FROM INVITE RIGHT JOIN (EVENT INNER JOIN (CONTACT RIGHT JOIN GIFT "
-               "ON CONTACT.CONTACT_ID = GIFT.CONTACT_ID) ON EVENT.EVENT_ID = GIFT.EVENT_ID) "
-               "ON INVITE.INVITE_ID = GIFT.INVITE_ID ");
+               "FROM GIFT INNER JOIN EVENT ON EVENT.EVENT_ID = GIFT.EVENT_ID "
+               "LEFT JOIN CONTACT ON CONTACT.CONTACT_ID = GIFT.CONTACT_ID "
+               "LEFT JOIN INVITE ON INVITE.INVITE_ID = GIFT.INVITE_ID ");
 }
 
 QString clsGIFT::WhereSql(int filter, const QString& customWhere) {
@@ -155,6 +156,21 @@ QString clsGIFT::THANK_YOU_SENT_FG_Text() const {
 
 void clsGIFT::Delete(const QString& giftId) {
     RecordIO::Delete(QStringLiteral("GIFT"), QStringLiteral("GIFT_ID"), giftId);
+}
+
+void clsGIFT::Delete(const QStringList& giftIds) {
+    clsTransaction tx(gDB());
+    for (const QString& id : giftIds)
+        gDB().Execute(QStringLiteral("DELETE FROM GIFT WHERE GIFT_ID = ?"), {id});
+    tx.Commit();
+}
+
+void clsGIFT::SetThankYouSent(const QStringList& giftIds, bool sent) {
+    clsTransaction tx(gDB());
+    for (const QString& id : giftIds)
+        gDB().Execute(QStringLiteral("UPDATE GIFT SET THANK_YOU_SENT_FG = ? WHERE GIFT_ID = ?"),
+                      {sent ? QStringLiteral("Y") : QStringLiteral("N"), id});
+    tx.Commit();
 }
 
 long clsGIFT::GetTotal(int filter, const QString& customWhere) const {

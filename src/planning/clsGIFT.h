@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 // A gift received at an event, from a single contact or from a whole invitation (a household or a
 // couple invited together), and whether the thank-you note has gone out. Only one of CONTACT_ID and
@@ -43,6 +44,10 @@ public:
     // Every operation below that reads or writes throws clsDbError when the database refuses.
 
     void Delete(const QString& giftId);
+    // Deletes these gifts, all or none.
+    static void Delete(const QStringList& giftIds);
+    // Marks the thank-you note of these gifts as sent or not, all or none.
+    static void SetThankYouSent(const QStringList& giftIds, bool sent);
     // A custom condition (with its word WHERE) takes the place of the filter.
     long GetTotal(int filter, const QString& customWhere = QString()) const;
     bool OpenRecord(const QString& giftId);

@@ -10,14 +10,20 @@
 
 QString clsRTFReport::Build() {
     RTF.SetGlobalSettings();
-    RTF.FILE_NAME = clsReportCatalogue::ReportFileName(clsReportCatalogue::FilePrefix(mClassName));
+    RTF.FILE_NAME = clsReportCatalogue::ReportFileName(FilePrefix());
     RTF.TITLE = Title();
     RTF.STATISTICS = Statistics();
     if (!RTF.RTFOpen())
         return {};
-    HeaderRow(Columns());
+    const QList<Column> columns = Columns();
+    if (!columns.isEmpty())
+        HeaderRow(columns);
     PrintRows();
     return RTF.RTFClose() ? RTF.FULL_FILE_NAME() : QString();
+}
+
+QString clsRTFReport::FilePrefix() const {
+    return clsReportCatalogue::FilePrefix(mClassName);
 }
 
 QString clsRTFReport::Money(double amount) {

@@ -5,7 +5,6 @@
 #include <QList>
 #include <QString>
 
-
 // What every list report shares: one writer, the run from file name to closing, and the rows the
 // family prints alike (the repeating header row, group rows, full-width notes, data rows filled cell by
 // cell). A report class says only what differs: its class name (which gives the file prefix), title,
@@ -42,9 +41,11 @@ protected:
         int Align = clsRTFCell::AlignLeft;
     };
 
+    // The start of the file's name: the catalogue's prefix of the class.
+    virtual QString FilePrefix() const;
     virtual RtfMarkup Title() const { return {}; }
     virtual RtfMarkup Statistics() const { return {}; }
-    // The columns for the dialect and orientation the writer has now.
+    // The columns for the dialect and orientation the writer has now; none: no header row.
     virtual QList<Column> Columns() const = 0;
     // The data rows, after the header row of Columns().
     virtual void PrintRows() = 0;

@@ -40,11 +40,10 @@ void clsRTFStatistics::Line(LineKind kind, const QString& label, const QString& 
     PrintRow({kind == Child ? kIndent + label : label, RtfMarkup::Figure(figure)});
 }
 
-void clsRTFStatistics::MoneyLine(const QString& label, double amount, bool redWhenNegative) {
-    // Below zero as it is shown, to the cent: a remainder of -0.001 is no debt.
-    const bool red = redWhenNegative && QString::number(amount, 'f', 2).toDouble() < 0;
+void clsRTFStatistics::MoneyLine(const QString& label, clsMoney amount, bool redWhenNegative) {
+    const bool red = redWhenNegative && amount.IsNegative();
     RTF.RTFCells.last().CELL_FORECOLOR = red ? clsRTFMasterTemp::Red : clsRTFMasterTemp::NoColor;
-    Line(Plain, label, Money(amount));
+    Line(Plain, label, amount.Text());
 }
 
 void clsRTFStatistics::PrintRows() {
@@ -106,8 +105,8 @@ void clsRTFStatistics::PrintRows() {
     Line(Child, QStringLiteral("Completed"), QString::number(gApp().TotalTasks(2)));
     Line(Child, QStringLiteral("Current"), QString::number(gApp().TotalTasks(3)));
 
-    const double budget = gApp().TotalBudgetSumEstimates();
-    const double actual = clsBUDGET_CATEGORY_DICT::TotalSumActual();
+    const clsMoney budget = gApp().TotalBudgetSumEstimates();
+    const clsMoney actual = clsBUDGET_CATEGORY_DICT::TotalSumActual();
     MoneyLine(QStringLiteral("Total Wedding Budget"), budget);
     MoneyLine(QStringLiteral("Total Actual Expenses"), actual);
     MoneyLine(QStringLiteral("Total Remaining"), budget - actual, true);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/clsMoney.h"
 #include "reports/clsRTFReport.h"
 
 #include <QDateTime>
@@ -19,5 +20,5 @@ protected:
 private:
     enum LineKind { Plain, Head, Child };
     void Line(LineKind kind, const QString& label, const QString& figure);
-    void MoneyLine(const QString& label, double amount, bool redWhenNegative = false);
+    void MoneyLine(const QString& label, clsMoney amount, bool redWhenNegative = false);
 };

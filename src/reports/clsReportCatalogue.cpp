@@ -172,7 +172,7 @@ void WidgetRows(RowList& list) {
     list.Plain(QStringLiteral("All Wedding Vows"), 2, QStringLiteral("2"), QStringLiteral("Side by Side"));
     list.Sub(PartnerName("1") + QStringLiteral("'s Wedding Vows"), 3, QStringLiteral("1"));
     list.Sub(PartnerName("2") + QStringLiteral("'s Wedding Vows"), 4, QStringLiteral("1"));
-    list.Plain(QStringLiteral("Songs"), 5, Count(gApp().TotalSongs()));
+    list.Plain(QStringLiteral("Songs"), 5, Count(gApp().TotalSongs()), QStringLiteral("For DJ"));
     for (const clsINVITE_WIDGET& event : clsINVITE_WIDGET::OpenEvents())
         list.Plain(event.EVENT_TX, event.EVENT_ID.toInt() + 99,
                    Count(clsINVITE_WIDGET::GetTotal(event.EVENT_ID)), QStringLiteral("For your Party Hosts"));

@@ -9,17 +9,27 @@
 #include "reports/clsRTFHotelOverview.h"
 #include "reports/clsRTFHotels.h"
 #include "reports/clsRTFEvent.h"
+#include "reports/clsRTFBudget.h"
+#include "reports/clsRTFBudgetCategory.h"
+#include "reports/clsRTFBudgetPaidBy.h"
+#include "reports/clsRTFContacts.h"
+#include "reports/clsRTFGift.h"
 #include "reports/clsRTFInvitation.h"
 #include "reports/clsRTFMeal.h"
 #include "reports/clsRTFNotebook.h"
 #include "reports/clsRTFRSVP.h"
 #include "reports/clsRTFRole.h"
+#include "reports/clsRTFSongs.h"
 #include "reports/clsRTFStatistics.h"
 #include "reports/clsRTFTable.h"
 #include "reports/clsRTFTableLayout.h"
 #include "reports/clsRTFTask.h"
 #include "reports/clsRTFTentcard.h"
 #include "reports/clsRTFTimeline.h"
+#include "reports/clsRTFVendor.h"
+#include "reports/clsRTFWidgetInvite.h"
+#include "reports/clsRTFWidgetsInvitation.h"
+#include "reports/clsRTFWidgetsWeddingVows.h"
 #include "reports/clsReportClasses.h"
 
 #include <functional>
@@ -76,4 +86,15 @@ void RegisterReportClasses() {
             calendar.TakeStoredRange();
         return calendar.Build();
     });
+    Register<clsRTFBudget>(TakeFilter);
+    Register<clsRTFBudgetPaidBy>();
+    Register<clsRTFBudgetCategory>();
+    Register<clsRTFGift>(TakeFilter);
+    Register<clsRTFVendor>();
+    Register<clsRTFWidgetsInvitation>();
+    Register<clsRTFWidgetsWeddingVows>(
+        [](clsRTFWidgetsWeddingVows& report, const clsReportRoute& route) { report.ReportIndex = route.Argument; });
+    Register<clsRTFSongs>();
+    Register<clsRTFWidgetInvite>(
+        [](clsRTFWidgetInvite& report, const clsReportRoute& route) { report.EVENT_ID = route.Argument; });
 }

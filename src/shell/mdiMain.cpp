@@ -529,7 +529,7 @@ void mdiMain::ConnectPage(usrPage* page) {
         UpdateWeddingCaption();
         UpdateCountdown();
     });
-    connect(page, &usrPage::PlaylistCreated, this, &mdiMain::RefreshPlaylist);
+    connect(page, &usrPage::PlaylistCreated, this, &mdiMain::mfrmMain_12_Widgets_PlaylistCreated);
 }
 
 void mdiMain::ShowFirstPage(int index) {
@@ -629,6 +629,13 @@ void mdiMain::RefreshPlaylist() {
         mPlaylistFile = folder.filePath(files.first());
     lblPlaylist->setText(QFileInfo(mPlaylistFile).fileName());
     imgMusicPlay->setToolTip(QStringLiteral("Listen to playlist"));
+}
+
+void mdiMain::mfrmMain_12_Widgets_PlaylistCreated(const QString& path, bool playNow) {
+    mPlaylistFile = path;
+    RefreshPlaylist();
+    if (playNow)
+        OnPlayClicked();
 }
 
 void mdiMain::OnPlayClicked() {

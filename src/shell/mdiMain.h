@@ -94,6 +94,7 @@ private:
     void OnTimer();
     void OnCountdownClicked();
     void RefreshPlaylist();
+    void mfrmMain_12_Widgets_PlaylistCreated(const QString& path, bool playNow);
     void OnPlayClicked();
     void OnPlaylistClicked();
     void OpenAddress(const QString& address);

@@ -23,6 +23,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QSplitter>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -123,7 +124,10 @@ void usrListPage::BuildLayout() {
     outer->setSpacing(16);
     outer->addWidget(BuildPanel());
 
-    auto* right = new QVBoxLayout;
+    mListPane = new QWidget(this);
+    mListPane->setObjectName(QStringLiteral("picList"));
+    auto* right = new QVBoxLayout(mListPane);
+    right->setContentsMargins(0, 0, 0, 0);
     right->setSpacing(8);
     auto* top = new QHBoxLayout;
     lblFilter = NamedLabel(QStringLiteral("lblFilter"), this);
@@ -167,7 +171,7 @@ void usrListPage::BuildLayout() {
     lblEmpty->setForegroundRole(QPalette::PlaceholderText);
     lblEmpty->hide();
     right->addWidget(mGrid, 1);
-    outer->addLayout(right, 1);
+    outer->addWidget(mListPane, 1);
 
     connect(mSearch, &usrSearch::Search, this, &usrListPage::ApplySearch);
     // Enter and a double click on a record open it.
@@ -270,6 +274,17 @@ void usrListPage::ReplaceFilterEntries(const QList<FilterEntry>& entries) {
     SetFilterEntries(entries);
     if (FilterCaption(before).isEmpty())
         gRegistry().SaveSetting(SettingsKey(), QStringLiteral("FilterIndex"), QString::number(mFilter));
+}
+
+QSplitter* usrListPage::PutAboveList(QWidget* pane) {
+    auto* splitter = new QSplitter(Qt::Vertical, this);
+    splitter->setObjectName(QStringLiteral("imgSplitter"));
+    splitter->setChildrenCollapsible(false);
+    delete layout()->replaceWidget(mListPane, splitter);
+    splitter->addWidget(pane);
+    splitter->addWidget(mListPane);
+    splitter->setStretchFactor(1, 1);
+    return splitter;
 }
 
 void usrListPage::AddPanelWidget(QWidget* widget) {

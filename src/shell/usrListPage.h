@@ -15,6 +15,7 @@ class QLabel;
 class QMenu;
 class QScrollArea;
 class QShortcut;
+class QSplitter;
 class QFrame;
 class QGridLayout;
 class QHBoxLayout;
@@ -107,6 +108,9 @@ protected:
     void PopupMenu(QMenu* menu, const QPoint& gridPosition);
     // A control under the entries of the filter panel (a note, a picture).
     void AddPanelWidget(QWidget* widget);
+    // Puts a pane above the list (caption, actions and grid), the two parted by a splitter that the
+    // page may move; neither pane can be closed.
+    QSplitter* PutAboveList(QWidget* pane);
 
     // ---- What the page answers ----
     // The count of a filter entry.
@@ -162,6 +166,7 @@ private:
     usrGrid* mGrid = nullptr;
     usrSearch* mSearch = nullptr;
     usrLinks* mProgress = nullptr;
+    QWidget* mListPane = nullptr;
     QLabel* lblFilter = nullptr;
     QLabel* lblCount = nullptr;
     QLabel* lblEmpty = nullptr;

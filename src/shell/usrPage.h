@@ -36,6 +36,6 @@ signals:
     void EnableToolbar(bool enable);
     // The couple's names or the wedding day changed.
     void UpdateWeddingCouple();
-    // A playlist was written; the footer shows the newest.
-    void PlaylistCreated();
+    // A playlist was written: the footer makes it the current one, and plays it when asked to.
+    void PlaylistCreated(const QString& path, bool playNow);
 };

@@ -70,7 +70,7 @@ long clsApp_Counters::TotalVendors() const {
     return clsVENDOR().GetTotal();
 }
 
-double clsApp_Counters::TotalBudgetSumEstimates() const {
+clsMoney clsApp_Counters::TotalBudgetSumEstimates() const {
     return clsBUDGET_CATEGORY_DICT::TotalSumEstimates();
 }
 

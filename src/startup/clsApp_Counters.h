@@ -18,7 +18,7 @@ public:
     long TotalTimelineEntries(const QString& eventId) const override;
     long TotalTimelineEvents() const override;
     long TotalVendors() const override;
-    double TotalBudgetSumEstimates() const override;
+    clsMoney TotalBudgetSumEstimates() const override;
     long TotalFlights() const override;
     long TotalHotels() const override;
     long TotalSongs() const override;

@@ -50,7 +50,7 @@ void TaskGroupAndEstimates() {
         const QString id = zero.Value(i, 0);
         gDB().Execute(
             QStringLiteral("UPDATE BUDGET_CATEGORY_DICT SET ESTIMATE_AMOUNT_NB = ? WHERE BUDGET_CATEGORY_ID = ?"),
-            {clsBUDGET_CATEGORY_DICT::TotalSumActual(id), id});
+            {clsBUDGET_CATEGORY_DICT::TotalSumActual(id).Stored(), id});
     }
     tx.Commit();
 }

@@ -1,5 +1,7 @@
 #include "startup/modWedding.h"
 
+#include <cmath>
+
 #include "core/clsApp.h"
 #include "core/clsVOWREN.h"
 #include "core/modGeneral.h"
@@ -44,7 +46,10 @@ void SaveFirstStart(const clsCONTACT& bride, const clsCONTACT& groom, const QStr
         clsTransaction tx(gDB());
         clsCONTACT::SaveCouple(bride, groom);
         clsEVENT::SaveWeddingDay(when);
-        clsBUDGET_CATEGORY_DICT::SaveEstimates(estimates);
+        QMap<QString, clsMoney> amounts;
+        for (auto estimate = estimates.cbegin(); estimate != estimates.cend(); ++estimate)
+            amounts.insert(estimate.key(), clsMoney::FromCents(std::llround(estimate.value() * 100.0)));
+        clsBUDGET_CATEGORY_DICT::SaveEstimates(amounts);
         // Every expense is due on the wedding day until told otherwise.
         clsBUDGET::SetEveryDueDate(FormatDate(ParseDateTimeText(when).date()));
         tx.Commit();

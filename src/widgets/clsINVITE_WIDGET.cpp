@@ -4,6 +4,8 @@
 #include "guests/clsCONTACT.h"
 #include "guests/clsINVITE.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 // The list of an event, contacts and invitations sorted together by last name or display name. The
@@ -41,6 +43,27 @@ void FillDisplay(clsINVITE_WIDGET& row) {
     row.PHONE_TX = invite.PHONE_TX;
     row.EMAIL_TX = invite.EMAIL_TX;
     row.PEOPLE_NB = static_cast<int>(invite.GUESTS.size());
+}
+
+// The ids the event's list holds in a column, NULL read as 0 so that "Not In" never meets a NULL (which
+// would empty the candidates).
+QString NotOnList(const QString& table, const QString& column, const QString& eventID) {
+    return table + QLatin1Char('.') + column + QStringLiteral(" Not In (SELECT iif(INVITE_WIDGET.") + column +
+           QStringLiteral(" IS NULL, 0, INVITE_WIDGET.") + column + QStringLiteral(") AS ") + column +
+           QStringLiteral(" FROM INVITE_WIDGET WHERE INVITE_WIDGET.EVENT_ID = ") +
+           QString::number(eventID.toLongLong()) + QStringLiteral(" GROUP BY INVITE_WIDGET.") + column +
+           QLatin1Char(')');
+}
+
+// "CONTACT7" as the contact 7, "INVITE3" as the invitation 3; false for anything else.
+bool SplitKey(const QString& key, QString* column, QString* id) {
+    static const QRegularExpression pattern(QStringLiteral("^(CONTACT|INVITE)([0-9]+)$"));
+    const QRegularExpressionMatch match = pattern.match(key);
+    if (!match.hasMatch())
+        return false;
+    *column = match.captured(1) + QStringLiteral("_ID");
+    *id = match.captured(2);
+    return true;
 }
 
 } // namespace
@@ -123,4 +146,51 @@ QList<clsINVITE_WIDGET> clsINVITE_WIDGET::OpenRecords(const QString& eventID) {
 
 void clsINVITE_WIDGET::Save(bool isNew) {
     RecordIO::Save(*this, Table(), isNew);
+}
+
+QList<clsINVITE_WIDGET::Candidate> clsINVITE_WIDGET::Candidates(const QString& eventID, bool contacts) {
+    QList<Candidate> candidates;
+    if (contacts) {
+        for (const clsCONTACT& c : clsCONTACT::OpenRecords(
+                 0, NotOnList(QStringLiteral("CONTACT"), QStringLiteral("CONTACT_ID"), eventID)))
+            candidates.append({QStringLiteral("CONTACT") + c.CONTACT_ID, c.LastFirstMiddleSuffix()});
+        return candidates;
+    }
+    for (const clsINVITE& i : clsINVITE::OpenRecords(
+             0, true, NotOnList(QStringLiteral("INVITE"), QStringLiteral("INVITE_ID"), eventID)))
+        candidates.append({QStringLiteral("INVITE") + i.INVITE_ID, i.DISPLAY_AS_TX});
+    return candidates;
+}
+
+void clsINVITE_WIDGET::Invite(const QString& eventID, const QStringList& keys) {
+    clsTransaction tx(gDB());
+    for (const QString& key : keys) {
+        clsINVITE_WIDGET row;
+        row.EVENT_ID = eventID;
+        QString column;
+        QString id;
+        if (!SplitKey(key, &column, &id))
+            continue;
+        (column == QLatin1String("CONTACT_ID") ? row.CONTACT_ID : row.INVITE_ID) = id;
+        if (RecordIO::Count(QStringLiteral("SELECT COUNT(*) FROM INVITE_WIDGET WHERE EVENT_ID = ? AND ") +
+                                column + QStringLiteral(" = ?"),
+                            {eventID, id}) == 0)
+            row.Save(true);
+    }
+    tx.Commit();
+}
+
+void clsINVITE_WIDGET::Uninvite(const QString& eventID, const QStringList& keys) {
+    clsTransaction tx(gDB());
+    for (const QString& key : keys) {
+        QString column;
+        QString id;
+        if (!SplitKey(key, &column, &id))
+            continue;
+        if (column == QLatin1String("CONTACT_ID"))
+            Delete(eventID, id);
+        else
+            Delete(eventID, QString(), id);
+    }
+    tx.Commit();
 }

@@ -42,4 +42,17 @@ public:
     // The event's list, contacts and invitations together, sorted by last name or display name.
     static QList<clsINVITE_WIDGET> OpenRecords(const QString& eventID);
     void Save(bool isNew);
+
+    // ---- The two lists of an event's side ----
+    // A candidate for the event's list: a contact or an invitation not on it yet.
+    struct Candidate {
+        QString Key;     // "CONTACT" or "INVITE" + the id
+        QString Caption; // the contact's LastFirstMiddleSuffix, the invitation's display name
+    };
+    // The contacts (or the invitations) that the event's list does not hold yet, by name.
+    static QList<Candidate> Candidates(const QString& eventID, bool contacts);
+    // Puts the contacts and invitations of these keys ("CONTACT7", "INVITE3") on the event's list, or
+    // takes them off it; one piece of work, all or nothing. A key already where it goes is left alone.
+    static void Invite(const QString& eventID, const QStringList& keys);
+    static void Uninvite(const QString& eventID, const QStringList& keys);
 };

@@ -81,6 +81,45 @@ void clsSONG::UpdateSort(const QString& songID, const QString& sortOrder) {
     RecordIO::Run(QStringLiteral("UPDATE SONG SET SORT_ORDER_NB = ? WHERE SONG_ID = ?"), {sortOrder, songID});
 }
 
+// ---- Work on several songs ----
+
+void clsSONG::AddSongs(const QStringList& paths, const QString& songlistID) {
+    clsTransaction tx(gDB());
+    for (const QString& path : paths) {
+        clsSONG song;
+        song.SONG_FILE_PATH_TX = path;
+        song.SONGLIST_ID = songlistID;
+        song.Save(true);
+    }
+    tx.Commit();
+}
+
+void clsSONG::DeleteSongs(const QStringList& songIDs) {
+    clsTransaction tx(gDB());
+    for (const QString& id : songIDs)
+        clsSONG().Delete(id);
+    tx.Commit();
+}
+
+void clsSONG::MoveToSonglist(const QStringList& songIDs, const QString& songlistID) {
+    clsTransaction tx(gDB());
+    for (const QString& id : songIDs) {
+        clsSONG song;
+        if (!song.OpenRecord(id))
+            continue;
+        song.SONGLIST_ID = songlistID;
+        song.Save(false);
+    }
+    tx.Commit();
+}
+
+void clsSONG::SwapSort(const clsSONG& first, const clsSONG& second) {
+    clsTransaction tx(gDB());
+    UpdateSort(first.SONG_ID, second.SORT_ORDER_NB);
+    UpdateSort(second.SONG_ID, first.SORT_ORDER_NB);
+    tx.Commit();
+}
+
 // ---- Cursor ----
 
 void clsSONG::LoadSongs(const QList<clsSONG>& songs) {

@@ -36,6 +36,16 @@ public:
     static long Total(const QString& songlistID = QString());
     static void UpdateSort(const QString& songID, const QString& sortOrder);
 
+    // ---- Work on several songs, each all or nothing ----
+    // New songs of these files in the list, numbered on after the last song.
+    static void AddSongs(const QStringList& paths, const QString& songlistID);
+    // Removes the rows (never the files).
+    static void DeleteSongs(const QStringList& songIDs);
+    // Moves the songs to another list; each keeps its number.
+    static void MoveToSonglist(const QStringList& songIDs, const QString& songlistID);
+    // The two songs trade their numbers (a song moved one place up or down its list).
+    static void SwapSort(const clsSONG& first, const clsSONG& second);
+
     // ---- The music bar's cursor (positions count from 1; 0 while nothing is loaded) ----
     void LoadSongs(const QList<clsSONG>& songs);
     const QList<clsSONG>& Songs() const { return mSongs; }

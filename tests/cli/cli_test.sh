@@ -63,12 +63,12 @@ check "report custom box unknown" 2 'has no box "Martian"' "$cli" report Contact
 check "report custom on tables" 2 'only Contacts, Invitations, RSVPs and Attendees' "$cli" report Tables --custom "A list"
 check "report list" 0 '^  All Contacts \[0\]: 2' "$cli" report --list
 check "report list by section key" 0 '^Wedding Statistics \[14\]' "$cli" report --list
-check "report list marks what exists" 0 'All Gifts \[0\]: 0 \(not yet available\)' "$cli" report --list
+check "report list marks what exists" 0 'Custom SQL \[0\]: -- \(not yet available\)' "$cli" report --list
 check "report writes RTF" 0 "^$home/Reports/01_Contacts_[0-9_-]+\.rtf$" "$cli" report Contacts
 check "report writes CSV by section key" 0 "^$home/Reports/04_Meals_.*\.csv$" "$cli" report 4 --filter 98 --format csv
 check "report of statistics in portrait A4" 0 '12_Wedding_Statistics_.*\.rtf$' "$cli" report "wedding statistics" --portrait --a4
 check "report with a custom filter" 0 '01_Contacts_.*\.csv$' "$cli" report Contacts --custom "Friend of Bride+A list" --format csv
-check "report not yet available" 1 'not available yet' "$cli" report Gifts
+check "report not yet available" 1 'not available yet' "$cli" report Custom
 check "report needing the screen" 2 'needs the report screen' "$cli" report Tables --filter 3
 check "report all in both dialects" 0 '04_Tentcard_.*\.csv' "$cli" report --all
 check "report writes PDF" 0 "^$home/Reports/01_Contacts_[0-9_-]+\.pdf$" "$cli" report Contacts --format pdf --portrait
@@ -283,6 +283,44 @@ check "ics into a missing folder" 1 'was not written' "$cli" ics --out "$home/no
 check "the calendar of two months" 0 '09_Calendar_.*\.csv$' "$cli" report Events --filter 2 --months 2027-05:2027-06 --format csv
 check "a calendar of no months" 2 '--months takes the calendar' "$cli" report Events --filter 2 --months 2027-13:2027-01
 check "the timeline of the wedding day" 0 '10_Timeline_.*\.rtf$' "$cli" report Timelines --filter 1
+# The budget in cents and the thank-you notes: figures a script can add up, all or none.
+check "budget lists the categories and the totals" 0 '^"Totals",[0-9]+\.[0-9]{2},' "$cli" budget
+check "budget takes no arguments" 2 'takes no arguments' "$cli" budget extra
+check "every actual is due plus paid" 0 '^ok$' bash -c "\"$cli\" budget | awk -F, 'NR > 1 && \$5 * 100 != \$3 * 100 + \$4 * 100 { bad = 1 } END { print bad ? \"bad\" : \"ok\" }'"
+check "estimates vs. actuals as CSV" 0 "^$home/Reports/07_BudgetEstimatesActuals_.*\.csv$" "$cli" report Budget --filter 99 --format csv
+check "its totals are plain numbers" 0 '^"Totals:","[0-9]+\.[0-9]{2}","100\.00%","[0-9]+\.[0-9]{2}"' cat "$(ls -t "$home"/Reports/07_BudgetEstimatesActuals_*.csv | head -1)"
+check "budget by payer as CSV" 0 "^$home/Reports/07_BudgetPaidBy_.*\.csv$" "$cli" report Budget --filter 98 --format csv
+check "a subtotal per payer" 0 "^\"Subtotal Bride's Family\",\"[0-9]+\\.[0-9]{2}\"" cat "$(ls -t "$home"/Reports/07_BudgetPaidBy_*.csv | head -1)"
+gift=$(value "SELECT MIN(GIFT_ID) FROM GIFT")
+check "thank-you marks a note sent" 0 "^Thank-you notes sent: $gift$" "$cli" thank-you "$gift"
+check "the note is sent" 0 '^Y$' value "SELECT THANK_YOU_SENT_FG FROM GIFT WHERE GIFT_ID = $gift"
+check "thank-you --unsent takes it back" 0 "^Thank-you notes unsent: $gift$" "$cli" thank-you --unsent "$gift"
+check "an unknown gift changes nothing" 1 'there is no gift 99999\. Nothing was changed' "$cli" thank-you "$gift" 99999
+check "the known one of them stays unsent" 0 '^N$' value "SELECT THANK_YOU_SENT_FG FROM GIFT WHERE GIFT_ID = $gift"
+check "thank-you needs keys" 2 'usage: thank-you' "$cli" thank-you
+# The invitation wording and the playlists.
+saved_wording() { "$cli" sql "SELECT WORDING_TX FROM WORDING WHERE WORDING_ID = 1" | md5sum; }
+wording_before=$(saved_wording)
+check "wording starts with an empty line" 0 '^$' sh -c "\"$cli\" wording | head -1"
+check "wording by the stored choices" 0 '^the son of$' "$cli" wording
+check "wording spells the year" 0 '^Two thousand and [a-z-]+$' "$cli" wording
+check "wording of another template" 0 '^at the Nuptial Mass uniting their daughter$' "$cli" wording --template 12 --phrase 1
+check "wording with a place of two lines" 0 '^St\. "Ann" & <Hall>$' "$cli" wording --place $'St. "Ann" & <Hall>\nSalem' --no-reception
+check "wording without reception" 1 '' sh -c "\"$cli\" wording --no-reception | grep -q 'Reception to follow'"
+check "wording with a bad template" 2 '--template takes 0 to 18' "$cli" wording --template 19
+check "wording with both reception options" 2 'exclude each other' "$cli" wording --reception X --no-reception
+check "wording changes nothing" 0 "^$wording_before\$" saved_wording
+check "wording --save" 0 '^Reception to follow$' "$cli" wording --save --reception 'The Barn'
+check "the saved wording" 0 'The Barn' "$cli" sql "SELECT WORDING_TX FROM WORDING WHERE WORDING_ID = 1"
+check "playlist of every song" 0 '/Playlists/All_Songs\.wpl$' "$cli" playlist --all
+check "playlist of a list into a file" 0 "^$home/c&d.wpl\$" "$cli" playlist Ceremony --out "$home/c&d.wpl"
+check "the playlist counts its songs" 0 '<meta name="ItemCount" content="[0-9]+"/>' cat "$home/c&d.wpl"
+check "playlist of an unknown list" 1 'there is no songlist "Nope"' "$cli" playlist Nope
+check "playlist without a list" 2 'usage: playlist SONGLIST' "$cli" playlist
+check "playlist into a folder that is a file" 1 'could not be written' "$cli" playlist --all --out "$home/c&d.wpl/x.wpl"
+if command -v xmllint >/dev/null; then
+    check "the playlist is XML" 0 '' xmllint --noout "$home/Playlists/All_Songs.wpl"
+fi
 
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init

@@ -54,47 +54,51 @@ private slots:
 
     void sumsPerCategory_data() {
         QTest::addColumn<QString>("category");
-        QTest::addColumn<double>("actual");
-        QTest::addColumn<double>("due");
-        QTest::addColumn<double>("paid");
-        QTest::newRow("stationery") << kStationery << 200.50 << 120.50 << 80.0;
-        QTest::newRow("fashion") << kFashion << 1799.99 << 299.99 << 1500.0;
-        QTest::newRow("honeymoon, nothing yet") << kHoneymoon << 0.0 << 0.0 << 0.0;
-        QTest::newRow("all categories") << QString() << 2300.49 << 720.49 << 1580.0;
+        QTest::addColumn<QString>("actual");
+        QTest::addColumn<QString>("due");
+        QTest::addColumn<QString>("paid");
+        QTest::newRow("stationery") << kStationery << "200.50" << "120.50" << "80.00";
+        QTest::newRow("fashion") << kFashion << "1799.99" << "299.99" << "1500.00";
+        QTest::newRow("honeymoon, nothing yet") << kHoneymoon << "0.00" << "0.00" << "0.00";
+        QTest::newRow("all categories") << QString() << "2300.49" << "720.49" << "1580.00";
     }
     void sumsPerCategory() {
         QFETCH(QString, category);
-        QFETCH(double, actual);
-        QFETCH(double, due);
-        QFETCH(double, paid);
+        QFETCH(QString, actual);
+        QFETCH(QString, due);
+        QFETCH(QString, paid);
         AddLedger();
-        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumActual(category), actual);
-        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumDue(category), due);
-        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumPaid(category), paid);
-        QVERIFY(qAbs(clsBUDGET_CATEGORY_DICT::TotalSumDue(category) +
-                     clsBUDGET_CATEGORY_DICT::TotalSumPaid(category) -
-                     clsBUDGET_CATEGORY_DICT::TotalSumActual(category)) < 1e-9);
+        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumActual(category).Stored(), actual);
+        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumDue(category).Stored(), due);
+        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumPaid(category).Stored(), paid);
+        // The one query of the page's grid gives the same figures.
+        for (const clsBudgetCategorySums& sums : clsBUDGET_CATEGORY_DICT::OpenSums()) {
+            if (sums.BUDGET_CATEGORY_ID == category) {
+                QCOMPARE(sums.Actual().Stored(), actual);
+                QCOMPARE(sums.Due.Stored(), due);
+            }
+        }
     }
 
     void sumsPerPayer_data() {
         QTest::addColumn<QString>("payer");
-        QTest::addColumn<double>("sum");
-        QTest::newRow("bride") << kBride << 420.49;
-        QTest::newRow("bride's family") << kBridesFamily << 1800.0;
-        QTest::newRow("no payer") << "" << 0.0;
+        QTest::addColumn<QString>("sum");
+        QTest::newRow("bride") << kBride << "420.49";
+        QTest::newRow("bride's family") << kBridesFamily << "1800.00";
+        QTest::newRow("no payer") << "" << "0.00";
     }
     void sumsPerPayer() {
         QFETCH(QString, payer);
-        QFETCH(double, sum);
+        QFETCH(QString, sum);
         AddLedger();
-        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumByPaidBy(payer), sum);
+        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumByPaidBy(payer).Stored(), sum);
     }
 
     void estimatesAndTheirShares() {
-        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumEstimates(), 0.0);
+        QVERIFY(clsBUDGET_CATEGORY_DICT::TotalSumEstimates().IsZero());
         // With no estimates every share is 0, never a division by zero.
-        QCOMPARE(clsBUDGET_CATEGORY_DICT::GetESTIMATE_PERCENT(0.0, 0.0), 0.0);
-        QCOMPARE(clsBUDGET_CATEGORY_DICT::GetESTIMATE_PERCENT(500.0, 0.0), 0.0);
+        QCOMPARE(clsBUDGET_CATEGORY_DICT::GetESTIMATE_PERCENT({}, {}), 0.0);
+        QCOMPARE(clsBUDGET_CATEGORY_DICT::GetESTIMATE_PERCENT(clsMoney::FromCents(50000), {}), 0.0);
 
         const QList<QPair<QString, QString>> estimates = {
             {kStationery, "400"}, {kFashion, "2500.75"}, {kFlowers, "1099.25"}};
@@ -104,18 +108,18 @@ private slots:
             category.ESTIMATE_AMOUNT_NB = amount;
             category.Save(false);
         }
-        const double total = clsBUDGET_CATEGORY_DICT::TotalSumEstimates();
-        QCOMPARE(total, 4000.0);
+        const clsMoney total = clsBUDGET_CATEGORY_DICT::TotalSumEstimates();
+        QCOMPARE(total.Cents(), 400000);
         clsBUDGET_CATEGORY_DICT fashion;
         QVERIFY(fashion.OpenRecord(kFashion));
         QCOMPARE(fashion.BUDGET_CATEGORY_TX, QStringLiteral("Fashion"));
-        QCOMPARE(fashion.ESTIMATE_AMOUNT_NB_DOUBLE(), 2500.75);
-        QCOMPARE(clsBUDGET_CATEGORY_DICT::GetESTIMATE_PERCENT(fashion.ESTIMATE_AMOUNT_NB_DOUBLE(), total),
+        QCOMPARE(fashion.Estimate().Cents(), 250075);
+        QCOMPARE(clsBUDGET_CATEGORY_DICT::GetESTIMATE_PERCENT(fashion.Estimate(), total),
                  2500.75 / 4000.0);
         double shares = 0;
         for (const clsBUDGET_CATEGORY_DICT& category : clsBUDGET_CATEGORY_DICT().OpenRecords())
             shares +=
-                clsBUDGET_CATEGORY_DICT::GetESTIMATE_PERCENT(category.ESTIMATE_AMOUNT_NB_DOUBLE(), total);
+                clsBUDGET_CATEGORY_DICT::GetESTIMATE_PERCENT(category.Estimate(), total);
         QVERIFY(qAbs(shares - 1.0) < 1e-12);
     }
 
@@ -201,7 +205,7 @@ private slots:
         QCOMPARE(again.VENDOR_NM, QStringLiteral("Bloom & Co"));
         QCOMPARE(again.BUDGET_CATEGORY_TX, QStringLiteral("Flowers"));
         QCOMPARE(again.PAID_BY_TX, QStringLiteral("Bride's Family"));
-        QCOMPARE(again.ACTUAL_AMOUNT_NB_DOUBLE(), 300.25);
+        QCOMPARE(again.Amount().Cents(), 30025);
         QCOMPARE(again.DUE_DT_DDMMMYYYY(), QStringLiteral("01-Jun-2027"));
         QCOMPARE(again.PAID_DT_DDMMMYYYY(), QStringLiteral("02-Jun-2027"));
     }
@@ -212,7 +216,7 @@ private slots:
         clsBUDGET again;
         QVERIFY(again.OpenRecord(expense.BUDGET_ID));
         QCOMPARE(again.BUDGET_CATEGORY_TX, QStringLiteral("(none)"));
-        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumActual(), 50.0);
+        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumActual().Cents(), 5000);
     }
 
     void aCategoryInUseCannotBeDeletedAlone() {
@@ -237,7 +241,7 @@ private slots:
         QCOMPARE(PlanningDatabase::Count("BUDGET_CATEGORY_DICT"), QStringLiteral("9"));
         QCOMPARE(Names(clsBUDGET().OpenRecordsByCategory(clsBUDGET::AllExpenses)),
                  QStringList({"Bouquet", "Invitations", "Save the dates"}));
-        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumActual(), 500.50);
+        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumActual().Cents(), 50050);
         QVERIFY(db->Messages().Prompts.isEmpty());
     }
 

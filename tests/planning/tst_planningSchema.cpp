@@ -117,7 +117,7 @@ private slots:
                  QStringLiteral("5:3:4:2027-06-05 13:5:4:2027-04-01 17:10:4:2027-06-05 27:9:4:2027-06-05"));
 
         // The patched table works with the record class like a new one.
-        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumByPaidBy("4"), 620.0);
+        QCOMPARE(clsBUDGET_CATEGORY_DICT::TotalSumByPaidBy("4").Cents(), 62000);
         const QList<clsBUDGET> lines = clsBUDGET().OpenRecordsByCategory(clsBUDGET::AllExpenses);
         QCOMPARE(lines.size(), 4);
         QCOMPARE(lines.first().BUDGET_CATEGORY_TX, QStringLiteral("Ceremony"));

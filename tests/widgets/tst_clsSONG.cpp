@@ -173,6 +173,24 @@ private slots:
         QCOMPARE(player.CurrentSongIndex(), 1);
     }
 
+    // Moving keeps each song's number; trading places swaps the two numbers; removing leaves no row.
+    void workOnSeveralSongs() {
+        const QString ceremony =
+            TestDatabase::Scalar("SELECT SONGLIST_ID FROM SONGLIST_DICT WHERE SONGLIST_TX = 'Ceremony'");
+        const QString reception =
+            TestDatabase::Scalar("SELECT SONGLIST_ID FROM SONGLIST_DICT WHERE SONGLIST_TX = 'Reception'");
+        clsSONG::AddSongs({"/m/a.mp3", "/m/b.mp3", "/m/c.mp3"}, ceremony);
+        clsSONG::MoveToSonglist({"1", "3"}, reception);
+        QCOMPARE(TestDatabase::Scalar("SELECT GROUP_CONCAT(SONG_ID || ':' || SORT_ORDER_NB) FROM SONG "
+                                      "WHERE SONGLIST_ID = ? ORDER BY SONG_ID",
+                                      {reception}),
+                 QStringLiteral("1:1,3:3"));
+        const QList<clsSONG> moved = clsSONG::OpenRecords(reception);
+        clsSONG::SwapSort(moved.at(0), moved.at(1));
+        QCOMPARE(Names(clsSONG::OpenRecords(reception)), (QStringList{"c.mp3", "a.mp3"}));
+        clsSONG::DeleteSongs({"1", "2"});
+        QCOMPARE(TestDatabase::Scalar("SELECT GROUP_CONCAT(SONG_ID) FROM SONG"), QStringLiteral("3"));
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_clsSONG)

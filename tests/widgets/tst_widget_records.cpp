@@ -152,6 +152,30 @@ private slots:
         QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM INVITE_WIDGET"), QStringLiteral("0"));
     }
 
+    // A contact's row leaves INVITE_ID NULL and an invitation's leaves CONTACT_ID NULL: neither may
+    // empty the other kind's candidates.
+    void candidatesAreThoseNotOnTheList() {
+        Fill();
+        clsINVITE_WIDGET::Invite("3", {"CONTACT5", "BOGUS", "CONTACT5"});
+        QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM INVITE_WIDGET"), QStringLiteral("1"));
+        QStringList invitations;
+        for (const clsINVITE_WIDGET::Candidate& c : clsINVITE_WIDGET::Candidates("3", false))
+            invitations << c.Key + ":" + c.Caption;
+        QCOMPARE(invitations, QStringList{"INVITE1:Smith, John and Mary"});
+
+        clsINVITE_WIDGET::Invite("3", {"INVITE1"});
+        QVERIFY(clsINVITE_WIDGET::Candidates("3", false).isEmpty());
+        QStringList contacts;
+        for (const clsINVITE_WIDGET::Candidate& c : clsINVITE_WIDGET::Candidates("3", true))
+            contacts << c.Key;
+        QVERIFY(contacts.contains("CONTACT6") && contacts.contains("CONTACT3"));
+        QVERIFY(!contacts.contains("CONTACT5"));
+        // Another event's list is its own.
+        QCOMPARE(clsINVITE_WIDGET::Candidates("2", false).size(), 1);
+
+        clsINVITE_WIDGET::Uninvite("3", {"CONTACT5", "INVITE1"});
+        QCOMPARE(TestDatabase::Scalar("SELECT COUNT(*) FROM INVITE_WIDGET"), QStringLiteral("0"));
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_widget_records)

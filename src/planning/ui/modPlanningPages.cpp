@@ -1,5 +1,6 @@
 #include "planning/ui/modPlanningPages.h"
 
+#include "planning/ui/modBudgetPages.h"
 #include "planning/ui/modChecklistPages.h"
 #include "planning/ui/modEventPages.h"
 
@@ -7,6 +8,7 @@
 #include "shell/modScreenshots.h"
 
 void RegisterPlanningPages() {
+    RegisterBudgetPages();
     RegisterChecklistPages();
     RegisterEventPages();
 }

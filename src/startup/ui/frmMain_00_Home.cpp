@@ -271,11 +271,11 @@ void frmMain_00_Home::FillCounts() {
     SetCard(6, QString::number(app.TotalTasks(1)) + QStringLiteral(" open tasks"),
             QString::number(app.TotalTasks(2)) + QStringLiteral(" completed tasks"));
 
-    const double estimated = clsBUDGET_CATEGORY_DICT::TotalSumEstimates();
-    const double actual = clsBUDGET_CATEGORY_DICT::TotalSumActual();
-    SetCard(7, mdiMain::CurrencyText(estimated), mdiMain::CurrencyText(actual) + QStringLiteral(" actual"));
-    lblBudgetPlusMinus->setText(QStringLiteral("+/-  ") + mdiMain::CurrencyText(estimated - actual));
-    lblBudgetPlusMinus->setProperty("role", estimated - actual < 0 ? "negative" : "sub");
+    const clsMoney estimated = clsBUDGET_CATEGORY_DICT::TotalSumEstimates();
+    const clsMoney actual = clsBUDGET_CATEGORY_DICT::TotalSumActual();
+    SetCard(7, estimated.Text(), actual.Text() + QStringLiteral(" actual"));
+    lblBudgetPlusMinus->setText(QStringLiteral("+/-  ") + (estimated - actual).Text());
+    lblBudgetPlusMinus->setProperty("role", (estimated - actual).IsNegative() ? "negative" : "sub");
     lblBudgetPlusMinus->style()->unpolish(lblBudgetPlusMinus);
     lblBudgetPlusMinus->style()->polish(lblBudgetPlusMinus);
 

@@ -362,7 +362,7 @@ QWidget* frmMain_00_Welcome::BuildBudget() {
     usrNumber->setAllowNegation(false);
     usrNumber->setMinimumValue(0);
     usrNumber->setMaximumWidth(220);
-    usrNumber->setValue(RecordIO::Read([] { return clsBUDGET_CATEGORY_DICT::TotalSumEstimates(); }));
+    usrNumber->setValue(RecordIO::Read([] { return clsBUDGET_CATEGORY_DICT::TotalSumEstimates().ToDouble(); }));
     caption->setBuddy(usrNumber);
     connect(usrNumber, &usrNumberBox::Change, this, &frmMain_00_Welcome::FillEstimates);
     connect(usrNumber, &QLineEdit::returnPressed, this, &frmMain_00_Welcome::OnContinue);
