@@ -41,6 +41,13 @@ bool StartForReading(QTextStream& err);
 // Prints every table with its seats taken, "Table #n: t of s seats taken"; the exit status.
 int ListTables(QTextStream& out, QTextStream& err);
 
+// Runs the work, printing a refusal of the database on err followed by "Nothing was changed."; the exit status.
+int Guarded(const QString& command, QTextStream& err, const std::function<int()>& work);
+
+// `seat` without --table: every attendee seated by the seating rules, or the score of the chart as it is.
+int RunAutoSeat(const QStringList& args, QTextStream& out, QTextStream& err);
+QString AutoSeatUsage();
+
 // Keys and numbers on the command line: whole numbers above 0, at least one of them.
 bool AreKeys(const QStringList& keys);
 

@@ -22,6 +22,9 @@ QHash<QString, int> SeatsOfOthers() {
 }
 
 void ReadRules(SeatingInstance& instance, const QSet<QString>& attending) {
+    // A file the update has not reached yet (opened only to read) has no rules.
+    if (!gDB().TableExists(QStringLiteral("SEATING_RULE")))
+        return;
     for (const clsSEATING_RULE& rule : clsSEATING_RULE::OpenRecords()) {
         const bool first = attending.contains(rule.CONTACT_ID), other = attending.contains(rule.OTHER_CONTACT_ID);
         if (first && other) {
@@ -36,6 +39,12 @@ void ReadRules(SeatingInstance& instance, const QSet<QString>& attending) {
                                      .arg(rule.Caption(), absent,
                                           first || other ? QStringLiteral("is") : QStringLiteral("are"));
     }
+}
+
+// A guest without a name of their own is named by the host.
+QString NameOf(const clsCONTACT& c) {
+    return c.IsAnonymousGuest() ? QStringLiteral("the guest of ") + c.GUEST_OF_FULL_NM().trimmed()
+                                : c.FirstLast().trimmed();
 }
 
 } // namespace
@@ -53,7 +62,7 @@ SeatingInstance ReadInstance() {
                                 others.value(table.DINING_TABLE_ID)});
     QSet<QString> attending;
     for (const clsCONTACT& c : clsCONTACT::OpenRecords(ContactFilter::Attending)) {
-        instance.People.append({c.CONTACT_ID, c.FirstLast().trimmed(), c.INVITE_ID, c.GUEST_OF_ID,
+        instance.People.append({c.CONTACT_ID, NameOf(c), c.INVITE_ID, c.GUEST_OF_ID,
                                 c.FRIEND_OF_CD.toInt(), c.DINING_TABLE_ID});
         attending.insert(c.CONTACT_ID);
     }
