@@ -81,21 +81,26 @@ SeatingChart MeasureCurrent() {
     return clsSeater(ReadInstance()).Measure();
 }
 
-modSeating::Seats Apply(const SeatingChart& chart) {
-    clsTransaction tx(gDB());
-    modSeating::Seats before, after;
+SeatChanges Changes(const SeatingChart& chart) {
+    SeatChanges changes;
     const clsRecordset rs = gDB().Execute(QStringLiteral("SELECT CONTACT_ID, DINING_TABLE_ID FROM CONTACT"));
     for (int row = 0; row < rs.RowCount(); ++row) {
         const QString id = rs.Value(row, 0);
         const auto seat = chart.Seats.constFind(id);
         if (seat == chart.Seats.constEnd() || *seat == rs.Value(row, 1))
             continue;
-        before.insert(id, rs.Value(row, 1));
-        after.insert(id, *seat);
+        changes.Before.insert(id, rs.Value(row, 1));
+        changes.After.insert(id, *seat);
     }
-    modSeating::RestoreSeats(after);
+    return changes;
+}
+
+modSeating::Seats Apply(const SeatingChart& chart) {
+    clsTransaction tx(gDB());
+    const SeatChanges changes = Changes(chart);
+    modSeating::RestoreSeats(changes.After);
     tx.Commit();
-    return before;
+    return changes.Before;
 }
 
 } // namespace modAutoSeat

@@ -16,6 +16,11 @@ SeatingInstance ReadInstance();
 SeatingChart Propose(const SeaterOptions& options);
 // The chart as the guests sit now, by the same score and the same hard rules.
 SeatingChart MeasureCurrent();
+// The seats the chart changes: where those people sit now, and where the chart puts them.
+struct SeatChanges {
+    modSeating::Seats Before, After;
+};
+SeatChanges Changes(const SeatingChart& chart);
 // Writes every attendee's seat of the chart in one transaction; gives where the people who move sat
 // before, for undoing. Throws clsDbError (the file in use, say), and then nothing is written.
 modSeating::Seats Apply(const SeatingChart& chart);

@@ -11,6 +11,7 @@
 #include "seating/ui/modTableShapes.h"
 #include "seating/ui/usrDiningTable.h"
 #include "seating/ui/usrFloorPlan.h"
+#include "seating/ui/usrSeatingRules.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/mdiMain.h"
 #include "shell/modPages.h"
@@ -182,6 +183,7 @@ frmMain_04_Attendees_Tables::frmMain_04_Attendees_Tables(QWidget* parent) : usrP
     auto* split = new QSplitter(this);
     split->addWidget(BuildLeft());
     split->addWidget(picFloor);
+    split->addWidget(new usrSeatingRules(this));
     split->setStretchFactor(1, 1);
     split->setSizes({300, 980});
     auto* layout = new QHBoxLayout(this);
@@ -643,6 +645,11 @@ bool frmMain_04_Attendees_Tables::ApplySeats(const modSeating::Seats& seats) {
         ShowSeat(it.key(), it.value());
     RefreshCounts();
     return true;
+}
+
+void frmMain_04_Attendees_Tables::PushSeatsStep(const modSeating::Seats& before, const modSeating::Seats& after,
+                                                const QString& text) {
+    mUndo->push(new clsSeatsCommand(this, before, after, text));
 }
 
 void frmMain_04_Attendees_Tables::OnGuestsDroppedOnTable(usrDiningTable* table, const QStringList& ids,

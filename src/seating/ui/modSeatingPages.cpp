@@ -6,6 +6,7 @@
 #include "seating/ui/frmMain_04_Attendees_Tentcards.h"
 #include "seating/ui/frmTable.h"
 #include "seating/ui/frmTableSwap.h"
+#include "seating/ui/usrSeatingRules.h"
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
 
@@ -62,4 +63,5 @@ void RegisterSeatingPages() {
     modPages::RegisterSubPage(modPages::TentcardsSubPage(),
                               [](QWidget* parent) { return new frmMain_04_Attendees_Tentcards(parent); });
     RegisterScreenshots();
+    RegisterAutoSeatScreenshots();
 }
