@@ -196,11 +196,19 @@ struct clsSeater::Impl {
 
     // ---- Pins: people already seated stay there ---------------------------------------------------------
 
+    // Households as the invitations make them, then, with keepSeated, split where people already sit.
     void PinSeated(bool keepSeated) {
-        for (Unit& unit : Units)
-            unit.Pinned = kNotPinned;
-        if (!keepSeated)
-            return;
+        Units.clear();
+        BuildUnits();
+        if (keepSeated)
+            SplitBySeats();
+        KeepPairs.clear();
+        ApartPairs.clear();
+        RuleNotes.clear();
+        ReadRules();
+    }
+
+    void SplitBySeats() {
         std::vector<int> used(TableCount, 0);
         std::vector<Unit> added;
         for (Unit& unit : Units) {
@@ -231,7 +239,7 @@ struct clsSeater::Impl {
                 used[part.Pinned] += part.Size;
             if (rest.Size > 0) {
                 rest.Pinned = Unseated;
-                rest.StuckReason = QStringLiteral("the rest of their invitation already sits at table %1")
+                rest.StuckReason = QStringLiteral("the rest of their invitation sits at table %1, which has no seat left for them")
                                        .arg(SlotCaption(parts.front().Pinned));
                 parts.push_back(rest);
             }
@@ -258,11 +266,6 @@ struct clsSeater::Impl {
         for (int u = 0; u < int(Units.size()); ++u)
             for (int p : Units[u].Members)
                 UnitOf[p] = u;
-        // The units changed: the rules are read again onto them.
-        KeepPairs.clear();
-        ApartPairs.clear();
-        RuleNotes.clear();
-        ReadRules();
     }
 
     // ---- The state ---------------------------------------------------------------------------------------

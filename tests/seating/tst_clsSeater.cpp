@@ -90,7 +90,7 @@ private slots:
             << "tables 2 2; home a; home b; home c; sits a 2; T a b 10" << true << 10 << 3 << 0 << "a b" << "";
         QTest::newRow("a seated household's rest has no seat left")
             << "tables 2 2; home a b c; sits a 1; sits b 1" << true << 0 << 2 << 0 << "a b"
-            << "already sits at table #1";
+            << "sits at table #1, which has no seat left";
         QTest::newRow("no tables")
             << "home a" << false << 0 << 0 << 0 << "" << "there are no tables";
     }
