@@ -5,6 +5,7 @@
 #include <QSet>
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <cmath>
 #include <numeric>
 #include <random>
@@ -362,39 +363,38 @@ struct clsSeater::Impl {
 
     // ---- Moves -----------------------------------------------------------------------------------------
 
-    // Moves u to slot b and, when v >= 0, v to u's slot; false (and nothing changed) when a hard rule would
-    // break or the search declines the change at this temperature.
-    bool TryChange(int u, int b, int v, double temperature) {
-        const int a = At[u];
-        if (a == b || (v >= 0 && At[v] != b))
-            return false;
-        const int sizeU = Units[u].Size, sizeV = v >= 0 ? Units[v].Size : 0;
-        if (Free[b] + sizeV < sizeU || (v >= 0 && Free[a] + sizeU < sizeV))
-            return false;
-        if (!ApartAllows(u, b, v) || (v >= 0 && !ApartAllows(v, a, u)))
-            return false;
-        const long scoreDelta = GainAt(u, b, v) - GainAt(u, a, v) + (v >= 0 ? GainAt(v, a, u) - GainAt(v, b, u) : 0);
+    using Moves = std::initializer_list<std::pair<int, int>>; // (unit, slot), made in turn
+
+    // Makes the moves, then keeps them when every hard rule holds and the search accepts the change at this
+    // temperature; otherwise undoes them and gives false.
+    bool TryMoves(Moves moves, double temperature) {
+        std::array<std::pair<int, int>, 3> made{}; // (unit, the slot it left)
+        int count = 0;
         const int seatedBefore = Seated;
         const long friendsBefore = Friends;
-        TakeOut(u);
-        if (v >= 0)
-            TakeOut(v);
-        PutIn(u, b);
-        if (v >= 0)
-            PutIn(v, a);
+        long scoreDelta = 0;
+        for (const auto& [u, slot] : moves) {
+            made[count++] = {u, At[u]};
+            scoreDelta += GainAt(u, slot) - GainAt(u, At[u]);
+            TakeOut(u);
+            PutIn(u, slot);
+        }
+        bool accept = true;
+        for (int i = 0; i < count && accept; ++i) {
+            const int u = made[i].first;
+            accept = Free[At[u]] >= 0 && ApartAllows(u, At[u]);
+        }
         const int seatedDelta = Seated - seatedBefore;
-        bool accept = seatedDelta > 0;
-        if (seatedDelta == 0) {
+        if (accept && seatedDelta <= 0) {
             const double delta = double(scoreDelta) + FriendEpsilon * double(Friends - friendsBefore);
-            accept = delta >= 0 || (temperature > 0 && Uniform() < std::exp(delta / temperature));
+            accept = seatedDelta == 0 &&
+                     (delta >= 0 || (temperature > 0 && Uniform() < std::exp(delta / temperature)));
         }
         if (!accept) {
-            TakeOut(u);
-            if (v >= 0)
-                TakeOut(v);
-            PutIn(u, a);
-            if (v >= 0)
-                PutIn(v, b);
+            for (int i = count - 1; i >= 0; --i) {
+                TakeOut(made[i].first);
+                PutIn(made[i].first, made[i].second);
+            }
             return false;
         }
         Score += scoreDelta;
@@ -409,28 +409,30 @@ struct clsSeater::Impl {
         return list.empty() ? -1 : list[Pick(int(list.size()))];
     }
 
-    // One step of the annealing: towards a partner, to a random table, or a swap with a random household.
+    // One step of the annealing: a household towards a partner or to a random table; when that table has no
+    // room, a swap with one of its households or that household moved on to a third table; or a swap of
+    // two random households.
     void Step(double temperature) {
         const int u = Movable[Pick(int(Movable.size()))];
+        const int from = At[u];
         const double r = Uniform();
-        int b = -1;
-        if (r < 0.5 && !Together[u].empty()) {
-            b = At[Together[u][Pick(int(Together[u].size()))].first];
-        } else if (r < 0.8 && TableCount > 0) {
-            b = Pick(TableCount);
-        } else {
+        if (r >= 0.8) {
             const int v = Movable[Pick(int(Movable.size()))];
-            if (v != u)
-                TryChange(u, At[v], v, temperature);
+            if (At[v] != from)
+                TryMoves({{u, At[v]}, {v, from}}, temperature);
             return;
         }
-        if (!IsTable(b) || b == At[u])
+        int b = r < 0.5 && !Together[u].empty() ? At[Together[u][Pick(int(Together[u].size()))].first] : -1;
+        if (!IsTable(b) || b == from)
             b = Pick(TableCount);
-        if (TryChange(u, b, -1, temperature))
+        if (b == from || TryMoves({{u, b}}, temperature))
             return;
         const int v = RandomUnitAt(b);
-        if (v >= 0)
-            TryChange(u, b, v, temperature);
+        if (v < 0)
+            return;
+        const int c = Uniform() < 0.5 ? from : Pick(TableCount);
+        if (c != b)
+            TryMoves({{u, b}, {v, c}}, temperature);
     }
 
     // ---- The search --------------------------------------------------------------------------------------
@@ -470,20 +472,30 @@ struct clsSeater::Impl {
         for (int pass = 0; pass < 4 && goOn(); ++pass) {
             bool improved = false;
             for (int u : Movable) {
-                for (int t = 0; t < TableCount; ++t) {
-                    const int from = At[u];
-                    const Quality before = Now();
-                    if (!TryChange(u, t, -1, 0))
-                        continue;
-                    if (Now() > before)
-                        improved = true;
-                    else
-                        TryChange(u, from, -1, 0); // only as good: back, so that the passes end
-                }
+                for (int t = 0; t < TableCount; ++t)
+                    improved = TryBetter({{u, t}}, {{u, At[u]}}) || improved;
             }
+            // Swaps of every two households, where there are few enough.
+            for (size_t i = 0; i < Movable.size() && Movable.size() <= 400; ++i)
+                for (size_t j = i + 1; j < Movable.size(); ++j) {
+                    const int u = Movable[i], v = Movable[j], a = At[u], b = At[v];
+                    if (a != b)
+                        improved = TryBetter({{u, b}, {v, a}}, {{v, b}, {u, a}}) || improved;
+                }
             if (!improved)
                 break;
         }
+    }
+
+    // Keeps the moves only when they make the chart strictly better; back is how to undo them.
+    bool TryBetter(Moves moves, Moves back) {
+        const Quality before = Now();
+        if (!TryMoves(moves, 0))
+            return false;
+        if (Now() > before)
+            return true;
+        TryMoves(back, 0); // only as good: back, so that the passes end
+        return false;
     }
 
     SeatingChart Search(const SeaterOptions& options) {
@@ -496,19 +508,21 @@ struct clsSeater::Impl {
         Quality bestQuality = Now();
         const qint64 budget =
             options.Moves > 0 ? options.Moves
-                              : std::clamp<qint64>(qint64(Movable.size()) * 2000, 200000, 40000000);
+                              : std::clamp<qint64>(qint64(Movable.size()) * 10000, 1000000, 200000000);
         bool cancelled = false, outOfTime = false;
         qint64 moves = 0;
         const double hottest = StartTemperature();
-        const int rounds = 3;
+        const int rounds = 4;
         const bool anyChoice = !Movable.empty() && TableCount > 0;
         for (int round = 0; round < rounds && !cancelled && !outOfTime && anyChoice; ++round) {
             if (round > 0)
                 Restore(best);
             const qint64 roundMoves = budget / rounds;
-            const double start = hottest / (1 + 3 * round), end = 0.02;
-            for (qint64 i = 0; i < roundMoves; ++i, ++moves) {
-                Step(start * std::pow(end / start, double(i) / double(roundMoves)));
+            const double start = round == 0 ? hottest : hottest / (2 * round), end = 0.02;
+            const double cooling = std::pow(end / start, 1.0 / double(roundMoves));
+            double temperature = start;
+            for (qint64 i = 0; i < roundMoves; ++i, ++moves, temperature *= cooling) {
+                Step(temperature);
                 if (Now() > bestQuality) {
                     bestQuality = Now();
                     best = At;

@@ -39,6 +39,7 @@ SeatingChart Seat(const SeatingInstance& in, bool keepSeated = false, quint64 se
     options.KeepSeated = keepSeated;
     options.Seed = seed;
     options.Seconds = 30;
+    options.Moves = 100000; // plenty for weddings this small, and quick under the sanitizers
     return clsSeater(in).Run(options);
 }
 
