@@ -163,7 +163,7 @@ struct clsSeater::Impl {
             if (!rule.Apart)
                 pair.Weight += rule.Weight;
         }
-        QHash<QPair<int, int>, int> unitWeights;
+        QMap<QPair<int, int>, int> unitWeights; // in order: the same seed, the same search
         Together.assign(Units.size(), {});
         Apart.assign(Units.size(), {});
         long maxWeight = 0;
@@ -674,7 +674,7 @@ struct clsSeater::Impl {
     // Units whose people sit at more than one table.
     int SplitHouseholds(const std::vector<int>& slot, QStringList& problems) const {
         int split = 0;
-        QHash<int, QSet<int>> tablesOfUnit;
+        QMap<int, QSet<int>> tablesOfUnit;
         for (int p = 0; p < int(slot.size()); ++p)
             if (IsTable(slot[p]))
                 tablesOfUnit[Households[p]].insert(slot[p]);

@@ -226,6 +226,8 @@ before=$("$cli" seat --score)
 check "seat --score before" 0 '^\{"friend_pairs":[0-9]+,"hard_violations":0,.*"score":0,' echo "$before"
 check "seat --dry-run" 0 '^\{.*"hard_violations":0,.*"seated":[0-9]+,.*"unseated":[0-9]+,"written":false\}$' "$cli" seat --dry-run --seconds 2 --seed 3
 check "the dry run wrote nothing" 0 '' test "$before" = "$("$cli" seat --score)"
+same_seed() { "$cli" seat --dry-run --seed 11 | sed 's/"seconds":[0-9.]*,//'; }
+check "the same seed, the same chart" 0 '' test "$(same_seed)" = "$(same_seed)"
 check "seat by the rules" 0 '"hard_violations":0,.*"unseated":0,"written":true' "$cli" seat --seconds 2
 check "everyone attending is seated" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM CONTACT WHERE ATTENDING_FG = 'Y' AND DINING_TABLE_ID IS NULL"
 check "seat with a bad option" 2 'usage: seat \[--keep-seated\]' "$cli" seat --seconds 0

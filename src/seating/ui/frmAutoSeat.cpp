@@ -19,19 +19,38 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QSplitter>
 #include <QThread>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
-// The proposal's floor is drawn this many times wider than the table layout, so that the names fit.
-constexpr qreal kSpread = 4;
 constexpr qreal kTableSide = 40;
 constexpr qreal kNamesWidth = 120;
+// Two tables stand at least this far apart on the proposal's floor, so that the names under them fit.
+constexpr qreal kRoomPerTable = 210;
+
+QPointF PixelsOf(const clsDINING_TABLE& table) {
+    return {table.POS_X.toDouble() / modSeating::kTwipsPerPixel, table.POS_Y.toDouble() / modSeating::kTwipsPerPixel};
+}
+
+// How much wider than the table layout the proposal's floor is drawn: the closest two tables get room.
+qreal Spread(const QList<clsDINING_TABLE>& tables) {
+    qreal closest = 0;
+    for (qsizetype i = 0; i < tables.size(); ++i)
+        for (qsizetype j = i + 1; j < tables.size(); ++j) {
+            const QPointF d = PixelsOf(tables[i]) - PixelsOf(tables[j]);
+            const qreal apart = std::max(std::abs(d.x()), std::abs(d.y()));
+            if (apart > 0 && (closest == 0 || apart < closest))
+                closest = apart;
+        }
+    return closest > 0 ? std::max<qreal>(1, kRoomPerTable / closest) : 1;
+}
 
 QPixmap TablePicture(int shape) {
     QPixmap picture(QSize(qRound(kTableSide), qRound(kTableSide)));
@@ -201,6 +220,7 @@ void frmAutoSeat::ShowProposal() {
                           .arg(mChart.HardViolations)
                           .arg(mChart.FriendPairs)
                           .arg(mChart.Seconds, 0, 'f', 1));
+    prgSeat->setValue(prgSeat->maximum());
     txtExplanation->setPlainText(mChart.Explanation());
     DrawFloor();
     ShowState();
@@ -213,9 +233,15 @@ void frmAutoSeat::DrawFloor() {
     QHash<QString, const SeatedTable*> seated;
     for (const SeatedTable& table : mChart.Tables)
         seated.insert(table.TableId, &table);
+    const qreal spread = Spread(tables);
+    QPointF origin(0, 0);
+    if (!tables.isEmpty()) {
+        origin = PixelsOf(tables.first());
+        for (const clsDINING_TABLE& table : tables)
+            origin = QPointF(std::min(origin.x(), PixelsOf(table).x()), std::min(origin.y(), PixelsOf(table).y()));
+    }
     for (const clsDINING_TABLE& table : tables) {
-        const QPointF at(table.POS_X.toDouble() / modSeating::kTwipsPerPixel * kSpread,
-                         table.POS_Y.toDouble() / modSeating::kTwipsPerPixel * kSpread);
+        const QPointF at = (PixelsOf(table) - origin) * spread + QPointF(8, 8);
         const SeatedTable* guests = seated.value(table.DINING_TABLE_ID);
         auto* picture = mFloor->addPixmap(TablePicture(table.DINING_TABLE_TYPE_ID.toInt()));
         picture->setPos(at + QPointF((kNamesWidth - kTableSide) / 2, 0));
@@ -230,6 +256,18 @@ void frmAutoSeat::DrawFloor() {
         if (guests)
             names->setToolTip(guests->Reasons.join(QLatin1Char('\n')));
     }
+    mFloor->setSceneRect(mFloor->itemsBoundingRect().adjusted(0, 0, 8, 8));
+    ShowTopLeft();
+}
+
+void frmAutoSeat::ShowTopLeft() {
+    picProposal->horizontalScrollBar()->setValue(picProposal->horizontalScrollBar()->minimum());
+    picProposal->verticalScrollBar()->setValue(picProposal->verticalScrollBar()->minimum());
+}
+
+void frmAutoSeat::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    ShowTopLeft();
 }
 
 void frmAutoSeat::ShowState() {

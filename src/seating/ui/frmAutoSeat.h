@@ -44,7 +44,11 @@ public:
     bool HasProposal() const { return mHasProposal; }
     const SeatingChart& Proposal() const { return mChart; }
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
+    void ShowTopLeft();
     bool ReadWedding(SeatingInstance& instance);
     SeaterOptions Options();
     void Finished();

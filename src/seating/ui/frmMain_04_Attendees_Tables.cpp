@@ -185,7 +185,7 @@ frmMain_04_Attendees_Tables::frmMain_04_Attendees_Tables(QWidget* parent) : usrP
     split->addWidget(picFloor);
     split->addWidget(new usrSeatingRules(this));
     split->setStretchFactor(1, 1);
-    split->setSizes({300, 980});
+    split->setSizes({300, 720, 260});
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
     layout->addWidget(split);

@@ -23,6 +23,7 @@ usrSeatingRules::usrSeatingRules(frmMain_04_Attendees_Tables* page) : QWidget(pa
     lvwRules->setHeaderLabels({QStringLiteral("Guests"), QStringLiteral("Rule")});
     lvwRules->setRootIsDecorated(false);
     lvwRules->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    lvwRules->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     lvwRules->header()->setStretchLastSection(false);
     auto* add = new QPushButton(QStringLiteral("Add rule…"), box);
     add->setObjectName(QStringLiteral("cmdAddRule"));
@@ -102,8 +103,33 @@ void usrSeatingRules::SeatAutomatically() {
     seater.exec();
 }
 
+namespace {
+
+// A few wishes of the couple on the demo wedding, when it has none: some pairs of attendees of different
+// invitations kept together, two kept apart.
+void DemoRules() {
+    RecordIO::Attempt([] {
+        if (!clsSEATING_RULE::OpenRecords().isEmpty())
+            return;
+        const clsRecordset rs = gDB().Execute(QStringLiteral(
+            "SELECT CONTACT_ID FROM CONTACT WHERE ATTENDING_FG = 'Y' AND CONTACT_ID > 2 AND PRIMARY_CONTACT_FG = 'Y' "
+            "ORDER BY CONTACT_ID LIMIT 16"));
+        for (int row = 0; row + 1 < rs.RowCount(); row += 2) {
+            clsSEATING_RULE rule;
+            rule.CONTACT_ID = rs.Value(row, 0);
+            rule.OTHER_CONTACT_ID = rs.Value(row + 1, 0);
+            rule.RULE_CD = row % 8 == 6 ? clsSEATING_RULE::KeepApart : clsSEATING_RULE::KeepTogether;
+            rule.WEIGHT_NB = QString::number(20 + 10 * row);
+            rule.Save(true);
+        }
+    });
+}
+
+} // namespace
+
 void RegisterAutoSeatScreenshots() {
     modScreenshots::Register(QStringLiteral("frmAutoSeat"), [] {
+        DemoRules();
         auto* seater = new frmAutoSeat;
         seater->ProposeNow();
         return seater;
