@@ -472,6 +472,8 @@ struct clsSeater::Impl {
         for (int pass = 0; pass < 4 && goOn(); ++pass) {
             bool improved = false;
             for (int u : Movable) {
+                if (!goOn())
+                    return;
                 for (int t = 0; t < TableCount; ++t)
                     improved = TryBetter({{u, t}}, {{u, At[u]}}) || improved;
             }
@@ -508,7 +510,7 @@ struct clsSeater::Impl {
         Quality bestQuality = Now();
         const qint64 budget =
             options.Moves > 0 ? options.Moves
-                              : std::clamp<qint64>(qint64(Movable.size()) * 10000, 1000000, 200000000);
+                              : std::clamp<qint64>(qint64(Movable.size()) * 10000, 1000000, 20000000);
         bool cancelled = false, outOfTime = false;
         qint64 moves = 0;
         const double hottest = StartTemperature();
@@ -527,7 +529,8 @@ struct clsSeater::Impl {
                     bestQuality = Now();
                     best = At;
                 }
-                if ((moves & 1023) == 0 && clock.elapsed() > options.Seconds * 1000) {
+                // The annealing leaves a tenth of the time for the last pass and the explanation.
+                if ((moves & 1023) == 0 && clock.elapsed() > options.Seconds * 900) {
                     outOfTime = true;
                     break;
                 }
@@ -540,7 +543,7 @@ struct clsSeater::Impl {
         }
         Restore(best);
         if (!cancelled)
-            Polish([&] { return clock.elapsed() < options.Seconds * 1000; });
+            Polish([&] { return clock.elapsed() < options.Seconds * 950; });
         SeatingChart chart = Chart(Assignment(), {});
         chart.Seconds = double(clock.nsecsElapsed()) / 1e9;
         chart.Moves = moves;

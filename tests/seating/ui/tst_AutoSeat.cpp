@@ -18,7 +18,6 @@
 #include <QtTest>
 #include <memory>
 #include <tuple>
-#include <sqlite3.h>
 
 using namespace SeatingTestData;
 using UiTestTools::Child;
@@ -150,14 +149,11 @@ private slots:
         Child<usrSeatingRules>(page, "usrSeatingRules")->ConnectSeater(seater);
         Propose(seater);
         const QString before = SeatsInDb();
-        sqlite3* other = nullptr;
-        QCOMPARE(sqlite3_open(qPrintable(gDB().DatabasePath), &other), SQLITE_OK);
-        QCOMPARE(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
-        gDB().SetBusyTimeout(20);
-        QTest::mouseClick(Child<QPushButton>(seater, "cmdApply"), Qt::LeftButton);
-        sqlite3_exec(other, "ROLLBACK", nullptr, nullptr, nullptr);
-        sqlite3_close(other);
-        gDB().SetBusyTimeout(clsDB::BusyTimeoutMs);
+        {
+            OtherWriter other;
+            QVERIFY(other.Locked);
+            QTest::mouseClick(Child<QPushButton>(seater, "cmdApply"), Qt::LeftButton);
+        }
         QCOMPARE(messages->Prompts.size(), 1);
         QVERIFY2(messages->Prompts.first().contains("in use"), qPrintable(messages->Prompts.first()));
         QCOMPARE(SeatsInDb(), before);
