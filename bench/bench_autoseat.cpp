@@ -35,7 +35,8 @@ public:
         mApart.assign(n, std::vector<bool>(n, false));
         QMap<QPair<QString, QString>, QPair<long, bool>> pairs;
         for (const SeatingRulePair& r : in.Rules) {
-            auto& pair = pairs[qMakePair(std::min(r.ContactId, r.OtherContactId), std::max(r.ContactId, r.OtherContactId))];
+            auto& pair = pairs[qMakePair(std::min(r.ContactId, r.OtherContactId),
+                                         std::max(r.ContactId, r.OtherContactId))];
             if (r.Apart)
                 pair.second = true;
             else
@@ -153,12 +154,14 @@ private:
 };
 
 void Quality(int instances) {
-    std::printf("Quality: %d random weddings of 12 to 30 attendees at 3 to 6 tables, 5 to 40 rules\n", instances);
+    std::printf("Quality: %d random weddings of 12 to 30 attendees at 3 to 6 tables, 5 to 40 rules\n",
+                instances);
     int optimal = 0, proven = 0;
     double worst = 1, slowest = 0;
     for (int i = 0; i < instances; ++i) {
         const quint64 seed = 1000 + i;
-        const int people = 12 + int(seed * 7 % 19), tables = 3 + int(seed % 4), rules = 5 + int(seed * 13 % 36);
+        const int people = 12 + int(seed * 7 % 19), tables = 3 + int(seed % 4),
+                  rules = 5 + int(seed * 13 % 36);
         const SeatingInstance in = SeaterTestData::RandomWedding(seed, people, tables, rules);
         SeaterOptions options;
         options.Seed = seed;
@@ -179,13 +182,15 @@ void Quality(int instances) {
                         static_cast<unsigned long long>(seed), people, tables, rules, chart.Score,
                         exact.BestScore());
     }
-    std::printf("  the best chart in %d of %d proven weddings (%.1f %%); the worst reached %.1f %% of the best; "
-                "the slowest run took %.2f s\n\n",
-                optimal, proven, 100.0 * optimal / std::max(1, proven), 100.0 * worst, slowest);
+    std::printf(
+        "  the best chart in %d of %d proven weddings (%.1f %%); the worst reached %.1f %% of the best; "
+        "the slowest run took %.2f s\n\n",
+        optimal, proven, 100.0 * optimal / std::max(1, proven), 100.0 * worst, slowest);
 }
 
 void Speed(int people, int tables, int rules, double seconds, bool longerRun) {
-    std::printf("Speed: %d attendees, %d tables, %d rules, time limit %.0f s\n", people, tables, rules, seconds);
+    std::printf("Speed: %d attendees, %d tables, %d rules, time limit %.0f s\n", people, tables, rules,
+                seconds);
     const SeatingInstance in = SeaterTestData::RandomWedding(42, people, tables, rules);
     QElapsedTimer clock;
     clock.start();
@@ -203,10 +208,11 @@ void Speed(int people, int tables, int rules, double seconds, bool longerRun) {
         return true;
     };
     const SeatingChart chart = clsSeater(in).Run(options);
-    std::printf("  done in %.2f s (%lld moves): score %ld, %d seated, %d unseated, %d hard violations, %ld pairs "
-                "of one side\n\n",
-                chart.Seconds, static_cast<long long>(chart.Moves), chart.Score, chart.Seated, chart.Unseated,
-                chart.HardViolations, chart.FriendPairs);
+    std::printf(
+        "  done in %.2f s (%lld moves): score %ld, %d seated, %d unseated, %d hard violations, %ld pairs "
+        "of one side\n\n",
+        chart.Seconds, static_cast<long long>(chart.Moves), chart.Score, chart.Seated, chart.Unseated,
+        chart.HardViolations, chart.FriendPairs);
     if (!longerRun)
         return;
     // What more work would have found: the same wedding with ten times the moves.

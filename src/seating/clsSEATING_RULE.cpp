@@ -47,7 +47,8 @@ void clsSEATING_RULE::Delete(const QString& key) {
 }
 
 bool clsSEATING_RULE::OpenRecord(const QString& key) {
-    return RecordIO::OpenFirst(*this, ReadTable(), kSelect + QStringLiteral("WHERE SEATING_RULE_ID = ?"), {key});
+    return RecordIO::OpenFirst(*this, ReadTable(), kSelect + QStringLiteral("WHERE SEATING_RULE_ID = ?"),
+                               {key});
 }
 
 QList<clsSEATING_RULE> clsSEATING_RULE::OpenRecords() {
@@ -85,7 +86,8 @@ void clsSEATING_RULE::Save(bool insert) {
 }
 
 QString clsSEATING_RULE::KindText() const {
-    return RULE_CD == KeepApart ? QStringLiteral("Keep apart") : QStringLiteral("Keep together (%1)").arg(WEIGHT_NB);
+    return RULE_CD == KeepApart ? QStringLiteral("Keep apart")
+                                : QStringLiteral("Keep together (%1)").arg(WEIGHT_NB);
 }
 
 QString clsSEATING_RULE::Caption() const {

@@ -5,8 +5,8 @@
 #include <QSet>
 #include <algorithm>
 #include <array>
-#include <initializer_list>
 #include <cmath>
+#include <initializer_list>
 #include <numeric>
 #include <random>
 #include <tuple>
@@ -17,9 +17,13 @@ namespace {
 constexpr int kSides = 4; // FRIEND_OF_CD 1 to 3; 0 is no side and makes no pair
 constexpr int kNotPinned = -2;
 
-long Pairs(int n) { return long(n) * (n - 1) / 2; }
+long Pairs(int n) {
+    return long(n) * (n - 1) / 2;
+}
 
-QString TableCaption(const SeatingTable& table) { return QStringLiteral("#") + table.Number; }
+QString TableCaption(const SeatingTable& table) {
+    return QStringLiteral("#") + table.Number;
+}
 
 // Seated people, then score, then pairs of one side: what the seater maximises, in that order.
 using Quality = std::tuple<int, long, long>;
@@ -49,10 +53,10 @@ struct clsSeater::Impl {
     std::vector<int> UnitOf;
     std::vector<std::vector<std::pair<int, int>>> Together; // unit -> (unit, strength)
     std::vector<std::vector<int>> Apart;
-    std::vector<PersonPair> KeepPairs;  // person level, for measuring and explaining
+    std::vector<PersonPair> KeepPairs; // person level, for measuring and explaining
     std::vector<PersonPair> ApartPairs;
     std::vector<int> Households; // person -> the first person of the household, before any pinning
-    QStringList RuleNotes; // rules that could not count, said once
+    QStringList RuleNotes;       // rules that could not count, said once
     double FriendEpsilon = 1;
     int MaxCapacity = 0;
 
@@ -192,7 +196,8 @@ struct clsSeater::Impl {
             Together[it.key().second].push_back({it.key().first, it.value()});
         }
         // The pairs of one side only break ties: all that one move can change weighs less than a point.
-        FriendEpsilon = maxWeight > 0 ? 1.0 / (4.0 * std::max(1, MaxCapacity) * std::max(1, MaxCapacity) + 1) : 1;
+        FriendEpsilon =
+            maxWeight > 0 ? 1.0 / (4.0 * std::max(1, MaxCapacity) * std::max(1, MaxCapacity) + 1) : 1;
     }
 
     // ---- Pins: people already seated stay there ---------------------------------------------------------
@@ -240,8 +245,10 @@ struct clsSeater::Impl {
                 used[part.Pinned] += part.Size;
             if (rest.Size > 0) {
                 rest.Pinned = Unseated;
-                rest.StuckReason = QStringLiteral("the rest of their invitation sits at table %1, which has no seat left for them")
-                                       .arg(SlotCaption(parts.front().Pinned));
+                rest.StuckReason =
+                    QStringLiteral(
+                        "the rest of their invitation sits at table %1, which has no seat left for them")
+                        .arg(SlotCaption(parts.front().Pinned));
                 parts.push_back(rest);
             }
             unit = parts.front();
@@ -508,9 +515,9 @@ struct clsSeater::Impl {
         Greedy();
         std::vector<int> best = At;
         Quality bestQuality = Now();
-        const qint64 budget =
-            options.Moves > 0 ? options.Moves
-                              : std::clamp<qint64>(qint64(Movable.size()) * 10000, 1000000, 20000000);
+        const qint64 budget = options.Moves > 0
+                                  ? options.Moves
+                                  : std::clamp<qint64>(qint64(Movable.size()) * 10000, 1000000, 20000000);
         bool cancelled = false, outOfTime = false;
         qint64 moves = 0;
         const double hottest = StartTemperature();
@@ -583,7 +590,8 @@ struct clsSeater::Impl {
         return plan;
     }
 
-    // ---- Measuring and explaining a chart -------------------------------------------------------------------
+    // ---- Measuring and explaining a chart
+    // -------------------------------------------------------------------
 
     SeatingChart Chart(const std::vector<int>& slot, QStringList problems) const {
         SeatingChart chart;
@@ -592,7 +600,8 @@ struct clsSeater::Impl {
             taken[t] = In.Tables[t].Occupied;
         std::vector<std::array<int, kSides>> sides(TableCount, std::array<int, kSides>{});
         for (int p = 0; p < int(slot.size()); ++p) {
-            chart.Seats.insert(In.People[p].ContactId, IsTable(slot[p]) ? In.Tables[slot[p]].TableId : QString());
+            chart.Seats.insert(In.People[p].ContactId,
+                               IsTable(slot[p]) ? In.Tables[slot[p]].TableId : QString());
             if (!IsTable(slot[p]))
                 continue;
             ++chart.Seated;
@@ -646,7 +655,8 @@ struct clsSeater::Impl {
     QString WhereApart(const std::vector<int>& slot, const PersonPair& pair) const {
         const bool seatedA = IsTable(slot[pair.A]), seatedB = IsTable(slot[pair.B]);
         if (seatedA && seatedB)
-            return QStringLiteral("sit at tables %1 and %2").arg(SlotCaption(slot[pair.A]), SlotCaption(slot[pair.B]));
+            return QStringLiteral("sit at tables %1 and %2")
+                .arg(SlotCaption(slot[pair.A]), SlotCaption(slot[pair.B]));
         if (!seatedA && !seatedB)
             return QStringLiteral("are both unseated");
         return QStringLiteral("could not be met: %1 is unseated").arg(Name(seatedA ? pair.B : pair.A));
@@ -669,7 +679,8 @@ struct clsSeater::Impl {
             if (IsTable(Units[u].Pinned))
                 table.Reasons << QStringLiteral("already seated here: %1").arg(Names(Units[u].Members));
             else if (Units[u].Size > 1)
-                table.Reasons << QStringLiteral("one invitation, kept together: %1").arg(Names(Units[u].Members));
+                table.Reasons
+                    << QStringLiteral("one invitation, kept together: %1").arg(Names(Units[u].Members));
         }
         return tables;
     }
@@ -691,7 +702,6 @@ struct clsSeater::Impl {
         }
         return split;
     }
-
 
     QStringList UnseatedProblems(const std::vector<int>& slot) const {
         QStringList problems;
@@ -718,7 +728,8 @@ struct clsSeater::Impl {
                           .arg(In.People.size());
             problems << QStringLiteral("%1 %2 unseated: %3.")
                             .arg(Names(unit.Members),
-                                 unit.Size == 1 ? QStringLiteral("was left") : QStringLiteral("were left"), why);
+                                 unit.Size == 1 ? QStringLiteral("was left") : QStringLiteral("were left"),
+                                 why);
         }
         return problems;
     }
@@ -733,7 +744,9 @@ SeatingChart clsSeater::Run(const SeaterOptions& options) {
     return d->Search(options);
 }
 
-SeatingChart clsSeater::Measure() const { return d->Chart(d->SeatedAt, {}); }
+SeatingChart clsSeater::Measure() const {
+    return d->Chart(d->SeatedAt, {});
+}
 
 QString SeatingChart::Explanation() const {
     QStringList lines;

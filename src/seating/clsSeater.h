@@ -65,8 +65,8 @@ struct SeatingChart {
     long FriendPairs = 0;         // pairs at one table of the same side (the tie-break)
     int Seated = 0;
     int Unseated = 0;
-    int HardViolations = 0;   // only what the input makes unavoidable, each told in Problems
-    QStringList Problems;     // every rule not met and every person left unseated, with the reason
+    int HardViolations = 0;    // only what the input makes unavoidable, each told in Problems
+    QStringList Problems;      // every rule not met and every person left unseated, with the reason
     QList<SeatedTable> Tables; // in the order of the instance's tables
     double Seconds = 0;
     qint64 Moves = 0;

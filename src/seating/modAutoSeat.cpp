@@ -26,15 +26,16 @@ void ReadRules(SeatingInstance& instance, const QSet<QString>& attending) {
     if (!gDB().TableExists(QStringLiteral("SEATING_RULE")))
         return;
     for (const clsSEATING_RULE& rule : clsSEATING_RULE::OpenRecords()) {
-        const bool first = attending.contains(rule.CONTACT_ID), other = attending.contains(rule.OTHER_CONTACT_ID);
+        const bool first = attending.contains(rule.CONTACT_ID),
+                   other = attending.contains(rule.OTHER_CONTACT_ID);
         if (first && other) {
             instance.Rules.append({rule.CONTACT_ID, rule.OTHER_CONTACT_ID,
                                    rule.RULE_CD == clsSEATING_RULE::KeepApart, rule.WEIGHT_NB.toInt()});
             continue;
         }
-        const QString absent = first ? rule.OTHER_CONTACT_NM
-                                     : other ? rule.CONTACT_NM
-                                             : rule.CONTACT_NM + QStringLiteral(" and ") + rule.OTHER_CONTACT_NM;
+        const QString absent = first   ? rule.OTHER_CONTACT_NM
+                               : other ? rule.CONTACT_NM
+                                       : rule.CONTACT_NM + QStringLiteral(" and ") + rule.OTHER_CONTACT_NM;
         instance.IgnoredRules << QStringLiteral("The rule \"%1\" was ignored: %2 %3 not attending.")
                                      .arg(rule.Caption(), absent,
                                           first || other ? QStringLiteral("is") : QStringLiteral("are"));
@@ -50,8 +51,9 @@ QString NameOf(const clsCONTACT& c) {
 } // namespace
 
 QString NoTablesMessage() {
-    return QStringLiteral("There are no tables to seat the guests at. Add the tables first (\"Add new table\" on "
-                          "the table layout, or vowren-cli tables --add N).");
+    return QStringLiteral(
+        "There are no tables to seat the guests at. Add the tables first (\"Add new table\" on "
+        "the table layout, or vowren-cli tables --add N).");
 }
 
 SeatingInstance ReadInstance() {
@@ -62,8 +64,8 @@ SeatingInstance ReadInstance() {
                                 others.value(table.DINING_TABLE_ID)});
     QSet<QString> attending;
     for (const clsCONTACT& c : clsCONTACT::OpenRecords(ContactFilter::Attending)) {
-        instance.People.append({c.CONTACT_ID, NameOf(c), c.INVITE_ID, c.GUEST_OF_ID,
-                                c.FRIEND_OF_CD.toInt(), c.DINING_TABLE_ID});
+        instance.People.append(
+            {c.CONTACT_ID, NameOf(c), c.INVITE_ID, c.GUEST_OF_ID, c.FRIEND_OF_CD.toInt(), c.DINING_TABLE_ID});
         attending.insert(c.CONTACT_ID);
     }
     ReadRules(instance, attending);

@@ -21,7 +21,9 @@ QString AddRule(const QString& a, const QString& b, const QString& kind, const Q
     return rule.SEATING_RULE_ID;
 }
 
-long Rules() { return TestDatabase::Scalar("SELECT COUNT(*) FROM SEATING_RULE").toLong(); }
+long Rules() {
+    return TestDatabase::Scalar("SELECT COUNT(*) FROM SEATING_RULE").toLong();
+}
 
 } // namespace
 
@@ -39,16 +41,46 @@ private slots:
         QTest::addColumn<QString>("kind");
         QTest::addColumn<QString>("weight");
         QTest::addColumn<QString>("message");
-        QTest::newRow("together, 1") << "11" << "T" << "1" << "";
-        QTest::newRow("together, 100") << "11" << "T" << "100" << "";
-        QTest::newRow("apart drops the strength") << "11" << "A" << "40" << "";
-        QTest::newRow("strength 0") << "11" << "T" << "0" << "a whole number from 1 to 100";
-        QTest::newRow("strength 101") << "11" << "T" << "101" << "a whole number from 1 to 100";
-        QTest::newRow("strength in words") << "11" << "T" << "lots" << "a whole number from 1 to 100";
-        QTest::newRow("another kind") << "11" << "X" << "" << "together (T) or apart (A)";
-        QTest::newRow("one person twice") << "10" << "A" << "" << "two different people";
-        QTest::newRow("nobody") << "" << "A" << "" << "Choose the two people";
-        QTest::newRow("unknown contact") << "999" << "A" << "" << "no contact with the key 999";
+        QTest::newRow("together, 1") << "11"
+                                     << "T"
+                                     << "1"
+                                     << "";
+        QTest::newRow("together, 100") << "11"
+                                       << "T"
+                                       << "100"
+                                       << "";
+        QTest::newRow("apart drops the strength") << "11"
+                                                  << "A"
+                                                  << "40"
+                                                  << "";
+        QTest::newRow("strength 0") << "11"
+                                    << "T"
+                                    << "0"
+                                    << "a whole number from 1 to 100";
+        QTest::newRow("strength 101") << "11"
+                                      << "T"
+                                      << "101"
+                                      << "a whole number from 1 to 100";
+        QTest::newRow("strength in words") << "11"
+                                           << "T"
+                                           << "lots"
+                                           << "a whole number from 1 to 100";
+        QTest::newRow("another kind") << "11"
+                                      << "X"
+                                      << ""
+                                      << "together (T) or apart (A)";
+        QTest::newRow("one person twice") << "10"
+                                          << "A"
+                                          << ""
+                                          << "two different people";
+        QTest::newRow("nobody") << ""
+                                << "A"
+                                << ""
+                                << "Choose the two people";
+        QTest::newRow("unknown contact") << "999"
+                                         << "A"
+                                         << ""
+                                         << "no contact with the key 999";
     }
     void ruleIsChecked() {
         QFETCH(QString, other);
@@ -92,9 +124,10 @@ private slots:
         QCOMPARE(in.Tables.size(), 1);
         QCOMPARE(in.Tables[0].Occupied, 1);
         QCOMPARE(in.Rules.size(), 1);
-        QCOMPARE(in.IgnoredRules,
-                 QStringList("The rule \"Ann Guest0010 and Ann Guest0012: Keep apart\" was ignored: Ann Guest0012 "
-                             "is not attending."));
+        QCOMPARE(
+            in.IgnoredRules,
+            QStringList("The rule \"Ann Guest0010 and Ann Guest0012: Keep apart\" was ignored: Ann Guest0012 "
+                        "is not attending."));
     }
 
     void noTablesWritesNothing() {

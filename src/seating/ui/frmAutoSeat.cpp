@@ -10,10 +10,10 @@
 #include <QDateTime>
 #include <QDialogButtonBox>
 #include <QGraphicsScene>
-#include <QHash>
 #include <QGraphicsTextItem>
 #include <QGraphicsView>
 #include <QHBoxLayout>
+#include <QHash>
 #include <QLabel>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -36,7 +36,8 @@ constexpr qreal kNamesWidth = 120;
 constexpr qreal kRoomPerTable = 210;
 
 QPointF PixelsOf(const clsDINING_TABLE& table) {
-    return {table.POS_X.toDouble() / modSeating::kTwipsPerPixel, table.POS_Y.toDouble() / modSeating::kTwipsPerPixel};
+    return {table.POS_X.toDouble() / modSeating::kTwipsPerPixel,
+            table.POS_Y.toDouble() / modSeating::kTwipsPerPixel};
 }
 
 // How much wider than the table layout the proposal's floor is drawn: the closest two tables get room.
@@ -86,9 +87,10 @@ frmAutoSeat::frmAutoSeat(QWidget* parent) : QDialog(parent) {
     prgSeat->setRange(0, 1000);
     prgSeat->setTextVisible(false);
     cmdCancel = Button(QStringLiteral("Cancel"), "cmdCancel", this);
-    lblScore = new QLabel(QStringLiteral("The seater keeps every invitation at one table, never seats a \"Keep "
-                                         "apart\" pair together, and seats as many as the tables hold."),
-                          this);
+    lblScore =
+        new QLabel(QStringLiteral("The seater keeps every invitation at one table, never seats a \"Keep "
+                                  "apart\" pair together, and seats as many as the tables hold."),
+                   this);
     lblScore->setObjectName(QStringLiteral("lblScore"));
     lblScore->setWordWrap(true);
     mFloor = new QGraphicsScene(this);
@@ -174,7 +176,8 @@ void frmAutoSeat::Start() {
         return;
     mHasProposal = false;
     // The seater reads nothing from the database: the wedding goes to the other thread whole.
-    mWorker = QThread::create([this, instance, options = Options()] { mChart = clsSeater(instance).Run(options); });
+    mWorker =
+        QThread::create([this, instance, options = Options()] { mChart = clsSeater(instance).Run(options); });
     connect(mWorker, &QThread::finished, this, &frmAutoSeat::Finished);
     mStartedMs = QDateTime::currentMSecsSinceEpoch();
     mTicker->start();
@@ -212,14 +215,15 @@ void frmAutoSeat::Finished() {
 
 void frmAutoSeat::ShowProposal() {
     mHasProposal = true;
-    lblScore->setText(QStringLiteral("Score %1: %2 seated, %3 unseated, %4 hard rules broken, %5 pairs of one side "
-                                     "at a table (found in %6 s). Nothing is written until you press Apply.")
-                          .arg(mChart.Score)
-                          .arg(mChart.Seated)
-                          .arg(mChart.Unseated)
-                          .arg(mChart.HardViolations)
-                          .arg(mChart.FriendPairs)
-                          .arg(mChart.Seconds, 0, 'f', 1));
+    lblScore->setText(
+        QStringLiteral("Score %1: %2 seated, %3 unseated, %4 hard rules broken, %5 pairs of one side "
+                       "at a table (found in %6 s). Nothing is written until you press Apply.")
+            .arg(mChart.Score)
+            .arg(mChart.Seated)
+            .arg(mChart.Unseated)
+            .arg(mChart.HardViolations)
+            .arg(mChart.FriendPairs)
+            .arg(mChart.Seconds, 0, 'f', 1));
     prgSeat->setValue(prgSeat->maximum());
     txtExplanation->setPlainText(mChart.Explanation());
     DrawFloor();
@@ -238,7 +242,8 @@ void frmAutoSeat::DrawFloor() {
     if (!tables.isEmpty()) {
         origin = PixelsOf(tables.first());
         for (const clsDINING_TABLE& table : tables)
-            origin = QPointF(std::min(origin.x(), PixelsOf(table).x()), std::min(origin.y(), PixelsOf(table).y()));
+            origin =
+                QPointF(std::min(origin.x(), PixelsOf(table).x()), std::min(origin.y(), PixelsOf(table).y()));
     }
     for (const clsDINING_TABLE& table : tables) {
         const QPointF at = (PixelsOf(table) - origin) * spread + QPointF(8, 8);

@@ -13,7 +13,8 @@ class frmSeatingRule : public frmEditorBase {
 
 public:
     // The two people chosen first, when the opener knows them.
-    explicit frmSeatingRule(const QString& firstId = {}, const QString& otherId = {}, QWidget* parent = nullptr);
+    explicit frmSeatingRule(const QString& firstId = {}, const QString& otherId = {},
+                            QWidget* parent = nullptr);
 
 protected:
     QStringList Snapshot() const override;

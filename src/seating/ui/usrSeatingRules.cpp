@@ -54,8 +54,8 @@ void usrSeatingRules::Reload() {
     lvwRules->clear();
     const QList<clsSEATING_RULE> rules = RecordIO::Read([] { return clsSEATING_RULE::OpenRecords(); });
     for (const clsSEATING_RULE& rule : rules) {
-        auto* row = new QTreeWidgetItem(lvwRules, {rule.CONTACT_NM + QStringLiteral(" and ") + rule.OTHER_CONTACT_NM,
-                                                    rule.KindText()});
+        auto* row = new QTreeWidgetItem(
+            lvwRules, {rule.CONTACT_NM + QStringLiteral(" and ") + rule.OTHER_CONTACT_NM, rule.KindText()});
         row->setData(0, Qt::UserRole, rule.SEATING_RULE_ID);
         row->setToolTip(0, rule.NOTES_TX);
     }
@@ -80,8 +80,8 @@ void usrSeatingRules::DeleteSelectedRule() {
     if (rows.isEmpty())
         return;
     const QString caption = rows.first()->text(0) + QStringLiteral(": ") + rows.first()->text(1);
-    if (ShowMessage(QStringLiteral("Delete the seating rule \"%1\"?").arg(caption), Msg::YesNo | Msg::Question) !=
-        Msg::Yes)
+    if (ShowMessage(QStringLiteral("Delete the seating rule \"%1\"?").arg(caption),
+                    Msg::YesNo | Msg::Question) != Msg::Yes)
         return;
     const QString key = rows.first()->data(0, Qt::UserRole).toString();
     if (RecordIO::Attempt([&] { clsSEATING_RULE::Delete(key); }))
@@ -111,9 +111,10 @@ void DemoRules() {
     RecordIO::Attempt([] {
         if (!clsSEATING_RULE::OpenRecords().isEmpty())
             return;
-        const clsRecordset rs = gDB().Execute(QStringLiteral(
-            "SELECT CONTACT_ID FROM CONTACT WHERE ATTENDING_FG = 'Y' AND CONTACT_ID > 2 AND PRIMARY_CONTACT_FG = 'Y' "
-            "ORDER BY CONTACT_ID LIMIT 16"));
+        const clsRecordset rs =
+            gDB().Execute(QStringLiteral("SELECT CONTACT_ID FROM CONTACT WHERE ATTENDING_FG = 'Y' AND "
+                                         "CONTACT_ID > 2 AND PRIMARY_CONTACT_FG = 'Y' "
+                                         "ORDER BY CONTACT_ID LIMIT 16"));
         for (int row = 0; row + 1 < rs.RowCount(); row += 2) {
             clsSEATING_RULE rule;
             rule.CONTACT_ID = rs.Value(row, 0);

@@ -36,7 +36,8 @@ class tst_AutoSeat : public QObject {
         second = AddTable("2", 2);
         TestDatabase::Exec("UPDATE CONTACT SET ATTENDING_FG = 'N' WHERE CONTACT_ID IN (1, 2)");
         guests = AddGuests(4);
-        for (const auto& [a, b, kind] : {std::tuple{0, 1, "T"}, std::tuple{2, 3, "T"}, std::tuple{0, 2, "A"}}) {
+        for (const auto& [a, b, kind] :
+             {std::tuple{0, 1, "T"}, std::tuple{2, 3, "T"}, std::tuple{0, 2, "A"}}) {
             clsSEATING_RULE rule;
             rule.CONTACT_ID = guests[a];
             rule.OTHER_CONTACT_ID = guests[b];
