@@ -8,6 +8,7 @@
 #include "core/modBackup.h"
 #include "core/modSubMain.h"
 #include "platform/clsShell.h"
+#include "seating/ui/map/modWebMap.h"
 #include "shell/frmVowren.h"
 #include "shell/mdiMain.h"
 #include "shell/modScreenshots.h"
@@ -73,6 +74,7 @@ void OffscreenForScreenshots(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     OffscreenForScreenshots(argc, argv);
+    modWebMap::Prepare();
     clsVowrenApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vowren"));
     QApplication::setApplicationVersion(clsApp::MajorMinorRevision());
@@ -92,6 +94,7 @@ int main(int argc, char** argv) {
     mdiMain::ApplyLook();
     modStartup::RegisterSubsystems();
     RegisterKnownScreens();
+    modWebMap::Register();
 
     if (parser.isSet(screenshots)) {
         QString message;

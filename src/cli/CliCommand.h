@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <QTextStream>
 #include <functional>
+#include <optional>
 #include <vector>
 
 // One command of vowren-cli: its name, a line of help, and what it does with the arguments after it.
@@ -28,6 +29,13 @@ CliCommand SeatCommand();
 CliCommand UnseatCommand();
 CliCommand TablesCommand();
 CliCommand TentcardsCommand();
+CliCommand ImportCommand();
+CliCommand ChecklistCommand();
+CliCommand HouseCommand();
+CliCommand BoardCommand();
+CliCommand TravelCommand();
+CliCommand WeddingCommand();
+CliCommand IcsCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();
@@ -47,6 +55,11 @@ int Guarded(const QString& command, QTextStream& err, const std::function<int()>
 // `seat` without --table: every attendee seated by the seating rules, or the score of the chart as it is.
 int RunAutoSeat(const QStringList& args, QTextStream& out, QTextStream& err);
 QString AutoSeatUsage();
+
+// The value after the option at i, moving i past it; nothing when the option ends the line.
+std::optional<QString> OptionValue(const QStringList& args, qsizetype& i);
+// Runs the work, printing a refusal of the database on err ("... Nothing was changed."); the exit status.
+int Guarded(const QString& command, QTextStream& err, const std::function<int()>& work);
 
 // Keys and numbers on the command line: whole numbers above 0, at least one of them.
 bool AreKeys(const QStringList& keys);

@@ -22,6 +22,12 @@ int RunInfo(const QStringList& args, QTextStream& out, QTextStream& err) {
 
 } // namespace
 
+std::optional<QString> OptionValue(const QStringList& args, qsizetype& i) {
+    if (i + 1 >= args.size())
+        return std::nullopt;
+    return args.at(++i);
+}
+
 const std::vector<CliCommand>& CliCommands() {
     static const std::vector<CliCommand> commands = {
         {QStringLiteral("info"), QStringLiteral("info"),
@@ -41,6 +47,13 @@ const std::vector<CliCommand>& CliCommands() {
         UnseatCommand(),
         TablesCommand(),
         TentcardsCommand(),
+        ImportCommand(),
+        ChecklistCommand(),
+        HouseCommand(),
+        BoardCommand(),
+        TravelCommand(),
+        WeddingCommand(),
+        IcsCommand(),
     };
     return commands;
 }

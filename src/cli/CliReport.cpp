@@ -1,6 +1,7 @@
 #include "cli/CliCommand.h"
 
 #include "reports/clsCustomFilter.h"
+#include "reports/clsRTFCalendar.h"
 #include "reports/clsReportCatalogue.h"
 #include "reports/clsReportClasses.h"
 #include "reports/modReportRegistry.h"
@@ -11,7 +12,7 @@
 namespace {
 
 const char kUsage[] = "usage: report SECTION [--filter KEY | --custom \"Caption+Caption\"] [--format rtf|csv|pdf|all] "
-                      "[--portrait] [--a4] | report --list | report --all [--format rtf|csv|pdf|both|all]";
+                      "[--portrait] [--a4] [--months YYYY-MM:YYYY-MM] | report --list | report --all [--format rtf|csv|pdf|both|all]";
 
 struct ReportArgs {
     QString Section;
@@ -23,6 +24,8 @@ struct ReportArgs {
     bool Csv = false;
     bool Pdf = false;
     bool FormatGiven = false;
+    // The calendar's months; those kept by the month dialog when empty.
+    QString Months;
     modReportRunner::Output Output;
 };
 
@@ -62,6 +65,11 @@ QString ParseArgs(const QStringList& args, ReportArgs& parsed)
             if (!ok)
                 return QStringLiteral("--filter takes the number of a filter row (see report --list)");
             parsed.FilterKey = number;
+        } else if (arg == QLatin1String("--months")) {
+            const auto months = value();
+            if (!months || !clsCalendarMonths().SetRange(*months))
+                return QStringLiteral("--months takes the calendar's first and last month, such as 2027-01:2027-06");
+            parsed.Months = *months;
         } else if (arg == QLatin1String("--custom")) {
             const auto captions = value();
             if (!captions || captions->trimmed().isEmpty())
@@ -95,6 +103,9 @@ std::optional<clsReportRoute> RowRoute(int section, std::optional<int> key, QTex
             err << "vowren-cli: report: the custom filter takes its boxes from --custom\n";
             return std::nullopt;
         }
+        // The calendar's months come from --months, or as the month dialog kept them.
+        if (route.Dialog == QLatin1String("frmReportEventDates"))
+            return route;
         if (!route.Dialog.isEmpty() || route.ClassName.isEmpty()) {
             err << "vowren-cli: report: \"" << rows[i].FILTER << "\" needs the report screen of the desktop program\n";
             return std::nullopt;
@@ -156,10 +167,11 @@ int WriteOne(const ReportArgs& args, QTextStream& out, QTextStream& err)
         err << "vowren-cli: report: there is no section \"" << args.Section << "\"; report --list shows them\n";
         return kExitUsage;
     }
-    const std::optional<clsReportRoute> route =
+    std::optional<clsReportRoute> route =
         args.Custom.isEmpty() ? RowRoute(section, args.FilterKey, err) : CustomRoute(section, args.Custom, err);
     if (!route)
         return kExitUsage;
+    route->Argument = route->Dialog.isEmpty() ? route->Argument : args.Months;
     if (!clsReportClasses::Exists(route->ClassName)) {
         err << "vowren-cli: report: this report is not available yet\n";
         return kExitFailed;
@@ -210,7 +222,8 @@ int RunReport(const QStringList& args, QTextStream& out, QTextStream& err)
 CliCommand ReportCommand()
 {
     return {QStringLiteral("report"),
-            QStringLiteral("report SECTION [--filter KEY | --custom CAPTIONS] [--format rtf|csv|pdf|all] [--portrait] [--a4]"),
+            QStringLiteral("report SECTION [--filter KEY | --custom CAPTIONS] [--format rtf|csv|pdf|all] [--portrait] [--a4] "
+                           "[--months YYYY-MM:YYYY-MM]"),
             QStringLiteral("Write a report into the report folder and print its path (never opens it). "
                            "--list prints the catalogue with counts; --all writes every available report "
                            "(RTF and CSV unless --format names pdf, both or all)."),

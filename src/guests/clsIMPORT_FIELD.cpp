@@ -11,21 +11,42 @@ void SetArrayIndex(clsIMPORT_FIELD& row) {
 } // namespace
 
 const QList<clsIMPORT_FIELD::SystemField>& clsIMPORT_FIELD::SystemFields() {
+    // Beside the short names, the columns that the address books of Google (the present export and the
+    // older one), Outlook, Apple and Thunderbird write.
     static const QList<SystemField> fields = {
-        {"Title", "TITLE_TX", {"TITLE"}},
-        {"First Name *", "FIRST_NM", {"FIRST", "FIRST NAME"}},
-        {"Middle Name", "MIDDLE_NM", {"MIDDLE", "MIDDLE NAME"}},
-        {"Last Name *", "LAST_NM", {"LAST", "LAST NAME"}},
-        {"Suffix", "SUFFIX_TX", {"SUFFIX"}},
-        {"Address", "ADDRESS_TX", {"ADDRESS", "HOME STREET", "HOME ADDRESS", "ADDRESS 1"}},
-        {"City", "CITY_TX", {"CITY", "HOME CITY"}},
-        {"State", "STATE_TX", {"STATE", "HOME STATE"}},
-        {"Zip", "ZIP_TX", {"ZIP", "ZIP CODE", "HOME POSTAL CODE", "HOME ZIP"}},
-        {"Country", "COUNTRY_TX", {"COUNTRY", "HOME COUNTRY"}},
-        {"Nickname", "NICK_NM", {"NICKNAME"}},
-        {"E-mail", "EMAIL_TX", {"E-MAIL", "EMAIL", "E-MAIL ADDRESS", "EMAIL 1"}},
-        {"Phone", "PHONE_TX", {"PHONE", "HOME PHONE", "HOME", "DAY PHONE"}},
-        {"Phone 2", "PHONE2_TX", {"PHONE 2", "PHONE2", "CELL PHONE", "MOBILE PHONE"}},
+        {"Title", "TITLE_TX", {"TITLE", "NAME PREFIX", "PREFIX"}},
+        {"First Name *", "FIRST_NM", {"FIRST", "FIRST NAME", "GIVEN NAME"}},
+        {"Middle Name", "MIDDLE_NM", {"MIDDLE", "MIDDLE NAME", "ADDITIONAL NAME"}},
+        {"Last Name *", "LAST_NM", {"LAST", "LAST NAME", "FAMILY NAME", "SURNAME"}},
+        {"Suffix", "SUFFIX_TX", {"SUFFIX", "NAME SUFFIX"}},
+        {"Address",
+         "ADDRESS_TX",
+         {"ADDRESS", "HOME STREET", "HOME ADDRESS", "ADDRESS 1", "ADDRESS 1 - STREET", "STREET",
+          "STREET ADDRESS", "HOME STREET ADDRESS"}},
+        {"City", "CITY_TX", {"CITY", "HOME CITY", "ADDRESS 1 - CITY", "TOWN"}},
+        {"State",
+         "STATE_TX",
+         {"STATE", "HOME STATE", "ADDRESS 1 - REGION", "REGION", "PROVINCE", "STATE/PROVINCE",
+          "HOME REGION"}},
+        {"Zip",
+         "ZIP_TX",
+         {"ZIP", "ZIP CODE", "HOME POSTAL CODE", "HOME ZIP", "ADDRESS 1 - POSTAL CODE", "POSTAL CODE",
+          "POSTCODE", "HOME ZIPCODE", "HOME ZIP CODE"}},
+        {"Country",
+         "COUNTRY_TX",
+         {"COUNTRY", "HOME COUNTRY", "HOME COUNTRY/REGION", "ADDRESS 1 - COUNTRY", "COUNTRY/REGION"}},
+        {"Nickname", "NICK_NM", {"NICKNAME", "NICK NAME"}},
+        {"E-mail",
+         "EMAIL_TX",
+         {"E-MAIL", "EMAIL", "E-MAIL ADDRESS", "EMAIL 1", "E-MAIL 1 - VALUE", "EMAIL ADDRESS",
+          "PRIMARY EMAIL", "E-MAIL 1", "HOME EMAIL"}},
+        {"Phone",
+         "PHONE_TX",
+         {"PHONE", "HOME PHONE", "HOME", "DAY PHONE", "PHONE 1 - VALUE", "TELEPHONE", "PHONE NUMBER"}},
+        {"Phone 2",
+         "PHONE2_TX",
+         {"PHONE 2", "PHONE2", "CELL PHONE", "MOBILE PHONE", "PHONE 2 - VALUE", "MOBILE", "MOBILE NUMBER",
+          "CELL", "IPHONE"}},
         {"A-B", "AB_LIST_CD", {"A-B", "AB"}},
         {"Friend Of", "FRIEND_OF_CD", {"FRIEND OF"}},
         {"Gender", "GENDER_FG", {"GENDER", "SEX"}},
@@ -85,7 +106,8 @@ void clsIMPORT_FIELD::Save(bool insert) {
 QString clsIMPORT_FIELD::SuggestMAP_IMPORT_FIELD_NM(const QString& columnName) {
     const QString name = columnName.toUpper();
     for (const SystemField& field : SystemFields()) {
-        if (field.Aliases.contains(name))
+        // The template's own header is the captions.
+        if (field.Aliases.contains(name) || field.Caption.toUpper() == name)
             return field.Field;
     }
     return {};

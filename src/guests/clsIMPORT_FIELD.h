@@ -38,8 +38,8 @@ public:
     // The rows in the file's order; only the mapped ones when the flag is set.
     static QList<clsIMPORT_FIELD> OpenRecords(bool mappedOnly);
     void Save(bool insert);
-    // The system field a file column is taken for: its name upper-cased must be one of the aliases
-    // exactly; "" when none fits.
+    // The system field a file column is taken for: its name upper-cased must be one of the aliases, or
+    // the caption upper-cased (the template's header), exactly; "" when none fits.
     static QString SuggestMAP_IMPORT_FIELD_NM(const QString& columnName);
     // Frees a system field from whichever column held it, so each field is mapped at most once.
     static void UpdateMAP_IMPORT_FIELD_NM_ToNull(const QString& mapName);

@@ -121,6 +121,20 @@ void clsEVENT::SaveWeddingDay(const QString& when) {
     gWeddingEvent().OpenRecord(QStringLiteral("1"));
 }
 
+QString clsEVENT::ComposeEVENT_DT(const QDate& date, const QTime& time) {
+    return FormatDate(date) + QLatin1Char(' ') + FormatTime(time);
+}
+
+void clsEVENT::MoveWeddingDay(const QDate& date, const QTime& time) {
+    clsEVENT wedding;
+    if (!wedding.OpenRecord(QStringLiteral("1"))) {
+        SaveWeddingDay(ComposeEVENT_DT(date, time));
+        return;
+    }
+    wedding.EVENT_DT = ComposeEVENT_DT(date, time);
+    wedding.Save(false);
+}
+
 void clsEVENT::Save(bool isNew) {
     RecordIO::Save(*this, Table(), isNew);
     if (EVENT_ID == QLatin1String("1")) {

@@ -2,7 +2,9 @@
 
 #include "core/RecordIO.h"
 
+#include <QDate>
 #include <QList>
+#include <QTime>
 #include <QString>
 
 // One dated occasion around the wedding: the ceremony, the rehearsal, a shower. Row 1 is the wedding
@@ -49,6 +51,11 @@ public:
     // The wedding day, event 1, at the given time ("dd-mmm-yyyy h:mm AM"), with the "Wedding Ceremony"
     // on its timeline for everyone (once); all or nothing.
     static void SaveWeddingDay(const QString& when);
+    // EVENT_DT as the editor writes it: "dd-mmm-yyyy" + " " + the time in the program's time format.
+    static QString ComposeEVENT_DT(const QDate& date, const QTime& time);
+    // Moves the wedding day to that date and time, as a save of event 1 in the editor does (the settings'
+    // wedding date follows); makes the wedding day when there is none yet.
+    static void MoveWeddingDay(const QDate& date, const QTime& time);
 
     // Joins the old address parts into the one address block of every row (done once, see the driver).
     static void Patch_1_Apply();

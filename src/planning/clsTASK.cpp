@@ -4,6 +4,7 @@
 #include "planning/clsEVENT.h"
 #include "planning/modPlanningSql.h"
 
+#include <QSet>
 #include <array>
 
 namespace {
@@ -142,18 +143,26 @@ void clsTASK::Patch_7_Apply() {
     tx.Commit();
 }
 
-void clsTASK::RefreshDueDates() {
+int clsTASK::RefreshDueDates() {
     const QDate wedding = WeddingDate();
+    if (!wedding.isValid())
+        return 0;
     clsTransaction tx(gDB());
     const clsRecordset rs = gDB().Execute(SelectSql() + kChecklistOrder);
     const std::vector<int> columns = RecordIO::FieldColumns(rs, ReadTable());
+    int changed = 0;
     for (int row = 0; row < rs.RowCount(); ++row) {
         clsTASK task;
         RecordIO::Fill(task, rs, row, ReadTable(), columns);
-        task.DUE_DT = CalculateDueDate(task, wedding);
+        const QString due = CalculateDueDate(task, wedding);
+        if (task.DUE_DT_Format() == due)
+            continue;
+        task.DUE_DT = due;
         RecordIO::Save(task, Table(), false);
+        ++changed;
     }
     tx.Commit();
+    return changed;
 }
 
 void clsTASK::Renumber() {
@@ -194,4 +203,44 @@ void clsTASK::WriteSortOrder(const QStringList& taskIds) {
     for (int i = 0; i < taskIds.size(); ++i)
         UpdateSort(taskIds[i], QString::number(i + 1));
     tx.Commit();
+}
+
+QStringList clsTASK::WriteShownOrder(const QStringList& shownInOrder) {
+    clsTransaction tx(gDB());
+    const clsRecordset rs = gDB().Execute(
+        QStringLiteral("SELECT TASK_ID, SORT_ORDER_NB FROM TASK ORDER BY SORT_ORDER_NB, TASK_ID"));
+    QStringList stored;
+    for (int row = 0; row < rs.RowCount(); ++row)
+        stored << rs.Value(row, 0);
+    // Keys of tasks that are gone, and a key given twice, take no place.
+    const QSet<QString> existing(stored.cbegin(), stored.cend());
+    QStringList shown;
+    QSet<QString> shownSet;
+    for (const QString& id : shownInOrder) {
+        if (existing.contains(id) && !shownSet.contains(id)) {
+            shown << id;
+            shownSet.insert(id);
+        }
+    }
+    QStringList order = stored;
+    auto next = shown.cbegin();
+    for (QString& id : order)
+        if (shownSet.contains(id))
+            id = *next++;
+    for (int i = 0; i < order.size(); ++i) {
+        if (stored[i] != order[i] || rs.Value(i, 1) != QString::number(i + 1))
+            UpdateSort(order[i], QString::number(i + 1));
+    }
+    tx.Commit();
+    return order;
+}
+
+QStringList clsTASK::DeleteKeepingOrder(const QString& taskId, const QStringList& shownInOrder) {
+    clsTransaction tx(gDB());
+    clsTASK().Delete(taskId);
+    QStringList shown = shownInOrder;
+    shown.removeAll(taskId);
+    const QStringList order = WriteShownOrder(shown);
+    tx.Commit();
+    return order;
 }

@@ -45,7 +45,8 @@ public:
     static QString CalculateDueDate(const clsTASK& task);
     static QString CalculateDueDate(const clsTASK& task, const QDate& weddingDate);
     // Sets every task's due date from its time frame, hand-set and completed ones alike; all or nothing.
-    void RefreshDueDates();
+    // The number of tasks whose date changed. Without a wedding date nothing changes.
+    int RefreshDueDates();
     // An insert renumbers all tasks afterwards, so that the new one falls into place. A refused save
     // leaves the object as it was.
     void Save(bool isNew);
@@ -53,6 +54,13 @@ public:
     static void UpdateSort(const QString& taskId, const QString& sortOrder);
     // Writes 1, 2, 3 ... in the order of the list given (the order shown on the page); all or nothing.
     static void WriteSortOrder(const QStringList& taskIds);
+    // Writes the order of the tasks a page shows (all of them, or those of a filter): the tasks shown
+    // take the places the shown tasks had, in the order given, and the tasks not shown keep theirs, so
+    // the numbers stay 1, 2, 3 ... over the whole checklist. The keys of all tasks in their new order;
+    // all or nothing.
+    static QStringList WriteShownOrder(const QStringList& shownInOrder);
+    // Deletes a task and writes the order of the tasks still shown, in one go.
+    static QStringList DeleteKeepingOrder(const QString& taskId, const QStringList& shownInOrder);
 
 private:
     static const RecordTable<clsTASK>& ReadTable();

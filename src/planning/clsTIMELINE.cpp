@@ -73,9 +73,14 @@ QString clsTIMELINE::TIMELINE_START_DT_DateFormat() const {
 }
 
 QString clsTIMELINE::TIMELINE_START_TM_TO_END_TM() const {
-    const QString start = FormatStored(TIMELINE_START_DT, TimeFormat());
-    const QString end = FormatStored(TIMELINE_END_DT, TimeFormat());
-    return start == end ? start : start + QLatin1Char('-') + end;
+    return TIMELINE_START_TM_TO_END_TM(ParseDateTimeText(TIMELINE_START_DT).time(),
+                                       ParseDateTimeText(TIMELINE_END_DT).time());
+}
+
+QString clsTIMELINE::TIMELINE_START_TM_TO_END_TM(const QTime& start, const QTime& end) {
+    const QString from = FormatTime(start);
+    const QString to = FormatTime(end);
+    return from == to ? from : from + QLatin1Char('-') + to;
 }
 
 void clsTIMELINE::CreateTable() {

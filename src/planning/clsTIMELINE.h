@@ -30,6 +30,7 @@ public:
     QString TIMELINE_START_DT_DateFormat() const;
     // The start time alone when start and end read the same, else start + "-" + end.
     QString TIMELINE_START_TM_TO_END_TM() const;
+    static QString TIMELINE_START_TM_TO_END_TM(const QTime& start, const QTime& end);
 
     static void CreateTable();
     // Every operation below that reads or writes throws clsDbError when the database refuses.

@@ -2,15 +2,24 @@
 
 #include "reports/clsRTFAttendees.h"
 #include "reports/clsRTFAttendeesTabulaRasa.h"
+#include "reports/clsRTFCalendar.h"
 #include "reports/clsRTFContacts.h"
+#include "reports/clsRTFFlightOverview.h"
+#include "reports/clsRTFFlights.h"
+#include "reports/clsRTFHotelOverview.h"
+#include "reports/clsRTFHotels.h"
+#include "reports/clsRTFEvent.h"
 #include "reports/clsRTFInvitation.h"
 #include "reports/clsRTFMeal.h"
+#include "reports/clsRTFNotebook.h"
 #include "reports/clsRTFRSVP.h"
 #include "reports/clsRTFRole.h"
 #include "reports/clsRTFStatistics.h"
 #include "reports/clsRTFTable.h"
 #include "reports/clsRTFTableLayout.h"
+#include "reports/clsRTFTask.h"
 #include "reports/clsRTFTentcard.h"
+#include "reports/clsRTFTimeline.h"
 #include "reports/clsReportClasses.h"
 
 #include <functional>
@@ -52,4 +61,19 @@ void RegisterReportClasses() {
     Register<clsRTFTableLayout>();
     Register<clsRTFTentcard>();
     Register<clsRTFStatistics>();
+    Register<clsRTFTask>(TakeFilter);
+    Register<clsRTFNotebook>();
+    Register<clsRTFFlights>();
+    Register<clsRTFFlightOverview>();
+    Register<clsRTFHotels>();
+    Register<clsRTFHotelOverview>();
+    Register<clsRTFEvent>();
+    Register<clsRTFTimeline>(TakeFilter);
+    // The months come with the route ("2027-01:2027-06"), or else from the month dialog's settings.
+    clsReportClasses::Register(QStringLiteral("clsRTFCalendar"), [](const clsReportRoute& route) {
+        clsRTFCalendar calendar;
+        if (!calendar.SetRange(route.Argument))
+            calendar.TakeStoredRange();
+        return calendar.Build();
+    });
 }

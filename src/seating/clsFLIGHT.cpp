@@ -4,15 +4,6 @@
 #include "core/modSchema.h"
 #include "guests/clsCONTACT.h"
 
-namespace {
-
-QString DateTimeText(const QString& value) {
-    const QDateTime moment = ParseDateTimeText(value);
-    return moment.isValid() ? FormatDateTime(moment, DateTimeFormat()) : value;
-}
-
-} // namespace
-
 const RecordTable<clsFLIGHT>& clsFLIGHT::Table() {
     static const RecordTable<clsFLIGHT> table{"FLIGHT",
                                               "FLIGHT_ID",
@@ -27,6 +18,11 @@ const RecordTable<clsFLIGHT>& clsFLIGHT::Table() {
                                                {"POS_Y", &clsFLIGHT::POS_Y},
                                                {"NOTES_TX", &clsFLIGHT::NOTES_TX}}};
     return table;
+}
+
+QString clsFLIGHT::DateTimeText(const QString& value) {
+    const QDateTime moment = ParseDateTimeText(value);
+    return moment.isValid() ? FormatDateTime(moment, DateTimeFormat()) : value;
 }
 
 QString clsFLIGHT::DEPARTS_DT_DateTimeFormat() const {

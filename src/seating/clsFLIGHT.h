@@ -21,6 +21,8 @@ public:
 
     static const RecordTable<clsFLIGHT>& Table();
 
+    // A departure or arrival as read, in the program's date-and-time format.
+    static QString DateTimeText(const QString& value);
     // Departure and arrival in the program's date-and-time format.
     QString DEPARTS_DT_DateTimeFormat() const;
     QString ARRIVES_DT_DateTimeFormat() const;

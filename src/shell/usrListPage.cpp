@@ -261,6 +261,17 @@ void usrListPage::SetFilterEntries(const QList<FilterEntry>& entries) {
     FitPanelWidth();
 }
 
+void usrListPage::ReplaceFilterEntries(const QList<FilterEntry>& entries) {
+    while (QLayoutItem* item = mPanelLayout->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+    const int before = mFilter;
+    SetFilterEntries(entries);
+    if (FilterCaption(before).isEmpty())
+        gRegistry().SaveSetting(SettingsKey(), QStringLiteral("FilterIndex"), QString::number(mFilter));
+}
+
 void usrListPage::AddPanelWidget(QWidget* widget) {
     mPanelColumn->insertWidget(mPanelColumn->count() - 1, widget);
     FitPanelWidth();
@@ -459,6 +470,7 @@ void usrListPage::hideEvent(QHideEvent* event) {
 }
 
 void usrListPage::Load() {
+    BeforeLoad();
     const qint64 lastKey =
         gRegistry().GetSetting(SettingsKey(), QStringLiteral("LastKey"), QStringLiteral("0")).toLongLong();
     picLoading->setVisible(!mLoaded);

@@ -70,6 +70,9 @@ public slots:
 protected:
     // ---- What the page sets up in its constructor ----
     void SetFilterEntries(const QList<FilterEntry>& entries);
+    // The panel's entries made anew (a page whose filters follow its records); a filter in force that is
+    // gone falls back to the first entry, and that is stored.
+    void ReplaceFilterEntries(const QList<FilterEntry>& entries);
     // The word behind the count: "1 of 1 gift", "2 of 5 gifts"; the plural is the noun and an "s" unless
     // told ("entry", "entries").
     void SetRecordNoun(const QString& noun, const QString& plural = QString());
@@ -108,6 +111,8 @@ protected:
     // ---- What the page answers ----
     // The count of a filter entry.
     virtual long CountOf(int filterId) const = 0;
+    // Runs before every load, before the rows of the filter in force are asked for.
+    virtual void BeforeLoad() {}
     // The rows of a filter; the number of records written.
     virtual int FillRows(clsGridFill& fill, int filterId) = 0;
     // A record was opened (double click, Enter).

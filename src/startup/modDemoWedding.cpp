@@ -745,8 +745,9 @@ Totals FillGuests(Generator& g, int guests, const Couple& couple, const QStringL
         hotel.ROOMS_NB = Num(std::max(10, away / hotelCount / 2 + 5));
         hotel.NOTES_TX = QStringLiteral("Block under \"") + couple.BrideLast + QLatin1Char('-') +
                          couple.GroomLast + QStringLiteral(" Wedding\"; release date 12-May-2027.");
-        hotel.POS_X = Num(600 + (i % 4) * 2400);
-        hotel.POS_Y = Num(600 + (i / 4) * 1800);
+        // Two columns of boxes on the map of the hotel board (484 by 496 pixels, 15 twips each).
+        hotel.POS_X = Num((16 + (i % 2) * 250) * 15);
+        hotel.POS_Y = Num((24 + (i / 2) * 72) * 15);
         hotel.Save(true);
         hotels << hotel;
     }
@@ -774,8 +775,9 @@ Totals FillGuests(Generator& g, int guests, const Couple& couple, const QStringL
             const int hour = 8 + (r * 2 + k) % 10;
             f.DEPARTS_DT = Iso(day, hour, 15);
             f.ARRIVES_DT = Iso(day, hour + (routes[r].Where == Region::UK ? 6 : 2), 40);
-            f.POS_X = Num(600 + (flights.size() % 4) * 2400);
-            f.POS_Y = Num(600 + (flights.size() / 4) * 1800);
+            // Three columns of boxes on the flight board.
+            f.POS_X = Num((16 + (flights.size() % 3) * 230) * 15);
+            f.POS_Y = Num((24 + (flights.size() / 3) * 72) * 15);
             f.Save(true);
             flights << f;
             flightRegion << routes[r].Where;

@@ -26,6 +26,8 @@ private slots:
         QTest::newRow("invitations") << 2 << int(clsReportCatalogue::Invitations);
         QTest::newRow("replies") << 3 << int(clsReportCatalogue::RSVPs);
         QTest::newRow("attendees") << 4 << int(clsReportCatalogue::Attendees);
+        QTest::newRow("checklist") << 6 << int(clsReportCatalogue::Checklist);
+        QTest::newRow("notebook") << 10 << int(clsReportCatalogue::Notebook);
     }
 
     void printingFromAPageOpensItsReportSection() {
@@ -53,8 +55,10 @@ private slots:
         TestDatabase db;
         for (int index : {0, 1, 2, 3, 4, 13, 99})
             QVERIFY2(modPages::IsAvailable(index), qPrintable(modPages::FormName(index)));
-        for (const char* dialog : {"frmBackup", "frmReports"})
+        for (const char* dialog : {"frmBackup", "frmReports", "frmCaptureMap"})
             QVERIFY2(modPages::HasDialog(QLatin1String(dialog)), dialog);
+        for (const QString& subPage : {modPages::HotelsSubPage(), modPages::FlightsSubPage()})
+            QVERIFY2(modPages::HasSubPage(subPage), qPrintable(subPage));
         std::unique_ptr<usrPage> welcome(modPages::CreateWelcome(nullptr));
         QVERIFY(welcome);
         QCOMPARE(welcome->objectName(), QStringLiteral("frmMain_00_Welcome"));

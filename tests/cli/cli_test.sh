@@ -232,6 +232,68 @@ check "seat by the rules" 0 '"hard_violations":0,.*"unseated":0,"written":true' 
 check "everyone attending is seated" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM CONTACT WHERE ATTENDING_FG = 'Y' AND DINING_TABLE_ID IS NULL"
 check "seat with a bad option" 2 'usage: seat \[--keep-seated\]' "$cli" seat --seconds 0
 check "seat --score takes nothing else" 2 'usage: seat' "$cli" seat --score --dry-run
+# Importing contacts: CSV or vCard by content, the suggested mapping or --map, all or nothing.
+"$cli" init >/dev/null
+imports="$home/import files"
+mkdir -p "$imports"
+printf 'First Name,Last Name,E-mail 1 - Value,Phone 1 - Value,Address 1 - Postal Code,Title,RSVP ID\r\nJohn,Smith,js@x.example,555-1 ::: 555-9,1970,Mr.,41\r\nMary,Smith,,,,Mrs.,41\r\n"Zoë ""Z""",Lee,,,,,\r\n' >"$imports/google export.txt"
+contacts_before=$(value "SELECT COUNT(*) FROM CONTACT")
+check "import dry run prints the preview" 0 '^"Mr\.","John",,"Smith",,,,,"1970",,,"js@x\.example","555-1",' "$cli" import "$imports/google export.txt" --dry-run
+check "a dry run changes nothing" 0 "^$contacts_before\$" value "SELECT COUNT(*) FROM CONTACT"
+check "import a Google file" 0 '^Added 3 contacts, replaced 0, left out 0; made 1 invitations$' "$cli" import "$imports/google export.txt" --five-digit-zip
+check "the couple's envelope" 0 '^Mr\. and Mrs\. John Smith$' value "SELECT OUTER_ENVELOPE_TX FROM INVITE WHERE INVITE_RSVP_ID = 41"
+check "the zip has five digits" 0 '01970' value "SELECT ADDRESS_TX FROM CONTACT WHERE EMAIL_TX = 'js@x.example'"
+check "again, replacing" 0 '^Added 0 contacts, replaced 3,' "$cli" import "$imports/google export.txt"
+check "again, allowing duplicates" 0 '^Added 3 contacts, replaced 0,' "$cli" import "$imports/google export.txt" --duplicates allow
+check "the names as they stood" 0 '^2$' value "SELECT COUNT(*) FROM CONTACT WHERE FIRST_NM = 'Zoë \"Z\"'"
+printf 'BEGIN:VCARD\r\nVERSION:3.0\r\nN:Okafor;Ada;;;\r\nTEL;TYPE=cell:555-7\r\nEND:VCARD\r\n' >"$imports/card.csv"
+check "a vCard by its content" 0 '^Added 1 contacts' "$cli" import "$imports/card.csv"
+printf 'Given;Cell\nBo;555-3\n' >"$imports/mapped.csv"
+check "import with --map" 0 '^,"Bo",,,,,,,,,,,"555-3",' "$cli" import "$imports/mapped.csv" --delimiter ';' --map "Given=FIRST_NM" --map "cell=PHONE_TX" --dry-run
+printf 'First,Last\nAnn,Lee\n"Bo,Li\n' >"$imports/broken.csv"
+contacts_before=$(value "SELECT COUNT(*) FROM CONTACT")
+check "a broken file is refused by file and line" 1 'broken\.csv, line 3: .*Nothing was imported\.$' "$cli" import "$imports/broken.csv"
+check "nothing of a broken file remains" 0 "^$contacts_before\$" value "SELECT COUNT(*) FROM CONTACT"
+check "import with a bad option" 2 'usage: import FILE' "$cli" import "$imports/mapped.csv" --duplicates sometimes
+check "import with an unknown field" 1 '"FAX_TX" is no field' "$cli" import "$imports/mapped.csv" --map "Cell=FAX_TX"
+# The checklist: due dates counted back from the wedding day, all of them, and only changes counted.
+check "checklist needs --refresh-due-dates" 2 'usage: checklist --refresh-due-dates' "$cli" checklist
+wedding=$("$cli" sql "SELECT EVENT_DT FROM EVENT WHERE EVENT_ID = 1" | tail -1 | tr -d '"\r' | cut -c1-10)
+check "checklist --refresh-due-dates" 0 '^Refreshed the due dates from the wedding day [0-9]{2}-[A-Z][a-z]{2}-[0-9]{4}: [0-9]+ tasks? changed$' "$cli" checklist --refresh-due-dates
+check "a second refresh changes nothing" 0 ': 0 tasks changed$' "$cli" checklist --refresh-due-dates
+check "a task of frame 10 falls due the day after the wedding" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM TASK WHERE TASK_GROUP_ID = 10 AND DUE_DT IS NOT date('$wedding', '+1 day')"
+check "a task of frame 0 falls due a year before" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM TASK WHERE TASK_GROUP_ID = 0 AND DUE_DT IS NOT date('$wedding', '-365 days')"
+# Travel: guests given a hotel or a flight, all of them or none, and the reports of both.
+hotel_of() { "$cli" sql "SELECT IFNULL(HOTEL_ID, 'none') FROM CONTACT WHERE CONTACT_ID = $1" | tail -1 | tr -d '"\r'; }
+check "travel lists the hotels" 0 '^Hotel #1 - .+: [0-9]+ guests?, [0-9]+ rooms?$' "$cli" travel
+check "travel lists the flights" 0 '^Flight #1 - .+: [0-9]+ passengers?$' "$cli" travel
+check "house two guests" 0 "^Hotel #2: ${ids[0]} ${ids[1]}$" "$cli" house --hotel 2 "${ids[0]}" "${ids[1]}"
+check "they stay at hotel 2" 0 '^2$' hotel_of "${ids[1]}"
+check "house with an unknown guest" 1 'no contact with the key 99999\. Nothing was changed' "$cli" house --hotel 1 "${ids[0]}" 99999
+check "nobody moved" 0 '^2$' hotel_of "${ids[0]}"
+check "house at an unknown hotel" 1 'there is no hotel #77\. Nothing was changed' "$cli" house --hotel 77 "${ids[0]}"
+check "house --none" 0 "^No hotel: ${ids[0]}$" "$cli" house --none "${ids[0]}"
+check "no hotel any more" 0 '^none$' hotel_of "${ids[0]}"
+check "board without a flight" 2 'usage: board \(--flight NUMBER \| --none\) ID' "$cli" board "${ids[0]}"
+check "board a flight" 0 "^Flight #1: ${ids[2]}$" "$cli" board --flight 1 "${ids[2]}"
+check "travel takes no arguments" 2 'usage: travel' "$cli" travel --all
+check "the hotels report" 0 '04_Hotels_.*\.rtf$' "$cli" report Hotels
+check "the flight overview as CSV" 0 '04_FlightOverview_.*\.csv$' "$cli" report Flights --filter 2 --format csv
+# Events: the wedding day moves as the event editor moves it; every date goes into one calendar file.
+check "wedding needs a real date" 2 '--date takes a date such as 2027-06-05' "$cli" wedding --date 2027-02-30
+check "wedding refuses a time that is none" 2 '--time takes a time such as' "$cli" wedding --date 2027-06-05 --time "half past"
+check "wedding --date --time" 0 '^05-Jun-2027 (3:30 PM|15:30)$' "$cli" wedding --date 2027-06-05 --time "3:30 PM"
+check "wedding prints the day" 0 '^05-Jun-2027 (3:30 PM|15:30)$' "$cli" wedding
+check "wedding --date keeps the hour" 0 '^12-Jun-2027 (3:30 PM|15:30)$' "$cli" wedding --date 2027-06-12
+check "the wedding day row follows" 0 '^"2027-06-12 15:30:00"' "$cli" sql "SELECT EVENT_DT FROM EVENT WHERE EVENT_ID = 1"
+check "ics rejects arguments" 2 'usage: ics \[--out FILE\]' "$cli" ics --frob
+check "ics writes the calendar" 0 "^$home/Reports/Vowren.ics$" "$cli" ics
+check "ics holds the wedding day" 0 '^DTSTART:20270612T' tr -d '\r' <"$home/Reports/Vowren.ics"
+check "ics --out" 0 "^$home/wedding.ics$" "$cli" ics --out "$home/wedding.ics"
+check "ics into a missing folder" 1 'was not written' "$cli" ics --out "$home/no/such/x.ics"
+check "the calendar of two months" 0 '09_Calendar_.*\.csv$' "$cli" report Events --filter 2 --months 2027-05:2027-06 --format csv
+check "a calendar of no months" 2 '--months takes the calendar' "$cli" report Events --filter 2 --months 2027-13:2027-01
+check "the timeline of the wedding day" 0 '10_Timeline_.*\.rtf$' "$cli" report Timelines --filter 1
 
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init

@@ -3,6 +3,7 @@
 #include "TestDatabase.h"
 #include "core/modGeneral.h"
 #include "planning/clsEVENT.h"
+#include "planning/clsTIMELINE.h"
 
 #include <QtTest>
 
@@ -39,4 +40,30 @@ QStringList Pluck(const QList<T>& records, QString T::*member) {
     for (const T& record : records)
         values << record.*member;
     return values;
+}
+
+// An event of that key, name and date ("2027-06-05 15:30:00" or "05-Jun-2027 3:30 PM"), at a known address.
+inline void AddTestEvent(const QString& id, const QString& name, const QString& when,
+                         const QString& notes = QString()) {
+    clsEVENT event;
+    event.EVENT_ID = id;
+    event.EVENT_TX = name;
+    event.EVENT_DT = when;
+    event.ADDRESS_TX = QStringLiteral("12 Maple Ave");
+    event.CITY_TX = QStringLiteral("Springfield");
+    event.NOTES_TX = notes;
+    RecordIO::Save(event, clsEVENT::Table(), true, false);
+}
+
+// A timeline entry of an event, for the DJ.
+inline void AddTestEntry(const QString& eventId, const QString& desc, const QString& start, const QString& end,
+                         const QString& notes = QString()) {
+    clsTIMELINE entry;
+    entry.EVENT_ID = eventId;
+    entry.TIMELINE_DESC = desc;
+    entry.TIMELINE_START_DT = start;
+    entry.TIMELINE_END_DT = end;
+    entry.CONTACT_NM = QStringLiteral("DJ");
+    entry.NOTES_TX = notes;
+    entry.Save(true);
 }

@@ -215,7 +215,7 @@ private slots:
             "INSERT INTO TASK (TASK_ID, TASK_NM, TASK_GROUP_ID, DUE_DT, COMPLETED_FG, SORT_ORDER_NB) "
             "VALUES (1, 'hand-set', 0, '2020-01-01', 'N', 1), (2, 'done', 10, NULL, 'Y', 2), "
             "(3, 'odd frame', 77, '2021-05-05', 'N', 3)");
-        clsTASK().RefreshDueDates();
+        QCOMPARE(clsTASK().RefreshDueDates(), 3);
         const QList<clsTASK> tasks = clsTASK().OpenRecords(clsTASK::ByDueDate);
         QCOMPARE(tasks.size(), 3);
         QCOMPARE(tasks[0].TASK_NM, QStringLiteral("hand-set"));
@@ -224,6 +224,11 @@ private slots:
         QCOMPARE(tasks[2].TASK_NM, QStringLiteral("done"));
         QCOMPARE(tasks[2].DUE_DT, QStringLiteral("01-Jan-2028"));
         QCOMPARE(tasks[2].COMPLETED_FG, QStringLiteral("Y"));
+        QCOMPARE(clsTASK().RefreshDueDates(), 0);
+        // Without a wedding date there is nothing to count back from: the dates stay.
+        PlanningDatabase::SetWeddingDate(QString());
+        QCOMPARE(clsTASK().RefreshDueDates(), 0);
+        QCOMPARE(PlanningDatabase::Count("TASK", "WHERE DUE_DT IS NULL"), QStringLiteral("0"));
     }
 
     void changingTheWeddingDateLeavesDueDatesAlone() {

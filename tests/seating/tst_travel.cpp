@@ -2,6 +2,7 @@
 #include "core/modGeneral.h"
 #include "seating/clsFLIGHT.h"
 #include "seating/clsHOTEL.h"
+#include "seating/modTravel.h"
 
 #include <QtTest>
 #include <memory>
@@ -205,6 +206,58 @@ private slots:
         QVERIFY(gDB().ForeignKeyExists("CONTACT", "CONTACT_TO_HOTEL_FK"));
         QVERIFY(!clsHOTEL::Patch_7_Apply());
         QVERIFY(db->Messages().Prompts.isEmpty());
+    }
+
+    // Many guests into a hotel or onto a flight at once, and back: all or nothing, the step undoable.
+    void assignManyAtOnce_data() {
+        QTest::addColumn<bool>("hotel");
+        QTest::newRow("hotel") << true;
+        QTest::newRow("flight") << false;
+    }
+    void assignManyAtOnce() {
+        QFETCH(bool, hotel);
+        const modTravel::Kind kind = hotel ? modTravel::Kind::Hotel : modTravel::Kind::Flight;
+        const char* column = hotel ? "HOTEL_ID" : "FLIGHT_ID";
+        const QString first = hotel ? AddHotel("Grand").HOTEL_ID : AddFlight("United 88").FLIGHT_ID;
+        const QString second = hotel ? AddHotel("Inn").HOTEL_ID : AddFlight("Delta 12").FLIGHT_ID;
+        AddGuest(3, column, first);
+        AddGuest(4, column, QString());
+        const auto where = [column](int id) {
+            return TestDatabase::Scalar(
+                QStringLiteral("SELECT %1 FROM CONTACT WHERE CONTACT_ID = ?").arg(QLatin1String(column)),
+                {id});
+        };
+
+        QVERIFY(ErrorOf([&] { modTravel::Assign(kind, {"3", "4", "999"}, second); }).contains("999"));
+        QCOMPARE(where(3), first);
+        QVERIFY(!ErrorOf([&] { modTravel::Assign(kind, {"4"}, "77"); }).isEmpty());
+        QCOMPARE(where(4), QString());
+
+        const modTravel::Assignments before = modTravel::Assign(kind, {"3", "4"}, second);
+        QCOMPARE(before, (modTravel::Assignments{{"3", first}, {"4", QString()}}));
+        QCOMPARE(where(3), second);
+        QCOMPARE(where(4), second);
+        modTravel::Restore(kind, before);
+        QCOMPARE(where(3), first);
+        QCOMPARE(where(4), QString());
+        QCOMPARE(modTravel::KeyOfNumber(kind, hotel ? clsHOTEL().NEXT_NB() : clsFLIGHT::NEXT_NB()),
+                 QString());
+    }
+
+    void boxesStayInside_data() {
+        QTest::addColumn<QPoint>("wanted");
+        QTest::addColumn<QPoint>("kept");
+        QTest::newRow("inside") << QPoint(100, 200) << QPoint(100, 200);
+        QTest::newRow("left and above") << QPoint(-5, -1) << QPoint(0, 0);
+        QTest::newRow("right and below") << QPoint(9000, 9000) << QPoint(700, 450);
+        QTest::newRow("on the corner") << QPoint(700, 450) << QPoint(700, 450);
+    }
+    void boxesStayInside() {
+        QFETCH(QPoint, wanted);
+        QFETCH(QPoint, kept);
+        QCOMPARE(modTravel::KeepInside(wanted, QSize(300, 50), QSize(1000, 500)), kept);
+        // A box larger than the area stays at its top left.
+        QCOMPARE(modTravel::KeepInside(wanted, QSize(2000, 600), QSize(1000, 500)), QPoint(0, 0));
     }
 };
 

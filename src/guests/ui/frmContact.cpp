@@ -122,26 +122,6 @@ QString SelectedCode(const QComboBox* list) {
     return list->currentIndex() < 0 ? QString() : list->currentData().toString();
 }
 
-// A pin on a map.
-QIcon MapPinIcon() {
-    return ControlIcons::Drawn(
-        [](QPainter& p, const QRectF& r, const QColor&) {
-            const double w = r.width();
-            QPainterPath pin;
-            const QPointF tip(r.center().x(), r.bottom() - w * 0.06);
-            const QRectF head(r.center().x() - w * 0.3, r.top() + w * 0.06, w * 0.6, w * 0.6);
-            pin.moveTo(tip);
-            pin.arcTo(head, -150, 300);
-            pin.closeSubpath();
-            p.setPen(Qt::NoPen);
-            p.setBrush(QColor(0xd9, 0x4a, 0x3d));
-            p.drawPath(pin);
-            p.setBrush(Qt::white);
-            p.drawEllipse(head.center(), w * 0.11, w * 0.11);
-        },
-        QColor());
-}
-
 } // namespace
 
 frmContact::frmContact(const QString& contactId, QWidget* parent, Mode mode) : frmEditorBase(parent) {
@@ -261,7 +241,7 @@ QWidget* frmContact::BuildAddressGroup() {
 
     mMapIt = new usrHyperlink(QStringLiteral("Map Location with Google Maps"), group);
     mMapIt->setObjectName(QStringLiteral("picMapIt"));
-    mMapIt->setPicture(MapPinIcon());
+    mMapIt->setPicture(ControlIcons::MapPin());
     mMapIt->setToolTip(QStringLiteral("Show this address on the map in the web browser"));
     connect(mMapIt, &usrHyperlink::Click, this, [this] { picMapIt_Click(); });
     form->addRow(QString(), mMapIt);

@@ -8,6 +8,7 @@
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmContact.h"
 #include "guests/ui/frmContactEmail.h"
+#include "guests/ui/frmContactImportDashboard.h"
 #include "guests/ui/modBulkRun.h"
 #include "platform/clsShell.h"
 #include "reports/clsReportCatalogue.h"
@@ -113,8 +114,7 @@ void frmMain_01_Contacts::BuildActions() {
     });
     AddAction(DeleteContact, kDelete, [this] { DeleteSelected(); });
     AddAction(EmailContact, kEmail, [this] { EmailSelected(); });
-    AddAction(ImportContacts, QStringLiteral("Import contacts"), [] {})->setEnabled(false);
-    ActionLink(ImportContacts)->setToolTip(QStringLiteral("Not available yet"));
+    AddAction(ImportContacts, QStringLiteral("Import contacts"), [this] { ImportContactsFromFile(); });
     AddAction(ExportContacts, QStringLiteral("Export contacts"), [this] { ExportContactsCsv(); });
     AddAction(PrintReports, QStringLiteral("Print reports"),
               [this] { modPages::OpenReports(this, clsReportCatalogue::Contacts, CurrentFilter()); });
@@ -205,6 +205,15 @@ bool frmMain_01_Contacts::ChangeSelected(const std::function<void(clsCONTACT&)>&
     }
     RefreshPanel();
     return ok;
+}
+
+void frmMain_01_Contacts::ImportContactsFromFile() {
+    frmContactImportDashboard dashboard(this);
+    connect(&dashboard, &frmContactImportDashboard::Imported, this, [this] {
+        Reload();
+        RefreshPanel();
+    });
+    dashboard.exec();
 }
 
 QString frmMain_01_Contacts::ExportContactsCsv() {

@@ -54,6 +54,8 @@ public:
     int DeleteSelected();
     // Sets a field of every selected contact, saved with their invitations' labels, all or nothing.
     bool ChangeSelected(const std::function<void(clsCONTACT&)>& change);
+    // Opens the import of contacts from a file; the list shows the new rows after it.
+    void ImportContactsFromFile();
     // Writes the contacts of the filter in force as CSV and opens the file; its full name.
     QString ExportContactsCsv();
     // The context menu as it stands for the selection (not shown).

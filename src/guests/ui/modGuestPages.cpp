@@ -1,5 +1,6 @@
 #include "guests/ui/modGuestPages.h"
 
+#include "guests/ui/ContactImportScreenshots.h"
 #include "guests/ui/GuestEditorScreenshots.h"
 #include "guests/ui/frmContact.h"
 #include "guests/ui/frmMain_01_Contacts.h"
@@ -13,6 +14,7 @@ void RegisterGuestPages() {
     // The invitation and reply editors open the contact editor through this.
     frmContact::RegisterEditor();
     GuestEditorScreenshots::Register();
+    ContactImportScreenshots::Register();
     modScreenshots::Register(QStringLiteral("frmContact"),
                              [] { return new frmContact(QStringLiteral("3"), nullptr); });
     modPages::RegisterPage(1, [](QWidget* parent) { return new frmMain_01_Contacts(parent); });

@@ -10,6 +10,7 @@
 #include "reports/modReportRegistry.h"
 #include "reports/modReportRunner.h"
 #include "reports/ui/frmReports.h"
+#include "reports/ui/frmReportEventDates.h"
 #include "reports/ui/frmReportsCustomFilter.h"
 
 #include <QApplication>
@@ -84,6 +85,15 @@ void RegisterOwnDialogs() {
     Register(QStringLiteral("frmReportsCustomFilter"), [](QWidget* parent, const clsReportRoute& route) {
         frmReportsCustomFilter form(route.FormNumber, parent);
         form.exec();
+    });
+    // The calendar asks for its months, then runs with them.
+    Register(QStringLiteral("frmReportEventDates"), [](QWidget* parent, const clsReportRoute& route) {
+        frmReportEventDates form(parent);
+        if (form.exec() != QDialog::Accepted || !form.Continue())
+            return;
+        clsReportRoute months = route;
+        months.Argument = form.Range().RangeText();
+        BuildAndShow(months);
     });
 }
 

@@ -1,5 +1,6 @@
 #include "pdf/clsPdfDialect.h"
 #include "reports/modReportRegistry.h"
+#include "reports/ui/frmReportEventDates.h"
 #include "reports/ui/frmReports.h"
 #include "reports/ui/frmReportsCustomFilter.h"
 #include "reports/ui/frmReportsFont.h"
@@ -27,6 +28,8 @@ void RegisterReportScreens() {
             form->findChild<QCheckBox*>(QString::fromLatin1(name))->setChecked(true);
         return form;
     });
+    modScreenshots::Register(QStringLiteral("frmReportEventDates"),
+                             []() -> QWidget* { return new frmReportEventDates(nullptr); });
     modScreenshots::Register(QStringLiteral("frmReportsFont"), []() -> QWidget* {
         return new frmReportsFont(QStringLiteral("Verdana"), QStringLiteral("9"), nullptr);
     });

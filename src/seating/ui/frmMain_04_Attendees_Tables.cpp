@@ -6,6 +6,8 @@
 #include "guests/clsCONTACT.h"
 #include "platform/clsShell.h"
 #include "reports/clsReportCatalogue.h"
+#include "seating/ui/clsBoardSteps.h"
+#include "seating/ui/clsGuestRoster.h"
 #include "seating/ui/frmTable.h"
 #include "seating/ui/frmTableSwap.h"
 #include "seating/ui/modTableShapes.h"
@@ -13,9 +15,7 @@
 #include "seating/ui/usrFloorPlan.h"
 #include "seating/ui/usrSeatingRules.h"
 #include "shell/controls/usrHyperlink.h"
-#include "shell/mdiMain.h"
 #include "shell/modPages.h"
-#include "shell/options/modBrideGroomIcons.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -40,7 +40,7 @@
 namespace {
 
 using FloorPlan::IdRole;
-using FloorPlan::IsTableRole;
+using FloorPlan::IsGroupRole;
 // The smallest floor; a larger wedding's tables make it grow to hold them all with a cell to spare.
 const QSizeF kMinimumFloor(1600, 1200);
 // The picture of the layout, scaled to fit; the PNG has twice as many pixels each way.
@@ -51,46 +51,6 @@ constexpr int kTableOverviewRow = 2;
 QString Plural(long count, const QString& one, const QString& many) {
     return count == 1 ? one : many;
 }
-
-// One step of seating: where the people sat before and where they sit after. The change is made before
-// the step is kept, so its first redo does nothing.
-class clsSeatsCommand : public QUndoCommand {
-public:
-    clsSeatsCommand(frmMain_04_Attendees_Tables* page, modSeating::Seats before, modSeating::Seats after,
-                    const QString& text)
-        : QUndoCommand(text), mPage(page), mBefore(std::move(before)), mAfter(std::move(after)) {}
-    void undo() override { mPage->ApplySeats(mBefore); }
-    void redo() override {
-        if (!mFirst)
-            mPage->ApplySeats(mAfter);
-        mFirst = false;
-    }
-
-private:
-    frmMain_04_Attendees_Tables* mPage;
-    modSeating::Seats mBefore, mAfter;
-    bool mFirst = true;
-};
-
-// One move of a table, in twips.
-class clsTableMoveCommand : public QUndoCommand {
-public:
-    clsTableMoveCommand(frmMain_04_Attendees_Tables* page, QString tableId, QPoint before, QPoint after)
-        : QUndoCommand(QStringLiteral("Move table")), mPage(page), mTable(std::move(tableId)),
-          mBefore(before), mAfter(after) {}
-    void undo() override { mPage->ApplyTablePosition(mTable, mBefore); }
-    void redo() override {
-        if (!mFirst)
-            mPage->ApplyTablePosition(mTable, mAfter);
-        mFirst = false;
-    }
-
-private:
-    frmMain_04_Attendees_Tables* mPage;
-    QString mTable;
-    QPoint mBefore, mAfter;
-    bool mFirst = true;
-};
 
 // The small picture of a table in the tree: round for shape 1, square for the others, highlighted for
 // the selected table.
@@ -132,31 +92,19 @@ QString NodeText(const clsDINING_TABLE& table) {
                : table.DINING_TABLE_NB + QStringLiteral(" - ") + table.DINING_TABLE_NM;
 }
 
-QIcon GuestIcon(const QString& contactId) {
-    if (contactId == QLatin1String("1") || contactId == QLatin1String("2"))
-        return modBrideGroomIcons::StoredIcon(contactId == QLatin1String("1"));
-    static const QIcon guest = mdiMain::ShellIcon(QStringLiteral("contacts"));
-    return guest;
-}
-
 } // namespace
 
 frmMain_04_Attendees_Tables::frmMain_04_Attendees_Tables(QWidget* parent) : usrPage(parent) {
     setObjectName(modPages::TablesSubPage());
     mUndo = new QUndoStack(this);
-    auto* undo = mUndoAction = mUndo->createUndoAction(this, QStringLiteral("&Undo"));
-    undo->setObjectName(QStringLiteral("mnuUndo"));
-    undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
-    auto* redo = mRedoAction = mUndo->createRedoAction(this, QStringLiteral("&Redo"));
-    redo->setObjectName(QStringLiteral("mnuRedo"));
-    redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    const QList<QAction*> undoRedo = FloorPlan::UndoActions(this, mUndo);
+    mUndoAction = undoRedo.value(0);
+    mRedoAction = undoRedo.value(1);
     auto* fit = new QAction(QStringLiteral("Fit the floor"), this);
     fit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
+    fit->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(fit, &QAction::triggered, this, &frmMain_04_Attendees_Tables::ZoomToFit);
-    for (QAction* action : {undo, redo, fit}) {
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        addAction(action);
-    }
+    addAction(fit);
 
     auto* floor = new clsFloorScene(this);
     floor->Grid = gApp().ShowGrid() != 0;
@@ -180,15 +128,13 @@ frmMain_04_Attendees_Tables::frmMain_04_Attendees_Tables(QWidget* parent) : usrP
         ShowTableMenu(global);
     });
 
-    auto* split = new QSplitter(this);
-    split->addWidget(BuildLeft());
-    split->addWidget(picFloor);
-    split->addWidget(new usrSeatingRules(this));
-    split->setStretchFactor(1, 1);
-    split->setSizes({300, 720, 260});
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
-    layout->addWidget(split);
+    // The floor shares its side of the page with the seating rules.
+    auto* board = new QSplitter(this);
+    board->addWidget(picFloor);
+    board->addWidget(new usrSeatingRules(this));
+    board->setStretchFactor(0, 1);
+    board->setSizes({720, 260});
+    FloorPlan::SplitPage(this, BuildLeft(), board);
     BuildMenus();
     Reload();
 }
@@ -222,29 +168,13 @@ QWidget* frmMain_04_Attendees_Tables::BuildLeft() {
     lblAttendees = new QLabel(left);
     lblAttendees->setObjectName(QStringLiteral("lblAttendees"));
 
-    auto* list = new usrGuestTree(false, left);
-    list->setObjectName(QStringLiteral("lvw"));
-    list->setHeaderLabels({QStringLiteral("Name")});
-    list->setRootIsDecorated(false);
+    usrGuestTree* list = FloorPlan::GuestList(left);
     list->OnDrop = [this](const QStringList& ids, bool, const QString&) { UnseatGuests(ids); };
     lvw = list;
 
-    auto* counts = new QHBoxLayout;
-    lblCount = new QLabel(left);
-    lblCount->setObjectName(QStringLiteral("lblCount"));
-    lblDiningTables = new QLabel(left);
-    lblDiningTables->setObjectName(QStringLiteral("lblDiningTables"));
-    counts->addWidget(lblCount);
-    counts->addWidget(lblDiningTables, 1);
-
-    auto* tree = new usrGuestTree(true, left);
-    tree->setObjectName(QStringLiteral("tvw"));
-    tree->setHeaderHidden(true);
-    tree->OnDrop = [this](const QStringList& ids, bool fromTable, const QString& table) {
-        OnTreeDrop(ids, fromTable, table);
-    };
-    tree->TableOfRow = [this](QTreeWidgetItem* item) { return TableOfNode(item); };
-    tree->setContextMenuPolicy(Qt::CustomContextMenu);
+    usrGuestTree* tree = FloorPlan::GroupTree(left);
+    tree->OnDrop = [this](const QStringList& ids, bool, const QString& table) { SeatGuests(table, ids); };
+    tree->GroupOfRow = [this](QTreeWidgetItem* item) { return mRoster->GroupOfRow(item); };
     connect(tree, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { OnTreeClicked(item); });
     connect(tree, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         QTreeWidgetItem* item = tvw->itemAt(at);
@@ -252,16 +182,21 @@ QWidget* frmMain_04_Attendees_Tables::BuildLeft() {
             return;
         OnTreeClicked(item);
         const QPoint global = tvw->viewport()->mapToGlobal(at);
-        if (item->data(0, IsTableRole).toBool())
+        if (item->data(0, IsGroupRole).toBool())
             ShowTableMenu(global);
         else
             mnuHiddenSeatedAttendeeRoot->popup(global);
     });
     tvw = tree;
+    mRoster = std::make_unique<clsGuestRoster>(lvw, tvw);
+    mRoster->GroupChanged = [this](const QString& table, int change) {
+        mTaken[table] = std::max(0L, mTaken.value(table) + change);
+        RefreshTable(table);
+    };
 
     for (QWidget* w : std::initializer_list<QWidget*>{lblTable, chkGrid, chkReveal, hint, lblAttendees, lvw})
         column->addWidget(w);
-    column->addLayout(counts);
+    FloorPlan::CountRow(column, &lblCount, &lblDiningTables, QStringLiteral("lblDiningTables"));
     column->addWidget(tvw);
     column->setStretchFactor(lvw, 1);
     column->setStretchFactor(tvw, 2);
@@ -321,14 +256,9 @@ void frmMain_04_Attendees_Tables::BuildMenus() {
                                         [this] { EmptyAllTables(); });
     mnuHiddenTableLayoutRoot->addAction(QStringLiteral("Delete all tables"), this,
                                         [this] { DeleteAllTables(); });
-    mnuHiddenSeatedAttendeeRoot =
-        menuOf("mnuHiddenSeatedAttendeeRoot", {{QStringLiteral("Remove Attendee"), [this] {
-                                                    QStringList ids;
-                                                    for (QTreeWidgetItem* item : tvw->selectedItems())
-                                                        if (!item->data(0, IsTableRole).toBool())
-                                                            ids << item->data(0, IdRole).toString();
-                                                    UnseatGuests(ids);
-                                                }}});
+    mnuHiddenSeatedAttendeeRoot = menuOf(
+        "mnuHiddenSeatedAttendeeRoot",
+        {{QStringLiteral("Remove Attendee"), [this] { UnseatGuests(mRoster->SelectedTreeGuests()); }}});
 }
 
 void frmMain_04_Attendees_Tables::showEvent(QShowEvent* event) {
@@ -338,7 +268,6 @@ void frmMain_04_Attendees_Tables::showEvent(QShowEvent* event) {
     mShown = true;
     emit Breadcrumb(QStringLiteral("Attendees>Table layout"));
 }
-
 
 void frmMain_04_Attendees_Tables::Leaving() {
     WriteLayoutPicture();
@@ -361,21 +290,17 @@ void frmMain_04_Attendees_Tables::Reload() {
 void frmMain_04_Attendees_Tables::LoadTables() {
     mFloor->clear();
     mTables.clear();
-    mTableNodes.clear();
-    mSeated.clear();
-    tvw->clear();
+    mRoster->Clear();
     const QList<clsDINING_TABLE> tables = RecordIO::Read([] { return clsDINING_TABLE::OpenRecords(); });
     mTaken = RecordIO::Read([] { return modSeating::SeatsTakenByTable(); });
     QSizeF needed = kMinimumFloor;
-    QList<QTreeWidgetItem*> nodes;
     for (const clsDINING_TABLE& table : tables) {
         usrDiningTable* item = AddTableItem(table);
         const QRectF box = item->sceneBoundingRect();
         needed = needed.expandedTo(
             QSizeF(box.right() + modSeating::kCellPixels, box.bottom() + modSeating::kCellPixels));
-        nodes << AddTableNode(table);
+        AddTableNode(table);
     }
-    tvw->addTopLevelItems(nodes);
     mFloorSize = needed;
     mFloor->setSceneRect(QRectF(QPointF(0, 0), mFloorSize));
 }
@@ -387,68 +312,30 @@ usrDiningTable* frmMain_04_Attendees_Tables::AddTableItem(const clsDINING_TABLE&
     item->SetMovable(!gApp().LockTableLayout());
     mFloor->addItem(item);
     mTables.insert(table.DINING_TABLE_ID, item);
-    connect(item, &usrDiningTable::Clicked, this,
-            [this](usrDiningTable* t) { SelectTable(t->DINING_TABLE.DINING_TABLE_ID); });
-    connect(item, &usrDiningTable::Dropped, this,
-            [this](usrDiningTable* t, const QPointF& at, const QPointF& grab) {
-                DropTable(t->DINING_TABLE.DINING_TABLE_ID, at, grab);
-            });
-    connect(item, &usrDiningTable::GuestsDropped, this, &frmMain_04_Attendees_Tables::OnGuestsDroppedOnTable);
+    connect(item, &usrFloorItem::Clicked, this, [this](usrFloorItem* t) { SelectTable(t->Key()); });
+    connect(
+        item, &usrFloorItem::Dropped, this,
+        [this](usrFloorItem* t, const QPointF& at, const QPointF& grab) { DropTable(t->Key(), at, grab); });
+    connect(item, &usrFloorItem::GuestsDropped, this,
+            [this](usrFloorItem* t, const QStringList& ids, bool) { SeatGuests(t->Key(), ids); });
     RefreshTable(table.DINING_TABLE_ID);
     return item;
 }
 
-QTreeWidgetItem* frmMain_04_Attendees_Tables::AddTableNode(const clsDINING_TABLE& table) {
-    auto* node = new QTreeWidgetItem;
-    node->setText(0, NodeText(table));
-    node->setIcon(0, NodeIcon(table.DINING_TABLE_TYPE_ID, false));
-    node->setData(0, IdRole, table.DINING_TABLE_ID);
-    node->setData(0, IsTableRole, true);
-    node->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDropEnabled);
-    mTableNodes.insert(table.DINING_TABLE_ID, node);
-    return node;
+void frmMain_04_Attendees_Tables::AddTableNode(const clsDINING_TABLE& table) {
+    mRoster->AddGroup(table.DINING_TABLE_ID, NodeText(table), NodeIcon(table.DINING_TABLE_TYPE_ID, false));
 }
 
 void frmMain_04_Attendees_Tables::LoadGuests() {
-    lvw->clear();
-    mUnseated.clear();
-    mGuests.clear();
     const QList<clsCONTACT> seated =
         RecordIO::Read([] { return clsCONTACT::OpenRecords(ContactFilter::Seated); });
     const QList<clsCONTACT> unseated =
         RecordIO::Read([] { return clsCONTACT::OpenRecords(ContactFilter::ToBeSeated); });
-    QHash<QString, QList<QTreeWidgetItem*>> children;
-    for (const clsCONTACT& c : seated) {
-        Remember(c);
-        if (mTableNodes.contains(c.DINING_TABLE_ID))
-            children[c.DINING_TABLE_ID] << GuestRow(c.CONTACT_ID, true);
-    }
-    for (auto it = children.cbegin(); it != children.cend(); ++it)
-        mTableNodes[it.key()]->addChildren(it.value());
-    QList<QTreeWidgetItem*> rows;
-    for (const clsCONTACT& c : unseated) {
-        Remember(c);
-        rows << GuestRow(c.CONTACT_ID, false);
-    }
-    lvw->addTopLevelItems(rows);
+    mRoster->Load(
+        seated, [](const clsCONTACT& c) { return c.DINING_TABLE_ID; }, unseated);
 }
 
 // ---- The views, item by item ----------------------------------------------------------------------------
-
-void frmMain_04_Attendees_Tables::Remember(const clsCONTACT& c) {
-    mGuests.insert(c.CONTACT_ID, {c.LastFirstMiddleSuffix(), c.LastFirstMiddle(), GuestIcon(c.CONTACT_ID)});
-}
-
-// The person's node under a table (seated) or row in the list, counted among those shown.
-QTreeWidgetItem* frmMain_04_Attendees_Tables::GuestRow(const QString& contactId, bool seated) {
-    const Guest& guest = mGuests[contactId];
-    auto* row = new QTreeWidgetItem;
-    row->setText(0, seated ? guest.TreeName : guest.ListName);
-    row->setIcon(0, guest.Icon);
-    row->setData(0, IdRole, contactId);
-    (seated ? mSeated : mUnseated).insert(contactId, row);
-    return row;
-}
 
 QPointF frmMain_04_Attendees_Tables::PixelsOf(const clsDINING_TABLE& table) const {
     return {table.POS_X.toDouble() / modSeating::kTwipsPerPixel,
@@ -461,55 +348,6 @@ QPoint frmMain_04_Attendees_Tables::TwipsOf(const QPointF& pixels) const {
 
 QSizeF frmMain_04_Attendees_Tables::FloorSize() const {
     return mFloorSize;
-}
-
-void frmMain_04_Attendees_Tables::ForgetSeat(const QString& contactId) {
-    if (QTreeWidgetItem* row = mUnseated.take(contactId))
-        delete row;
-    if (QTreeWidgetItem* node = mSeated.take(contactId)) {
-        const QString table = TableOfNode(node);
-        mTaken[table] = std::max(0L, mTaken.value(table) - 1);
-        delete node;
-        RefreshTable(table);
-    }
-}
-
-// A person the page has not loaded (made attending since it opened) is read when first seated.
-bool frmMain_04_Attendees_Tables::KnowGuest(const QString& contactId) {
-    if (mGuests.contains(contactId))
-        return true;
-    clsCONTACT c;
-    if (!RecordIO::Read([&] { return c.OpenRecord(contactId); }))
-        return false;
-    Remember(c);
-    return true;
-}
-
-void frmMain_04_Attendees_Tables::AddListItem(const QString& contactId) {
-    QTreeWidgetItem* row = GuestRow(contactId, false);
-    const QString name = row->text(0);
-    // Kept in name order, as it was loaded.
-    int at = 0;
-    while (at < lvw->topLevelItemCount() &&
-           QString::localeAwareCompare(lvw->topLevelItem(at)->text(0), name) <= 0)
-        ++at;
-    lvw->insertTopLevelItem(at, row);
-}
-
-// Moves the person's row or node to where they now sit, and counts the seat.
-void frmMain_04_Attendees_Tables::ShowSeat(const QString& contactId, const QString& tableId) {
-    if (!KnowGuest(contactId))
-        return;
-    ForgetSeat(contactId);
-    QTreeWidgetItem* parent = mTableNodes.value(tableId);
-    if (!parent) {
-        AddListItem(contactId);
-        return;
-    }
-    parent->addChild(GuestRow(contactId, true));
-    parent->sortChildren(0, Qt::AscendingOrder);
-    ++mTaken[tableId];
-    RefreshTable(tableId);
 }
 
 // The table's colour by its free seats, and the status line when it is the selected one.
@@ -535,11 +373,11 @@ void frmMain_04_Attendees_Tables::RefreshCounts() {
     const long tables = mTables.size();
     lblCount->setText(QString::number(tables));
     lblDiningTables->setText(Plural(tables, QStringLiteral("Dining Table"), QStringLiteral("Dining Tables")));
-    lblAttendees->setText(QStringLiteral("Attendees to be seated (%1)").arg(mUnseated.size()));
+    lblAttendees->setText(QStringLiteral("Attendees to be seated (%1)").arg(mRoster->ListCount()));
 }
 
 void frmMain_04_Attendees_Tables::UpdateTableNodeIcon(const QString& tableId) {
-    if (QTreeWidgetItem* node = mTableNodes.value(tableId))
+    if (QTreeWidgetItem* node = mRoster->GroupNode(tableId))
         node->setIcon(
             0, NodeIcon(mTables.value(tableId)->DINING_TABLE.DINING_TABLE_TYPE_ID, tableId == mSelected));
 }
@@ -554,8 +392,7 @@ void frmMain_04_Attendees_Tables::SelectTable(const QString& tableId) {
     mTables[tableId]->Highlight();
     UpdateTableNodeIcon(old);
     UpdateTableNodeIcon(tableId);
-    QTreeWidgetItem* node = mTableNodes.value(tableId);
-    tvw->setCurrentItem(node);
+    tvw->setCurrentItem(mRoster->GroupNode(tableId));
     lblTable->setText(StatusLine());
     UpdateLinks();
 }
@@ -574,30 +411,6 @@ void frmMain_04_Attendees_Tables::UpdateLinks() {
         item->SetMovable(!locked);
 }
 
-QStringList frmMain_04_Attendees_Tables::UnseatedIds() const {
-    QStringList ids;
-    for (int i = 0; i < lvw->topLevelItemCount(); ++i)
-        ids << lvw->topLevelItem(i)->data(0, IdRole).toString();
-    return ids;
-}
-
-QStringList frmMain_04_Attendees_Tables::GuestsAt(const QString& tableId) const {
-    QStringList ids;
-    if (const QTreeWidgetItem* node = mTableNodes.value(tableId)) {
-        for (int i = 0; i < node->childCount(); ++i)
-            ids << node->child(i)->data(0, IdRole).toString();
-    }
-    return ids;
-}
-
-QString frmMain_04_Attendees_Tables::TableOfNode(QTreeWidgetItem* item) const {
-    if (!item)
-        return {};
-    if (!item->data(0, IsTableRole).toBool())
-        item = item->parent();
-    return item ? item->data(0, IdRole).toString() : QString();
-}
-
 // ---- Drops ----------------------------------------------------------------------------------------------
 
 bool frmMain_04_Attendees_Tables::SeatGuests(const QString& tableId, const QStringList& contactIds) {
@@ -613,10 +426,11 @@ bool frmMain_04_Attendees_Tables::SeatGuests(const QString& tableId, const QStri
     modSeating::Seats after;
     for (auto it = result.Previous.cbegin(); it != result.Previous.cend(); ++it) {
         after.insert(it.key(), tableId);
-        ShowSeat(it.key(), tableId);
+        mRoster->Show(it.key(), tableId);
     }
     if (!after.isEmpty())
-        mUndo->push(new clsSeatsCommand(this, result.Previous, after, QStringLiteral("Seat attendees")));
+        mUndo->push(
+            new clsGuestsStep(ApplySeatsStep(), result.Previous, after, QStringLiteral("Seat attendees")));
     SelectTable(tableId);
     RefreshCounts();
     return true;
@@ -631,9 +445,9 @@ bool frmMain_04_Attendees_Tables::UnseatGuests(const QStringList& contactIds) {
     modSeating::Seats after;
     for (const QString& id : contactIds) {
         after.insert(id, QString());
-        ShowSeat(id, QString());
+        mRoster->Show(id, QString());
     }
-    mUndo->push(new clsSeatsCommand(this, before, after, QStringLiteral("Remove attendee")));
+    mUndo->push(new clsGuestsStep(ApplySeatsStep(), before, after, QStringLiteral("Remove attendee")));
     RefreshCounts();
     return true;
 }
@@ -642,28 +456,23 @@ bool frmMain_04_Attendees_Tables::ApplySeats(const modSeating::Seats& seats) {
     if (!RecordIO::Attempt([&] { modSeating::RestoreSeats(seats); }))
         return false;
     for (auto it = seats.cbegin(); it != seats.cend(); ++it)
-        ShowSeat(it.key(), it.value());
+        mRoster->Show(it.key(), it.value());
     RefreshCounts();
     return true;
 }
 
 void frmMain_04_Attendees_Tables::PushSeatsStep(const modSeating::Seats& before, const modSeating::Seats& after,
                                                 const QString& text) {
-    mUndo->push(new clsSeatsCommand(this, before, after, text));
+    mUndo->push(new clsGuestsStep(ApplySeatsStep(), before, after, text));
 }
 
-void frmMain_04_Attendees_Tables::OnGuestsDroppedOnTable(usrDiningTable* table, const QStringList& ids,
-                                                         bool) {
-    SeatGuests(table->DINING_TABLE.DINING_TABLE_ID, ids);
-}
-
-void frmMain_04_Attendees_Tables::OnTreeDrop(const QStringList& ids, bool, const QString& tableId) {
-    SeatGuests(tableId, ids);
+clsGuestsStep::Apply frmMain_04_Attendees_Tables::ApplySeatsStep() {
+    return [this](const GuestPlaces& seats) { return ApplySeats(seats); };
 }
 
 void frmMain_04_Attendees_Tables::OnTreeClicked(QTreeWidgetItem* item) {
-    if (item && item->data(0, IsTableRole).toBool())
-        SelectTable(TableOfNode(item));
+    if (item && item->data(0, IsGroupRole).toBool())
+        SelectTable(mRoster->GroupOfRow(item));
 }
 
 // The table, its size and the floor's, in twips, for working out where it lands.
@@ -689,7 +498,8 @@ bool frmMain_04_Attendees_Tables::PlaceTable(usrDiningTable* item, const modSeat
         return false;
     }
     if (after != before)
-        mUndo->push(new clsTableMoveCommand(this, id, before, after));
+        mUndo->push(new clsMoveStep([this, id](const QPoint& twips) { return ApplyTablePosition(id, twips); },
+                                    before, after, QStringLiteral("Move table")));
     return true;
 }
 
@@ -754,9 +564,7 @@ bool frmMain_04_Attendees_Tables::Ask(const QString& question) const {
 }
 
 void frmMain_04_Attendees_Tables::RemoveTable(const QString& tableId) {
-    for (const QString& guest : GuestsAt(tableId))
-        ShowSeat(guest, QString());
-    delete mTableNodes.take(tableId);
+    mRoster->RemoveGroup(tableId);
     delete mTables.take(tableId);
     mTaken.remove(tableId);
     if (mSelected == tableId)
@@ -858,7 +666,7 @@ void frmMain_04_Attendees_Tables::mfrmTable_Added(const QString& key) {
     if (!RecordIO::Read([&] { return table.OpenRecord(key); }))
         return;
     AddTableItem(table);
-    tvw->addTopLevelItem(AddTableNode(table));
+    AddTableNode(table);
     const QRectF box = mTables[key]->sceneBoundingRect();
     mFloorSize = mFloorSize.expandedTo(
         QSizeF(box.right() + modSeating::kCellPixels, box.bottom() + modSeating::kCellPixels));
@@ -876,7 +684,7 @@ void frmMain_04_Attendees_Tables::mfrmTable_Updated(const QString& key) {
     item->SetDINING_TABLE(table);
     if (selected)
         item->Highlight();
-    mTableNodes[key]->setText(0, NodeText(table));
+    mRoster->GroupNode(key)->setText(0, NodeText(table));
     UpdateTableNodeIcon(key);
     RefreshTable(key);
 }

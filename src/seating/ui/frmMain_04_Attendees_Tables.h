@@ -1,14 +1,16 @@
 #pragma once
 
 #include "seating/modSeating.h"
+#include "seating/ui/clsBoardSteps.h"
+#include "seating/ui/clsGuestRoster.h"
 #include "shell/usrPage.h"
 
 #include <QHash>
 #include <QIcon>
 #include <QPoint>
+#include <memory>
 
 class QCheckBox;
-class clsCONTACT;
 class QGraphicsScene;
 class QGraphicsView;
 class QLabel;
@@ -69,8 +71,8 @@ public:
     void SelectTable(const QString& tableId);
     QString SelectedTableId() const { return mSelected; }
     usrDiningTable* TableItem(const QString& tableId) const { return mTables.value(tableId); }
-    QStringList UnseatedIds() const;
-    QStringList GuestsAt(const QString& tableId) const;
+    QStringList UnseatedIds() const { return mRoster->ListIds(); }
+    QStringList GuestsAt(const QString& tableId) const { return mRoster->GuestsIn(tableId); }
     QString StatusLine() const;
     QUndoStack* UndoStack() const { return mUndo; }
     QList<QAction*> EditActions() const override { return {mUndoAction, mRedoAction}; }
@@ -98,12 +100,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Guest {
-        QString ListName;
-        QString TreeName;
-        QIcon Icon;
-    };
-
     void BuildLinks(class QVBoxLayout* column);
     void BuildMenus();
     QWidget* BuildLeft();
@@ -111,27 +107,19 @@ private:
     void LoadTables();
     void LoadGuests();
     usrDiningTable* AddTableItem(const clsDINING_TABLE& table);
-    QTreeWidgetItem* AddTableNode(const clsDINING_TABLE& table);
+    void AddTableNode(const clsDINING_TABLE& table);
     void RemoveTable(const QString& tableId);
-    void ShowSeat(const QString& contactId, const QString& tableId);
-    void ForgetSeat(const QString& contactId);
-    bool KnowGuest(const QString& contactId);
-    void Remember(const clsCONTACT& contact);
-    QTreeWidgetItem* GuestRow(const QString& contactId, bool seated);
-    void AddListItem(const QString& contactId);
+    clsGuestsStep::Apply ApplySeatsStep();
     void RefreshTable(const QString& tableId);
     void RefreshCounts();
     void UpdateLinks();
     void UpdateTableNodeIcon(const QString& tableId);
     void ShowTableMenu(const QPoint& screenPos);
     void ShowFloorMenu(const QPoint& screenPos);
-    void OnGuestsDroppedOnTable(usrDiningTable* table, const QStringList& ids, bool fromTable);
-    void OnTreeDrop(const QStringList& ids, bool fromTable, const QString& tableId);
     void OnTreeClicked(QTreeWidgetItem* item);
     void OpenTableEditor(const QString& key);
     void OpenTableSwap();
     void ZoomToFit();
-    QString TableOfNode(QTreeWidgetItem* item) const;
     QPoint TwipsOf(const QPointF& pixels) const;
     modSeating::TablePlacement PlacementOf(const usrDiningTable* item) const;
     bool PlaceTable(usrDiningTable* item, const modSeating::TablePlacement& place);
@@ -157,11 +145,8 @@ private:
     QAction* mUndoAction = nullptr;
     QAction* mRedoAction = nullptr;
 
-    QHash<QString, usrDiningTable*> mTables;      // table id -> its item on the floor
-    QHash<QString, QTreeWidgetItem*> mTableNodes; // table id -> its node
-    QHash<QString, QTreeWidgetItem*> mSeated;     // contact id -> its node under a table
-    QHash<QString, QTreeWidgetItem*> mUnseated;   // contact id -> its row in the list
-    QHash<QString, Guest> mGuests;
+    QHash<QString, usrDiningTable*> mTables; // table id -> its item on the floor
+    std::unique_ptr<clsGuestRoster> mRoster;
     QHash<QString, long> mTaken; // table id -> seats taken
     QString mSelected;
     QSizeF mFloorSize;

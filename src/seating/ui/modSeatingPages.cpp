@@ -2,13 +2,22 @@
 
 #include "core/RecordIO.h"
 #include "core/clsApp.h"
+#include "seating/ui/frmCaptureMap.h"
+#include "seating/ui/frmFlight.h"
+#include "seating/ui/frmHotel.h"
+#include "seating/ui/frmMain_04_Attendees_Flights.h"
+#include "seating/ui/frmMain_04_Attendees_Hotels.h"
 #include "seating/ui/frmMain_04_Attendees_Tables.h"
 #include "seating/ui/frmMain_04_Attendees_Tentcards.h"
 #include "seating/ui/frmTable.h"
 #include "seating/ui/frmTableSwap.h"
+#include "seating/ui/usrMapView.h"
 #include "seating/ui/usrSeatingRules.h"
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
+
+#include <QFileInfo>
+#include <QPainter>
 
 namespace {
 
@@ -25,7 +34,52 @@ QStringList BusiestTables() {
     });
 }
 
+// A small town as the captured map of the demo wedding, unless a map was captured.
+void DrawDemoMap() {
+    const QString path = frmCaptureMap::MapPath();
+    if (QFileInfo::exists(path))
+        return;
+    QImage map(frmCaptureMap::FrameSize(), QImage::Format_RGB32);
+    map.fill(QColor(0xf2, 0xef, 0xe6));
+    QPainter painter(&map);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(QRect(150, 330, 120, 90), QColor(0xcf, 0xe6, 0xbf));
+    painter.setBrush(QColor(0xa9, 0xcf, 0xee));
+    painter.setPen(Qt::NoPen);
+    painter.drawRect(QRect(0, 440, 484, 56));
+    painter.setPen(QPen(Qt::white, 9, Qt::SolidLine, Qt::RoundCap));
+    for (int y : {110, 200, 290})
+        painter.drawLine(10, y, 474, y);
+    for (int x : {120, 300, 420})
+        painter.drawLine(x, 10, x, 430);
+    painter.setPen(QPen(QColor(0xfb, 0xe3, 0xa4), 12, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(10, 420, 474, 240);
+    painter.end();
+    gApp().MakeReportPath();
+    map.save(path, "BMP");
+}
+
+// The travel boards of the demo wedding, the first hotel or flight selected.
+template <class Board> QWidget* TravelBoard() {
+    auto* page = new Board;
+    page->resize(modScreenshots::MainWindowSize());
+    page->SelectGroup(QStringLiteral("1"));
+    return page;
+}
+
+void RegisterTravelScreenshots() {
+    modScreenshots::Register(modPages::HotelsSubPage(), [] {
+        DrawDemoMap();
+        return TravelBoard<frmMain_04_Attendees_Hotels>();
+    });
+    modScreenshots::Register(modPages::FlightsSubPage(),
+                             [] { return TravelBoard<frmMain_04_Attendees_Flights>(); });
+    modScreenshots::Register(QStringLiteral("frmHotel"), [] { return new frmHotel(QStringLiteral("1")); });
+    modScreenshots::Register(QStringLiteral("frmFlight"), [] { return new frmFlight(QStringLiteral("1")); });
+}
+
 void RegisterScreenshots() {
+    RegisterTravelScreenshots();
     modScreenshots::Register(QStringLiteral("frmTable"), [] { return new frmTable(QString()); });
     modScreenshots::Register(QStringLiteral("frmTable_Edit"), [] {
         const QStringList tables = BusiestTables();
@@ -62,6 +116,16 @@ void RegisterSeatingPages() {
                               [](QWidget* parent) { return new frmMain_04_Attendees_Tables(parent); });
     modPages::RegisterSubPage(modPages::TentcardsSubPage(),
                               [](QWidget* parent) { return new frmMain_04_Attendees_Tentcards(parent); });
+    modPages::RegisterSubPage(modPages::HotelsSubPage(),
+                              [](QWidget* parent) { return new frmMain_04_Attendees_Hotels(parent); });
+    modPages::RegisterSubPage(modPages::FlightsSubPage(),
+                              [](QWidget* parent) { return new frmMain_04_Attendees_Flights(parent); });
+    // Without a web browser the map comes from a file or the clipboard; the desktop program puts its
+    // browser in.
+    modPages::RegisterDialog(QStringLiteral("frmCaptureMap"), [](QWidget* parent) {
+        frmCaptureMap dialog(new usrPlainMapView, parent);
+        dialog.exec();
+    });
     RegisterScreenshots();
     RegisterAutoSeatScreenshots();
 }

@@ -1,12 +1,18 @@
 #include "seating/ui/usrFloorPlan.h"
 
 #include "seating/modSeating.h"
-#include "seating/ui/usrDiningTable.h"
+#include "seating/ui/usrFloorItem.h"
 
+#include <QAction>
 #include <QDrag>
 #include <QDragMoveEvent>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QMimeData>
 #include <QPainter>
+#include <QSplitter>
+#include <QUndoStack>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 #include <cmath>
 
@@ -14,9 +20,67 @@ namespace {
 const QColor kGridColor(226, 218, 208);
 } // namespace
 
+namespace FloorPlan {
+
+QList<QAction*> UndoActions(QWidget* page, QUndoStack* stack) {
+    QAction* undo = stack->createUndoAction(page, QStringLiteral("&Undo"));
+    undo->setObjectName(QStringLiteral("mnuUndo"));
+    undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+    QAction* redo = stack->createRedoAction(page, QStringLiteral("&Redo"));
+    redo->setObjectName(QStringLiteral("mnuRedo"));
+    redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    for (QAction* action : {undo, redo}) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        page->addAction(action);
+    }
+    return {undo, redo};
+}
+
+void SplitPage(QWidget* page, QWidget* left, QWidget* board) {
+    auto* split = new QSplitter(page);
+    split->addWidget(left);
+    split->addWidget(board);
+    split->setStretchFactor(1, 1);
+    split->setSizes({300, 980});
+    auto* layout = new QHBoxLayout(page);
+    layout->setContentsMargins(8, 8, 8, 8);
+    layout->addWidget(split);
+}
+
+usrGuestTree* GuestList(QWidget* parent) {
+    auto* list = new usrGuestTree(false, parent);
+    list->setObjectName(QStringLiteral("lvw"));
+    list->setHeaderLabels({QStringLiteral("Name")});
+    list->setRootIsDecorated(false);
+    return list;
+}
+
+usrGuestTree* GroupTree(QWidget* parent) {
+    auto* tree = new usrGuestTree(true, parent);
+    tree->setObjectName(QStringLiteral("tvw"));
+    tree->setHeaderHidden(true);
+    tree->setContextMenuPolicy(Qt::CustomContextMenu);
+    return tree;
+}
+
+void CountRow(QVBoxLayout* column, QLabel** count, QLabel** caption, const QString& captionName) {
+    auto* row = new QHBoxLayout;
+    *count = new QLabel(column->parentWidget());
+    (*count)->setObjectName(QStringLiteral("lblCount"));
+    *caption = new QLabel(column->parentWidget());
+    (*caption)->setObjectName(captionName);
+    row->addWidget(*count);
+    row->addWidget(*caption, 1);
+    column->addLayout(row);
+}
+
+} // namespace FloorPlan
+
 void clsFloorScene::drawBackground(QPainter* painter, const QRectF& exposed) {
     const QRectF area = exposed.intersected(sceneRect());
     painter->fillRect(area, FloorPlan::FloorColor);
+    if (!Picture.isNull())
+        painter->drawImage(QPointF(0, 0), Picture);
     if (!Grid)
         return;
     const int cell = modSeating::kCellPixels;
@@ -41,7 +105,7 @@ void usrFloorView::wheelEvent(QWheelEvent* event) {
     event->accept();
 }
 
-usrGuestTree::usrGuestTree(bool fromTable, QWidget* parent) : QTreeWidget(parent), mFromTable(fromTable) {
+usrGuestTree::usrGuestTree(bool fromGroup, QWidget* parent) : QTreeWidget(parent), mFromGroup(fromGroup) {
     setDragEnabled(true);
     setAcceptDrops(true);
     setDragDropMode(QAbstractItemView::DragDrop);
@@ -56,10 +120,10 @@ QStringList usrGuestTree::mimeTypes() const {
 QMimeData* usrGuestTree::mimeData(const QList<QTreeWidgetItem*>& items) const {
     QStringList ids;
     for (QTreeWidgetItem* item : items) {
-        if (!item->data(0, FloorPlan::IsTableRole).toBool())
+        if (!item->data(0, FloorPlan::IsGroupRole).toBool())
             ids << item->data(0, FloorPlan::IdRole).toString();
     }
-    return GuestDrag::Make(ids, mFromTable);
+    return GuestDrag::Make(ids, mFromGroup);
 }
 
 void usrGuestTree::startDrag(Qt::DropActions) {
@@ -70,8 +134,8 @@ void usrGuestTree::startDrag(Qt::DropActions) {
 
 void usrGuestTree::dragEnterEvent(QDragEnterEvent* event) {
     QStringList ids;
-    bool fromTable = false;
-    event->setAccepted(GuestDrag::Read(event->mimeData(), &ids, &fromTable));
+    bool fromGroup = false;
+    event->setAccepted(GuestDrag::Read(event->mimeData(), &ids, &fromGroup));
 }
 
 void usrGuestTree::dragMoveEvent(QDragMoveEvent* event) {
@@ -79,26 +143,26 @@ void usrGuestTree::dragMoveEvent(QDragMoveEvent* event) {
 }
 
 void usrGuestTree::dropEvent(QDropEvent* event) {
-    const std::optional<QString> table = Target(event);
+    const std::optional<QString> group = Target(event);
     QStringList ids;
-    bool fromTable = false;
-    if (!table || !GuestDrag::Read(event->mimeData(), &ids, &fromTable))
+    bool fromGroup = false;
+    if (!group || !GuestDrag::Read(event->mimeData(), &ids, &fromGroup))
         return;
     event->setDropAction(Qt::CopyAction);
     event->accept();
     if (OnDrop)
-        OnDrop(ids, fromTable, *table);
+        OnDrop(ids, fromGroup, *group);
 }
 
-// Where a drop would go: the tree takes guests on a table's row or a guest's, the list takes guests
-// coming back from the tables anywhere.
+// Where a drop would go: the tree takes guests on a group's row or a guest's, the list takes guests
+// coming back from the groups anywhere.
 std::optional<QString> usrGuestTree::Target(QDropEvent* event) const {
     QStringList ids;
-    bool fromTable = false;
-    if (!GuestDrag::Read(event->mimeData(), &ids, &fromTable))
+    bool fromGroup = false;
+    if (!GuestDrag::Read(event->mimeData(), &ids, &fromGroup))
         return std::nullopt;
-    if (!mFromTable)
-        return fromTable ? std::optional<QString>(QString()) : std::nullopt;
-    const QString table = TableOfRow ? TableOfRow(itemAt(event->position().toPoint())) : QString();
-    return table.isEmpty() ? std::nullopt : std::optional<QString>(table);
+    if (!mFromGroup)
+        return fromGroup ? std::optional<QString>(QString()) : std::nullopt;
+    const QString group = GroupOfRow ? GroupOfRow(itemAt(event->position().toPoint())) : QString();
+    return group.isEmpty() ? std::nullopt : std::optional<QString>(group);
 }

@@ -134,6 +134,25 @@ QIcon Information(const QColor& color) {
         sign);
 }
 
+QIcon MapPin() {
+    return Drawn(
+        [](QPainter& p, const QRectF& r, const QColor&) {
+            const double w = r.width();
+            QPainterPath pin;
+            const QPointF tip(r.center().x(), r.bottom() - w * 0.06);
+            const QRectF head(r.center().x() - w * 0.3, r.top() + w * 0.06, w * 0.6, w * 0.6);
+            pin.moveTo(tip);
+            pin.arcTo(head, -150, 300);
+            pin.closeSubpath();
+            p.setPen(Qt::NoPen);
+            p.setBrush(QColor(0xd9, 0x4a, 0x3d));
+            p.drawPath(pin);
+            p.setBrush(Qt::white);
+            p.drawEllipse(head.center(), w * 0.11, w * 0.11);
+        },
+        QColor());
+}
+
 void PaintFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palette) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

@@ -23,6 +23,9 @@ QIcon Magnifier(const QColor& color = QColor());
 // A round "i" sign, in the colour of a hint.
 QIcon Information(const QColor& color = QColor());
 
+// A red pin on a map, for the links that show an address on the map.
+QIcon MapPin();
+
 // The keyboard focus around a custom-painted control: a rounded frame in the palette's highlight
 // colour, plain on every style (some styles draw no focus rectangle at all).
 void PaintFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palette);

@@ -4,6 +4,7 @@
 #include "reports/clsReportCatalogue.h"
 #include "seating/SeatingTestData.h"
 #include "seating/modSeating.h"
+#include "seating/ui/GuestDropTools.h"
 #include "seating/ui/frmMain_04_Attendees_Tables.h"
 #include "seating/ui/usrDiningTable.h"
 #include "shell/controls/usrHyperlink.h"
@@ -27,17 +28,6 @@ using namespace SeatingTestData;
 using UiTestTools::Child;
 
 namespace {
-
-// Guests dragged onto a widget at a point, the way the mouse does it: enter, move, drop.
-void DropGuests(QWidget* target, const QPoint& at, const QStringList& ids, bool fromTable) {
-    std::unique_ptr<QMimeData> data(GuestDrag::Make(ids, fromTable));
-    QDragEnterEvent enter(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &enter);
-    QDragMoveEvent move(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &move);
-    QDropEvent drop(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &drop);
-}
 
 QStringList UnseatedInDb() {
     QStringList ids;
