@@ -53,6 +53,13 @@ bool StartForReading(QTextStream& err);
 // Prints every table with its seats taken, "Table #n: t of s seats taken"; the exit status.
 int ListTables(QTextStream& out, QTextStream& err);
 
+// Runs the work, printing a refusal of the database on err followed by "Nothing was changed."; the exit status.
+int Guarded(const QString& command, QTextStream& err, const std::function<int()>& work);
+
+// `seat` without --table: every attendee seated by the seating rules, or the score of the chart as it is.
+int RunAutoSeat(const QStringList& args, QTextStream& out, QTextStream& err);
+QString AutoSeatUsage();
+
 // The value after the option at i, moving i past it; nothing when the option ends the line.
 std::optional<QString> OptionValue(const QStringList& args, qsizetype& i);
 // Runs the work, printing a refusal of the database on err ("... Nothing was changed."); the exit status.

@@ -21,6 +21,9 @@ const QString kSeatUsage = QStringLiteral("seat --table NUMBER ID...");
 const QString kUnseatUsage = QStringLiteral("unseat ID...");
 
 int RunSeat(const QStringList& args, QTextStream& out, QTextStream& err) {
+    // Without --table the whole wedding is seated by the rules.
+    if (args.isEmpty() || (args.first().startsWith(QLatin1String("--")) && args.first() != QLatin1String("--table")))
+        return RunAutoSeat(args, out, err);
     const QString number = args.value(1);
     if (args.value(0) != QLatin1String("--table") || !AreKeys({number}) || !AreKeys(args.mid(2))) {
         err << "vowren-cli: seat: usage: " << kSeatUsage << " (numbers and keys are whole numbers above 0)\n";
@@ -73,9 +76,10 @@ int ListTables(QTextStream& out, QTextStream& err) {
 
 CliCommand SeatCommand() {
     return {
-        QStringLiteral("seat"), kSeatUsage,
+        QStringLiteral("seat"), kSeatUsage + QStringLiteral(" | ") + AutoSeatUsage(),
         QStringLiteral("Seat the contacts of these keys at the table of that number: all of them, or none "
-                       "when they do not fit."),
+                       "when they do not fit. Without --table, seat every attendee by the seating rules and "
+                       "print the chart's figures as JSON (--score: the chart as it stands)."),
         RunSeat};
 }
 

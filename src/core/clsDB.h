@@ -28,7 +28,7 @@ private:
 // brought the file to (the engine's user version). A file of an older Vowren has neither.
 namespace DbIdentity {
 inline constexpr int kApplicationId = 0x56574E52; // "VWNR"
-inline constexpr int kSchemaVersion = 1;
+inline constexpr int kSchemaVersion = 2; // 2: the seating rules
 } // namespace DbIdentity
 
 // The one gateway to the database file: one SQLite connection with foreign keys on, the journal in

@@ -108,6 +108,14 @@ const QMap<QString, QString>& Definitions() {
                     "WORDING_TX TEXT) STRICT"},
         {"VOWREN", "CREATE TABLE VOWREN (VOWREN_ID INTEGER NOT NULL CONSTRAINT VOWREN_PK PRIMARY KEY, "
                    "VOWREN_TX TEXT) STRICT"},
+        {"SEATING_RULE", "CREATE TABLE SEATING_RULE (SEATING_RULE_ID INTEGER NOT NULL CONSTRAINT SEATING_RULE_PK "
+                         "PRIMARY KEY, "
+                         "CONTACT_ID INTEGER NOT NULL CONSTRAINT SEATING_RULE_TO_CONTACT_FK REFERENCES CONTACT "
+                         "(CONTACT_ID) ON DELETE CASCADE, "
+                         "OTHER_CONTACT_ID INTEGER NOT NULL CONSTRAINT SEATING_RULE_TO_OTHER_CONTACT_FK REFERENCES "
+                         "CONTACT (CONTACT_ID) ON DELETE CASCADE, "
+                         "RULE_CD TEXT NOT NULL CHECK (RULE_CD IN ('T', 'A')), "
+                         "WEIGHT_NB INTEGER CHECK (WEIGHT_NB BETWEEN 1 AND 100), NOTES_TX TEXT) STRICT"},
         {"IMPORT_FIELD", "CREATE TABLE IMPORT_FIELD (IMPORT_FIELD_ID INTEGER NOT NULL CONSTRAINT IMPORT_FIELD_PK "
                          "PRIMARY KEY, IMPORT_FIELD_NM TEXT, MAP_IMPORT_FIELD_NM TEXT) STRICT"},
     };
@@ -153,7 +161,7 @@ QStringList TableNames() {
             "VENDOR_CATEGORY_DICT", "SONGLIST_DICT", "INVITE", "DINING_TABLE", "FLIGHT", "HOTEL", "EVENT",
             "CONTACT",   "VENDOR",        "BUDGET",          "TASK",       "GIFT",         "TIMELINE",
             "INVITE_WIDGET", "NOTEBOOK",  "TENTCARD",        "SONG",       "WORDING",      "VOWREN",
-            "IMPORT_FIELD"};
+            "IMPORT_FIELD", "SEATING_RULE"};
 }
 
 QString TableDDL(const QString& table) { return Definitions().value(table); }
@@ -165,6 +173,9 @@ QStringList IndexDDL(const QString& table) {
     if (table == QLatin1String("CONTACT"))
         return {QStringLiteral("CREATE INDEX CONTACT_INVITE_ID_INDEX ON CONTACT (INVITE_ID)"),
                 QStringLiteral("CREATE INDEX CONTACT_GUEST_OF_ID_INDEX ON CONTACT (GUEST_OF_ID)")};
+    if (table == QLatin1String("SEATING_RULE"))
+        return {QStringLiteral("CREATE INDEX SEATING_RULE_CONTACT_ID_INDEX ON SEATING_RULE (CONTACT_ID)"),
+                QStringLiteral("CREATE INDEX SEATING_RULE_OTHER_CONTACT_ID_INDEX ON SEATING_RULE (OTHER_CONTACT_ID)")};
     if (table == QLatin1String("TITLE_DICT"))
         return {QStringLiteral("CREATE UNIQUE INDEX TITLE_TX_INDEX ON TITLE_DICT (TITLE_TX COLLATE NOCASE)")};
     return {};

@@ -18,6 +18,7 @@
 #include "seating/clsDINING_TABLE.h"
 #include "seating/clsFLIGHT.h"
 #include "seating/clsHOTEL.h"
+#include "seating/clsSEATING_RULE.h"
 #include "seating/clsTENTCARD.h"
 #include "startup/clsApp_Counters.h"
 #include "widgets/clsINVITE_WIDGET.h"
@@ -83,6 +84,7 @@ void PatchSteps() {
           [] { clsDICT::CreateTable_TITLE_DICT(); }, [] { clsINVITE_WIDGET::CreateTable(); },
           [] { clsCONTACT::Patch_2_Apply(); }, [] { clsINVITE::Patch_2_Apply(); }});
     EachAlone(10, {[] { Patch1(); }});
+    Step(10, {[] { clsSEATING_RULE::CreateTable(); }});
 }
 
 // The couple always attend their own wedding; a file that may not be written is only read.

@@ -221,6 +221,17 @@ check "unseat needs keys" 2 'usage: unseat ID' "$cli" unseat
 check "unseat one" 0 "^Unseated: ${ids[0]}$" "$cli" unseat "${ids[0]}"
 check "tables after unseating one" 0 '^Table #1: 11 of 12 seats taken$' "$cli" tables
 
+# Seating everyone by the rules: JSON out, the chart written only without --dry-run.
+before=$("$cli" seat --score)
+check "seat --score before" 0 '^\{"friend_pairs":[0-9]+,"hard_violations":0,.*"score":0,' echo "$before"
+check "seat --dry-run" 0 '^\{.*"hard_violations":0,.*"seated":[0-9]+,.*"unseated":[0-9]+,"written":false\}$' "$cli" seat --dry-run --seconds 2 --seed 3
+check "the dry run wrote nothing" 0 '' test "$before" = "$("$cli" seat --score)"
+same_seed() { "$cli" seat --dry-run --seed 11 | sed 's/"seconds":[0-9.]*,//'; }
+check "the same seed, the same chart" 0 '' test "$(same_seed)" = "$(same_seed)"
+check "seat by the rules" 0 '"hard_violations":0,.*"unseated":0,"written":true' "$cli" seat --seconds 2
+check "everyone attending is seated" 0 '^"0"' "$cli" sql "SELECT COUNT(*) FROM CONTACT WHERE ATTENDING_FG = 'Y' AND DINING_TABLE_ID IS NULL"
+check "seat with a bad option" 2 'usage: seat \[--keep-seated\]' "$cli" seat --seconds 0
+check "seat --score takes nothing else" 2 'usage: seat' "$cli" seat --score --dry-run
 # Importing contacts: CSV or vCard by content, the suggested mapping or --map, all or nothing.
 "$cli" init >/dev/null
 imports="$home/import files"

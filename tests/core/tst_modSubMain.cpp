@@ -2,6 +2,7 @@
 #include "core/clsApp.h"
 #include "core/clsDB.h"
 #include "core/clsVOWREN.h"
+#include "core/modBackup.h"
 #include "core/modDatabaseLock.h"
 #include "core/modSchema.h"
 #include "core/modSubMain.h"
@@ -262,6 +263,19 @@ private slots:
 
     // A file of the release before the sixth patch: no hotels, flights, notebook, table types, attached
     // files or report colours yet.
+    // A file of the version before the seating rules gets their table, after a copy of it as it was.
+    void aFileBeforeTheSeatingRulesGetsThem() {
+        Start();
+        gDB().ExecuteScript("DROP TABLE SEATING_RULE; PRAGMA user_version=1;");
+        gDB().CloseConnection();
+        Start();
+        QVERIFY(gDB().TableExists("SEATING_RULE"));
+        QVERIFY(gDB().ForeignKeyExists("SEATING_RULE", "SEATING_RULE_TO_OTHER_CONTACT_FK"));
+        QCOMPARE(gDB().SchemaVersion(), DbIdentity::kSchemaVersion);
+        const QStringList copies = QDir(modBackup::Folder()).entryList({"*v1-before-update*"});
+        QCOMPARE(copies.size(), 1);
+    }
+
     void aFileBeforePatchSixIsMigrated() {
         Start();
         gDB().ExecuteScript(

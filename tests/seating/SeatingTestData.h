@@ -4,9 +4,32 @@
 #include "seating/clsDINING_TABLE.h"
 
 #include <QStringList>
+#include <sqlite3.h>
 
 // Tables and attending guests for the seating tests, and where the database says they sit.
 namespace SeatingTestData {
+
+// Another program writing to the test's database while the object lives: it holds the write lock, and the
+// program's own connection waits only briefly for it, so that a save is refused as "in use".
+class OtherWriter {
+public:
+    OtherWriter() {
+        sqlite3_open(qPrintable(gDB().DatabasePath), &mOther);
+        Locked = sqlite3_exec(mOther, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) == SQLITE_OK;
+        gDB().SetBusyTimeout(20);
+    }
+    ~OtherWriter() {
+        sqlite3_exec(mOther, "ROLLBACK", nullptr, nullptr, nullptr);
+        sqlite3_close(mOther);
+        gDB().SetBusyTimeout(clsDB::BusyTimeoutMs);
+    }
+    OtherWriter(const OtherWriter&) = delete;
+    OtherWriter& operator=(const OtherWriter&) = delete;
+    bool Locked = false;
+
+private:
+    sqlite3* mOther = nullptr;
+};
 
 inline QString AddTable(const QString& number, int seats, int x = 0, int y = 0,
                         const QString& shape = QStringLiteral("1")) {

@@ -13,6 +13,7 @@
 #include "seating/ui/modTableShapes.h"
 #include "seating/ui/usrDiningTable.h"
 #include "seating/ui/usrFloorPlan.h"
+#include "seating/ui/usrSeatingRules.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/modPages.h"
 
@@ -127,7 +128,13 @@ frmMain_04_Attendees_Tables::frmMain_04_Attendees_Tables(QWidget* parent) : usrP
         ShowTableMenu(global);
     });
 
-    FloorPlan::SplitPage(this, BuildLeft(), picFloor);
+    // The floor shares its side of the page with the seating rules.
+    auto* board = new QSplitter(this);
+    board->addWidget(picFloor);
+    board->addWidget(new usrSeatingRules(this));
+    board->setStretchFactor(0, 1);
+    board->setSizes({720, 260});
+    FloorPlan::SplitPage(this, BuildLeft(), board);
     BuildMenus();
     Reload();
 }
@@ -452,6 +459,11 @@ bool frmMain_04_Attendees_Tables::ApplySeats(const modSeating::Seats& seats) {
         mRoster->Show(it.key(), it.value());
     RefreshCounts();
     return true;
+}
+
+void frmMain_04_Attendees_Tables::PushSeatsStep(const modSeating::Seats& before, const modSeating::Seats& after,
+                                                const QString& text) {
+    mUndo->push(new clsGuestsStep(ApplySeatsStep(), before, after, text));
 }
 
 clsGuestsStep::Apply frmMain_04_Attendees_Tables::ApplySeatsStep() {

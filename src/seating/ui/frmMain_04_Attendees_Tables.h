@@ -85,6 +85,8 @@ public:
     // ---- For the undo steps ----
     // Writes the seats and shows them; false after the message when the database refused.
     bool ApplySeats(const modSeating::Seats& seats);
+    // Keeps a change of seats already written as one step to undo.
+    void PushSeatsStep(const modSeating::Seats& before, const modSeating::Seats& after, const QString& text);
     // Writes the table's top left (twips) and puts it there.
     bool ApplyTablePosition(const QString& tableId, const QPoint& twips);
 

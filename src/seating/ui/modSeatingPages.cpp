@@ -12,6 +12,7 @@
 #include "seating/ui/frmTable.h"
 #include "seating/ui/frmTableSwap.h"
 #include "seating/ui/usrMapView.h"
+#include "seating/ui/usrSeatingRules.h"
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
 
@@ -126,4 +127,5 @@ void RegisterSeatingPages() {
         dialog.exec();
     });
     RegisterScreenshots();
+    RegisterAutoSeatScreenshots();
 }
