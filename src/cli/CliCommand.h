@@ -62,8 +62,6 @@ QString AutoSeatUsage();
 
 // The value after the option at i, moving i past it; nothing when the option ends the line.
 std::optional<QString> OptionValue(const QStringList& args, qsizetype& i);
-// Runs the work, printing a refusal of the database on err ("... Nothing was changed."); the exit status.
-int Guarded(const QString& command, QTextStream& err, const std::function<int()>& work);
 
 // Keys and numbers on the command line: whole numbers above 0, at least one of them.
 bool AreKeys(const QStringList& keys);
