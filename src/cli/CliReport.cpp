@@ -103,8 +103,10 @@ std::optional<clsReportRoute> RowRoute(int section, std::optional<int> key, QTex
             err << "vowren-cli: report: the custom filter takes its boxes from --custom\n";
             return std::nullopt;
         }
-        // The calendar's months come from --months, or as the month dialog kept them.
-        if (route.Dialog == QLatin1String("frmReportEventDates"))
+        // The calendar's months come from --months, or as the month dialog kept them; a report that is
+        // not built yet is said to be so, whatever screen it would need.
+        if (route.Dialog == QLatin1String("frmReportEventDates") ||
+            (!route.ClassName.isEmpty() && !clsReportClasses::Exists(route.ClassName)))
             return route;
         if (!route.Dialog.isEmpty() || route.ClassName.isEmpty()) {
             err << "vowren-cli: report: \"" << rows[i].FILTER << "\" needs the report screen of the desktop program\n";
