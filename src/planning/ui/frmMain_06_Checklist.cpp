@@ -17,6 +17,7 @@
 #include <QHash>
 #include <QLabel>
 #include <QMenu>
+#include <QShortcut>
 #include <QTimer>
 #include <algorithm>
 
@@ -98,6 +99,14 @@ frmMain_06_Checklist::frmMain_06_Checklist(QWidget* parent)
     AddShortcut(QKeySequence::Delete, [this] { DeleteSelected(); });
     AddShortcut(QKeySequence(Qt::CTRL | Qt::Key_Up), [this] { MoveSelected(-1); });
     AddShortcut(QKeySequence(Qt::CTRL | Qt::Key_Down), [this] { MoveSelected(+1); });
+    // Space ticks the selected task as a click on its box does; only in the list, so the search takes blanks.
+    auto* tick = new QShortcut(QKeySequence(Qt::Key_Space), Grid());
+    tick->setContext(Qt::WidgetShortcut);
+    connect(tick, &QShortcut::activated, this, [this] {
+        const QList<qint64> keys = SelectedKeys();
+        if (keys.size() == 1)
+            ToggleCompleted(keys.first());
+    });
     ResetStoredStateOnce();
 }
 

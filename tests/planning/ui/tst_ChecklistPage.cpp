@@ -107,6 +107,12 @@ private slots:
         QVERIFY(!page->Grid()->Model()->RowAt(page->Grid()->Model()->FindRecord(12))->StrikeOut);
         page->Reload();
         QCOMPARE(ShownOrder(page->Grid()), QStringLiteral("abde"));
+
+        // Space in the list does what the click did.
+        Select(*page, QStringLiteral("12"));
+        QTest::keyClick(page->Grid(), Qt::Key_Space);
+        QCOMPARE(TestDatabase::Scalar("SELECT COMPLETED_FG FROM TASK WHERE TASK_ID = 12"),
+                 QStringLiteral("Y"));
     }
 
     void ctrlArrowsReorderAfterTheTimer_data() {
