@@ -1,6 +1,7 @@
 // The budget, vendor and gift pages on the demo wedding grown to 5 000 expenses in 40 categories,
 // 1 000 vendors and 5 000 gifts, offscreen: each page opened until filled and painted, and a change of
 // the selected budget category with its expenses and charts drawn anew.
+#include "BenchPages.h"
 #include "BenchWedding.h"
 #include "core/clsDB.h"
 #include "planning/ui/frmMain_05_Gifts.h"
@@ -57,29 +58,19 @@ bool GrowTheWedding(QString* message) {
     return true;
 }
 
-template <class Page> void OpenPage(benchmark::State& state) {
-    for (auto _ : state) {
-        Page page;
-        page.resize(1280, 720);
-        page.show();
-        page.LoadNow();
-        QPixmap painted = page.grab();
-        benchmark::DoNotOptimize(painted);
-    }
-}
 
 void BM_BudgetPageOpen(benchmark::State& state) {
-    OpenPage<frmMain_07_Budget>(state);
+    OpenAndPaint<frmMain_07_Budget>(state, true);
 }
 BENCHMARK(BM_BudgetPageOpen)->Unit(benchmark::kMillisecond);
 
 void BM_VendorsPageOpen(benchmark::State& state) {
-    OpenPage<frmMain_08_Vendors>(state);
+    OpenAndPaint<frmMain_08_Vendors>(state, true);
 }
 BENCHMARK(BM_VendorsPageOpen)->Unit(benchmark::kMillisecond);
 
 void BM_GiftsPageOpen(benchmark::State& state) {
-    OpenPage<frmMain_05_Gifts>(state);
+    OpenAndPaint<frmMain_05_Gifts>(state, true);
 }
 BENCHMARK(BM_GiftsPageOpen)->Unit(benchmark::kMillisecond);
 

@@ -1,6 +1,7 @@
 // The checklist and the notebook on the 10 000-guest demo wedding grown to 2 000 tasks and 1 000 notes,
 // offscreen: each page opened until its grid is filled and painted, and one tick of a task until the
 // grid is painted again.
+#include "BenchPages.h"
 #include "BenchWedding.h"
 #include "core/clsDB.h"
 #include "planning/ui/frmMain_06_Checklist.h"
@@ -50,23 +51,14 @@ bool GrowChecklistAndNotebook(QString* message) {
     }
 }
 
-template <class Page> void OpenPage(benchmark::State& state) {
-    for (auto _ : state) {
-        Page page;
-        page.resize(1280, 720);
-        page.LoadNow();
-        QPixmap painted = page.grab();
-        benchmark::DoNotOptimize(painted);
-    }
-}
 
 void BM_ChecklistPageOpen(benchmark::State& state) {
-    OpenPage<frmMain_06_Checklist>(state);
+    OpenAndPaint<frmMain_06_Checklist>(state);
 }
 BENCHMARK(BM_ChecklistPageOpen)->Unit(benchmark::kMillisecond);
 
 void BM_NotebookPageOpen(benchmark::State& state) {
-    OpenPage<frmMain_10_Notebook>(state);
+    OpenAndPaint<frmMain_10_Notebook>(state);
 }
 BENCHMARK(BM_NotebookPageOpen)->Unit(benchmark::kMillisecond);
 

@@ -1,5 +1,6 @@
 // The events and timelines on the 10 000-guest demo wedding grown to 2 000 timeline entries and 2 000
 // open tasks, offscreen: each page opened until filled and painted, and the calendar file of everything.
+#include "BenchPages.h"
 #include "BenchWedding.h"
 #include "planning/modCalendarExport.h"
 #include "planning/ui/frmMain_09_Timelines.h"
@@ -12,15 +13,6 @@
 
 namespace {
 
-template <class Page> void OpenAndPaint(benchmark::State& state) {
-    for (auto _ : state) {
-        Page page;
-        page.resize(1280, 720);
-        page.LoadNow();
-        QPixmap painted = page.grab();
-        benchmark::DoNotOptimize(painted);
-    }
-}
 
 void BM_EventsPageOpen(benchmark::State& state) {
     OpenAndPaint<frmMain_11_Events>(state);
