@@ -105,7 +105,9 @@ public:
 private:
     void Finish(int number) {
         if (mItem->SQL.isEmpty())
-            Skip(QStringLiteral("Line %1: the query %2 has no statement; it is left out.").arg(number).arg(Named(*mItem)));
+            Skip(QStringLiteral("Line %1: the query %2 has no statement; it is left out.")
+                     .arg(number)
+                     .arg(Named(*mItem)));
         else
             mCatalogue.Items << *mItem;
         mItem.reset();
@@ -165,7 +167,8 @@ clsSQLCatalogue clsSQLCatalogue::FromFile(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         clsSQLCatalogue none;
-        none.Problems << QStringLiteral("The catalogue %1 could not be read: %2.").arg(path, file.errorString());
+        none.Problems
+            << QStringLiteral("The catalogue %1 could not be read: %2.").arg(path, file.errorString());
         return none;
     }
     return FromBytes(file.read(MaxBytes + 1));
@@ -188,9 +191,10 @@ clsSQLCatalogue clsSQLCatalogue::Current() {
     if (!kept.Items.isEmpty())
         return kept;
     clsSQLCatalogue shipped = Shipped();
-    shipped.Problems.prepend(QStringLiteral("The downloaded catalogue %1 holds no query (%2); the program's own "
-                                            "is shown.")
-                                 .arg(KeptPath(), kept.Problems.join(QLatin1Char(' '))));
+    shipped.Problems.prepend(
+        QStringLiteral("The downloaded catalogue %1 holds no query (%2); the program's own "
+                       "is shown.")
+            .arg(KeptPath(), kept.Problems.join(QLatin1Char(' '))));
     return shipped;
 }
 
