@@ -29,8 +29,9 @@ namespace {
 enum GridColumn { ColName, ColSql, ColDateAdded, ColNotes };
 constexpr int kItemRole = Qt::UserRole; // the position of a query in the catalogue; none on a category row
 
-QLabel* Text(const QString& text, QWidget* parent) {
+QLabel* Text(const QString& name, const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
+    label->setObjectName(name);
     label->setWordWrap(true);
     return label;
 }
@@ -59,6 +60,7 @@ frmReportsSQL::frmReportsSQL(QWidget* parent, bool downloadOnOpen) : QDialog(par
     if (downloadOnOpen && chkDownload->isChecked())
         QTimer::singleShot(0, this, &frmReportsSQL::cmdDownload_Click); // once the window stands
     resize(900, 640);
+    grid->setFocus();
 }
 
 // ---- Building the form ----
@@ -77,25 +79,27 @@ QWidget* frmReportsSQL::MakeHeader() {
     connect(linkForum, &usrHyperlink::Click, this,
             [] { gShell().OpenDocument(gApp().ForumsURL() + QStringLiteral("/forum_topics.asp?FID=12")); });
 
+    QLabel* lblDesc3 = Text(QStringLiteral("lblDesc3"),
+                            QStringLiteral("If you have a custom report request, please post your request on "
+                                           "the Quill Software forum,"),
+                            header);
+    lblDesc3->setWordWrap(false);
     auto* forum = new QHBoxLayout;
-    forum->addWidget(
-        Text(QStringLiteral("If you have a custom report request, please post your request on the "
-                            "Quill Software forum,"),
-             header));
+    forum->addWidget(lblDesc3);
     forum->addWidget(linkForum);
     forum->addStretch(1);
     auto* layout = new QVBoxLayout(header);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(title);
-    layout->addWidget(
-        Text(QStringLiteral("This form retrieves an XML file from %1 that contains queries to help "
-                            "generate reports.")
-                 .arg(CatalogueHost()),
-             header));
-    layout->addWidget(
-        Text(QStringLiteral("This allows Quill Software to instantly deliver custom report requests "
-                            "to all of our customers."),
-             header));
+    layout->addWidget(Text(QStringLiteral("lblDesc1"),
+                           QStringLiteral("This form retrieves an XML file from %1 that contains queries to "
+                                          "help generate reports.")
+                               .arg(CatalogueHost()),
+                           header));
+    layout->addWidget(Text(QStringLiteral("lblDesc2"),
+                           QStringLiteral("This allows Quill Software to instantly deliver custom report "
+                                          "requests to all of our customers."),
+                           header));
     layout->addLayout(forum);
     return header;
 }
@@ -109,8 +113,8 @@ QWidget* frmReportsSQL::MakeTabs() {
     grid->setHeaderLabels({QStringLiteral("Name"), QStringLiteral("SQL"), QStringLiteral("Date Added"),
                            QStringLiteral("Notes")});
     grid->setColumnHidden(ColNotes, true);
-    grid->setColumnWidth(ColName, 300);
-    grid->setColumnWidth(ColSql, 320);
+    grid->setColumnWidth(ColName, 270);
+    grid->setColumnWidth(ColSql, 250);
     grid->setRootIsDecorated(false);
     grid->setUniformRowHeights(true);
     grid->setIconSize(QSize(20, 20));
@@ -134,7 +138,6 @@ QWidget* frmReportsSQL::MakeTabs() {
     QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     fixed.setFamilies({QStringLiteral("Courier New"), fixed.family()});
     txtSQL->setFont(fixed);
-    txtSQL->setLineWrapMode(QPlainTextEdit::NoWrap);
     tabs->addTab(txtSQL, QStringLiteral("SQL"));
     return tabs;
 }
