@@ -10,7 +10,6 @@
 #include "shell/controls/usrHyperlink.h"
 
 #include <QCheckBox>
-#include <QFileInfo>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -237,10 +236,7 @@ void frmReportsSQL::cmdRun_Click() {
                                       : modReportRunner::CustomRoute(sql);
     SetStatus(QStringLiteral("Writing the report…"));
     mWrittenFile = ReportDialogs::BuildAndShow(route);
-    SetStatus(
-        mWrittenFile.isEmpty()
-            ? QStringLiteral("No report was written.")
-            : QStringLiteral("Opened %1 from the reports folder.").arg(QFileInfo(mWrittenFile).fileName()));
+    SetStatus(ReportDialogs::WrittenStatus(mWrittenFile));
 }
 
 void frmReportsSQL::cmdDownload_Click() {
@@ -261,4 +257,5 @@ void frmReportsSQL::Download_Finished(bool ok, const QString& status) {
 void frmReportsSQL::SetStatus(const QString& text, const QString& details) {
     lblStatus->setText(text);
     lblStatus->setToolTip(details);
+    lblStatus->repaint(); // before a report that takes a while
 }

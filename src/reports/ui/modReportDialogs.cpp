@@ -16,6 +16,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
@@ -127,6 +128,11 @@ QString BuildAndShow(const clsReportRoute& route) {
     if (!file.isEmpty() && !gShell().OpenDocument(file))
         ShowMessage(gShell().Message(), Msg::Exclamation, ProgramTitle());
     return file;
+}
+
+QString WrittenStatus(const QString& file) {
+    return file.isEmpty() ? QStringLiteral("No report was written.")
+                          : QStringLiteral("Opened %1 from the reports folder.").arg(QFileInfo(file).fileName());
 }
 
 std::unique_ptr<clsPdfDialect> LayOut(const clsReportRoute& route) {
