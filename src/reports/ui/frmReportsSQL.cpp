@@ -201,9 +201,13 @@ void frmReportsSQL::FillGrid() {
     }
     grid->expandAll();
     const int count = int(mCatalogue.Items.size());
-    SetStatus(QStringLiteral("%1 custom report%2.").arg(count).arg(count == 1 ? "" : "s") +
-                  (mCatalogue.Problems.isEmpty() ? QString() : QStringLiteral(" Some were left out.")),
-              mCatalogue.Problems.join(QLatin1Char('\n')));
+    QString status = QStringLiteral("%1 custom report%2.").arg(count).arg(count == 1 ? "" : "s");
+    const qsizetype problems = mCatalogue.Problems.size();
+    if (problems > 0)
+        status += QStringLiteral(" The catalogue has %1 problem%2 (point here for all): %3")
+                      .arg(problems)
+                      .arg(problems == 1 ? "" : "s", mCatalogue.Problems.first());
+    SetStatus(status, mCatalogue.Problems.join(QLatin1Char('\n')));
 }
 
 const clsSQL_XML* frmReportsSQL::SelectedItem() const {
