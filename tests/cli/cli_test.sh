@@ -309,30 +309,6 @@ check "thank-you --unsent takes it back" 0 "^Thank-you notes unsent: $gift$" "$c
 check "an unknown gift changes nothing" 1 'there is no gift 99999\. Nothing was changed' "$cli" thank-you "$gift" 99999
 check "the known one of them stays unsent" 0 '^N$' value "SELECT THANK_YOU_SENT_FG FROM GIFT WHERE GIFT_ID = $gift"
 check "thank-you needs keys" 2 'usage: thank-you' "$cli" thank-you
-# The invitation wording and the playlists.
-saved_wording() { "$cli" sql "SELECT WORDING_TX FROM WORDING WHERE WORDING_ID = 1" | md5sum; }
-wording_before=$(saved_wording)
-check "wording starts with an empty line" 0 '^$' sh -c "\"$cli\" wording | head -1"
-check "wording by the stored choices" 0 '^the son of$' "$cli" wording
-check "wording spells the year" 0 '^Two thousand and [a-z-]+$' "$cli" wording
-check "wording of another template" 0 '^at the Nuptial Mass uniting their daughter$' "$cli" wording --template 12 --phrase 1
-check "wording with a place of two lines" 0 '^St\. "Ann" & <Hall>$' "$cli" wording --place $'St. "Ann" & <Hall>\nSalem' --no-reception
-check "wording without reception" 1 '' sh -c "\"$cli\" wording --no-reception | grep -q 'Reception to follow'"
-check "wording with a bad template" 2 '--template takes 0 to 18' "$cli" wording --template 19
-check "wording with both reception options" 2 'exclude each other' "$cli" wording --reception X --no-reception
-check "wording changes nothing" 0 "^$wording_before\$" saved_wording
-check "wording --save" 0 '^Reception to follow$' "$cli" wording --save --reception 'The Barn'
-check "the saved wording" 0 'The Barn' "$cli" sql "SELECT WORDING_TX FROM WORDING WHERE WORDING_ID = 1"
-check "playlist of every song" 0 '/Playlists/All_Songs\.wpl$' "$cli" playlist --all
-check "playlist of a list into a file" 0 "^$home/c&d.wpl\$" "$cli" playlist Ceremony --out "$home/c&d.wpl"
-check "the playlist counts its songs" 0 '<meta name="ItemCount" content="[0-9]+"/>' cat "$home/c&d.wpl"
-check "playlist of an unknown list" 1 'there is no songlist "Nope"' "$cli" playlist Nope
-check "playlist without a list" 2 'usage: playlist SONGLIST' "$cli" playlist
-check "playlist into a folder that is a file" 1 'could not be written' "$cli" playlist --all --out "$home/c&d.wpl/x.wpl"
-if command -v xmllint >/dev/null; then
-    check "the playlist is XML" 0 '' xmllint --noout "$home/Playlists/All_Songs.wpl"
-fi
-
 # Custom reports: the catalogue, a query of the catalogue, a query of one's own, and what is refused.
 check "report all writes a custom report of each shipped query" 0 '^many$' \
     sh -c "[ \$(ls \"$home\"/Reports/99_Custom_*.csv | wc -l) -ge 12 ] && echo many"
@@ -357,6 +333,30 @@ printf '<SQL_ITEM>\n<SQL_NAME>Kept</SQL_NAME>\n' >"$home/sql.xml"
 check "a damaged catalogue is said" 0 'LF alone.*program.s own' "$cli" custom-reports
 check "and the program's own is listed" 0 'Guests without a meal' "$cli" custom-reports
 rm -f "$home/sql.xml"
+
+# The invitation wording and the playlists.
+saved_wording() { "$cli" sql "SELECT WORDING_TX FROM WORDING WHERE WORDING_ID = 1" | md5sum; }
+wording_before=$(saved_wording)
+check "wording starts with an empty line" 0 '^$' sh -c "\"$cli\" wording | head -1"
+check "wording by the stored choices" 0 '^the son of$' "$cli" wording
+check "wording spells the year" 0 '^Two thousand and [a-z-]+$' "$cli" wording
+check "wording of another template" 0 '^at the Nuptial Mass uniting their daughter$' "$cli" wording --template 12 --phrase 1
+check "wording with a place of two lines" 0 '^St\. "Ann" & <Hall>$' "$cli" wording --place $'St. "Ann" & <Hall>\nSalem' --no-reception
+check "wording without reception" 1 '' sh -c "\"$cli\" wording --no-reception | grep -q 'Reception to follow'"
+check "wording with a bad template" 2 '--template takes 0 to 18' "$cli" wording --template 19
+check "wording with both reception options" 2 'exclude each other' "$cli" wording --reception X --no-reception
+check "wording changes nothing" 0 "^$wording_before\$" saved_wording
+check "wording --save" 0 '^Reception to follow$' "$cli" wording --save --reception 'The Barn'
+check "the saved wording" 0 'The Barn' "$cli" sql "SELECT WORDING_TX FROM WORDING WHERE WORDING_ID = 1"
+check "playlist of every song" 0 '/Playlists/All_Songs\.wpl$' "$cli" playlist --all
+check "playlist of a list into a file" 0 "^$home/c&d.wpl\$" "$cli" playlist Ceremony --out "$home/c&d.wpl"
+check "the playlist counts its songs" 0 '<meta name="ItemCount" content="[0-9]+"/>' cat "$home/c&d.wpl"
+check "playlist of an unknown list" 1 'there is no songlist "Nope"' "$cli" playlist Nope
+check "playlist without a list" 2 'usage: playlist SONGLIST' "$cli" playlist
+check "playlist into a folder that is a file" 1 'could not be written' "$cli" playlist --all --out "$home/c&d.wpl/x.wpl"
+if command -v xmllint >/dev/null; then
+    check "the playlist is XML" 0 '' xmllint --noout "$home/Playlists/All_Songs.wpl"
+fi
 
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init

@@ -88,6 +88,10 @@ void RegisterOwnDialogs() {
         frmReportsCustomFilter form(route.FormNumber, parent);
         form.exec();
     });
+    Register(QStringLiteral("frmReportsSQL"), [](QWidget* parent, const clsReportRoute&) {
+        frmReportsSQL form(parent);
+        form.exec();
+    });
     // The calendar asks for its months, then runs with them.
     Register(QStringLiteral("frmReportEventDates"), [](QWidget* parent, const clsReportRoute& route) {
         frmReportEventDates form(parent);
@@ -96,10 +100,6 @@ void RegisterOwnDialogs() {
         clsReportRoute months = route;
         months.Argument = form.Range().RangeText();
         BuildAndShow(months);
-    });
-    Register(QStringLiteral("frmReportsSQL"), [](QWidget* parent, const clsReportRoute&) {
-        frmReportsSQL form(parent);
-        form.exec();
     });
 }
 
