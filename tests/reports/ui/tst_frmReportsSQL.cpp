@@ -3,6 +3,7 @@
 // bounded in size and time.
 #include "TestDatabase.h"
 #include "UiTestTools.h"
+#include "platform/clsShell.h"
 #include "reports/RtfTestTools.h"
 #include "reports/clsRTFMasterTemp.h"
 #include "reports/clsRTFSQL.h"
@@ -11,6 +12,7 @@
 #include "reports/modReportRegistry.h"
 #include "reports/ui/frmReportsSQL.h"
 #include "reports/ui/modReportDialogs.h"
+#include "shell/controls/usrHyperlink.h"
 
 #include <QCheckBox>
 #include <QDir>
@@ -250,6 +252,20 @@ private slots:
         QVERIFY2(Status(*form).startsWith(QStringLiteral("1 custom report. The catalogue has 1 problem")),
                  qPrintable(Status(*form)));
         QVERIFY(Status(*form).contains(QStringLiteral("ends inside the query \"Cut\"")));
+    }
+
+    void theForumLinkOpensTheCustomReportsTopic() {
+        const auto form = Open(QString(), false);
+        QStringList opened;
+        gShell().SetOpener([&opened](const QString& target) {
+            opened << target;
+            return true;
+        });
+        qunsetenv("VOWREN_NO_OPEN");
+        QTest::keyClick(Child<usrHyperlink>(*form, QStringLiteral("linkForum")), Qt::Key_Space);
+        qputenv("VOWREN_NO_OPEN", "1");
+        gShell().SetOpener(nullptr);
+        QCOMPARE(opened, QStringList{gApp().ForumsURL() + QStringLiteral("/forum_topics.asp?FID=12")});
     }
 
     void theReportScreenOffersIt() {
