@@ -18,19 +18,22 @@ clsCatalogueDownload::clsCatalogueDownload(QObject* parent) : QObject(parent) {
 }
 
 clsCatalogueDownload::~clsCatalogueDownload() {
-    if (mReply) {
-        mReply->disconnect(this);
-        mReply->abort();
-        delete mReply;
-    }
+    Drop();
+}
+
+void clsCatalogueDownload::Drop() {
+    mClock.stop();
+    QNetworkReply* reply = mReply.data();
+    if (!reply)
+        return;
+    mReply.clear();
+    reply->disconnect(this);
+    reply->abort();
+    reply->deleteLater();
 }
 
 void clsCatalogueDownload::Start(const QString& address) {
-    if (mReply) {
-        mReply->disconnect(this);
-        mReply->abort();
-        mReply->deleteLater();
-    }
+    Drop();
     mBytes.clear();
     mGivenUp.clear();
     const QUrl url(address.trimmed(), QUrl::StrictMode);

@@ -32,6 +32,8 @@ signals:
     void Finished(bool ok, const QString& status);
 
 private:
+    // Gives up a transfer under way without a word.
+    void Drop();
     void Received();
     void CheckSize(qint64 announced);
     void GiveUp(const QString& reason);
