@@ -40,6 +40,7 @@ CliCommand BudgetCommand();
 CliCommand ThankYouCommand();
 CliCommand WordingCommand();
 CliCommand PlaylistCommand();
+CliCommand LabelProgramCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

@@ -58,6 +58,7 @@ const std::vector<CliCommand>& CliCommands() {
         ThankYouCommand(),
         WordingCommand(),
         PlaylistCommand(),
+        LabelProgramCommand(),
     };
     return commands;
 }

@@ -4,6 +4,7 @@
 #include "core/ShowMessage.h"
 #include "core/modGeneral.h"
 #include "pdf/clsPdfDialect.h"
+#include "reports/clsLabelDesk.h"
 #include "platform/clsShell.h"
 #include "reports/clsRTFMasterTemp.h"
 #include "reports/clsReportClasses.h"
@@ -94,6 +95,14 @@ void RegisterOwnDialogs() {
         clsReportRoute months = route;
         months.Argument = form.Range().RangeText();
         BuildAndShow(months);
+    });
+    // The label program, once the user has named it, takes labels and tent cards over.
+    if (!LabelDeskProbe())
+        SetLabelDeskActive([] { return clsLabelDesk().IsActive(); });
+    Register(QStringLiteral("clsLabelDesk"), [](QWidget*, const clsReportRoute& route) {
+        clsLabelDesk labelDesk;
+        if (!labelDesk.Show(route.FormNumber, route.FilterEnum, route.Argument.toInt()))
+            ShowMessage(labelDesk.Message(), Msg::OKOnly | Msg::Exclamation, ProgramTitle());
     });
 }
 
