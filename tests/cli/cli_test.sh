@@ -333,6 +333,22 @@ if command -v xmllint >/dev/null; then
     check "the playlist is XML" 0 '' xmllint --noout "$home/Playlists/All_Songs.wpl"
 fi
 
+# The external label program: off until named, then handed the list the report screen would hand it.
+check "no label program by default" 0 '^active: no$' "$cli" label-program
+check "labels can't be handed over before one is named" 1 'not set up' "$cli" label-program --start Gifts
+mkdir -p "$home/Label Desk"
+printf '#!/bin/sh\necho "$@" > "$(dirname "$0")/args.tmp"; mv "$(dirname "$0")/args.tmp" "$(dirname "$0")/args.txt"\n' >"$home/Label Desk/labeldesk"
+chmod +x "$home/Label Desk/labeldesk"
+check "a label program in a folder with a blank" 0 '^active: yes$' "$cli" label-program --folder "$home/Label Desk" --exe labeldesk
+event=$(value "SELECT MAX(EVENT_ID) FROM EVENT")
+check "the gifts of an event go to it" 0 "^$home/Label Desk/labeldesk 1,6,3,$event\$" "$cli" label-program --start Gifts --filter "$event"
+for _ in 1 2 3 4 5 6 7 8 9 10; do [ -f "$home/Label Desk/args.txt" ] && break; sleep 0.5; done
+check "it got one argument" 0 "^1,6,3,$event\$" cat "$home/Label Desk/args.txt"
+check "tent cards go to it too" 0 ' 1,17,1,0$' "$cli" label-program --start Tentcards
+check "RSVPs are no labels" 2 "can't be printed as labels" "$cli" label-program --start RSVPs
+check "label-program with a stray argument" 2 'usage: label-program' "$cli" label-program --folder
+check "label-program --clear" 0 '^active: no$' "$cli" label-program --clear
+
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
 check "the damaged file is untouched" 0 'not a database at all' cat "$home/Database/Vowren.quilldata"

@@ -32,9 +32,13 @@ usrLabelProgramPanel::usrLabelProgramPanel(QWidget* parent) : QWidget(parent) {
     mExe = new QLineEdit(this);
     mExe->setObjectName(QStringLiteral("txtExeName"));
     mExe->setPlaceholderText(QStringLiteral("labeldesk"));
+    auto* folderLabel = new QLabel(QStringLiteral("&Folder:"), this);
+    folderLabel->setBuddy(mFolder);
+    auto* exeLabel = new QLabel(QStringLiteral("&Program:"), this);
+    exeLabel->setBuddy(mExe);
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("&Folder:"), folderRow);
-    form->addRow(QStringLiteral("&Program:"), mExe);
+    form->addRow(folderLabel, folderRow);
+    form->addRow(exeLabel, mExe);
 
     mStatus = new QLabel(this);
     mStatus->setObjectName(QStringLiteral("lblStatus"));
