@@ -1,7 +1,7 @@
 // The label program from a script: name it, see whether it is set up, hand it a list.
 #include "cli/CliCommand.h"
 
-#include "reports/clsLabelDesk.h"
+#include "platform/clsLabelDesk.h"
 #include "reports/clsReportCatalogue.h"
 #include "reports/modReportRunner.h"
 

@@ -8,7 +8,7 @@
 #include "shell/options/frmOptionsEntry.h"
 
 #include "core/clsVOWREN.h"
-#include "reports/clsLabelDesk.h"
+#include "platform/clsLabelDesk.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -4,7 +4,7 @@
 #include "core/ShowMessage.h"
 #include "core/modGeneral.h"
 #include "pdf/clsPdfDialect.h"
-#include "reports/clsLabelDesk.h"
+#include "platform/clsLabelDesk.h"
 #include "platform/clsShell.h"
 #include "reports/clsRTFMasterTemp.h"
 #include "reports/clsReportClasses.h"

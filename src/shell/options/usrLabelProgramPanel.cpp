@@ -1,6 +1,6 @@
 #include "shell/options/usrLabelProgramPanel.h"
 
-#include "reports/clsLabelDesk.h"
+#include "platform/clsLabelDesk.h"
 #include "shell/controls/usrHint.h"
 
 #include <QFileDialog>

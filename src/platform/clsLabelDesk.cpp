@@ -1,4 +1,4 @@
-#include "reports/clsLabelDesk.h"
+#include "platform/clsLabelDesk.h"
 
 #include "platform/clsRegistry.h"
 

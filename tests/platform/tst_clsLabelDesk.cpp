@@ -1,5 +1,5 @@
 #include "TestHome.h"
-#include "reports/clsLabelDesk.h"
+#include "platform/clsLabelDesk.h"
 
 #include <QDir>
 #include <QFile>
