@@ -15,6 +15,7 @@
 #include "shell/grid/frmCustomizeColumns.h"
 #include "shell/grid/usrGrid.h"
 #include "shell/mdiMain.h"
+#include "shell/modContactLink.h"
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
 #include "shell/options/frmBackup.h"
@@ -31,18 +32,19 @@
 
 namespace {
 
-// The widgets page opens the parents' contacts and names a remarried parent's spouse through the guest
-// screens.
+// The widgets page and the gift editor open contacts, and the widgets page names a remarried parent's
+// spouse, through the guest screens.
 void LinkWidgetsToGuests() {
-    modWidgetLinks::SetContactOpener([](QWidget* parent, const QString& contactId, const QString& roleId) {
+    modContactLink::SetOpener([](QWidget* parent, const QString& contactId, const QString& roleId) {
         frmContact editor(contactId, parent);
-        if (contactId.isEmpty())
+        if (contactId.isEmpty() && !roleId.isEmpty())
             editor.SetRole(roleId);
-        bool changed = false;
-        QObject::connect(&editor, &frmContact::Added, &editor, [&changed] { changed = true; });
-        QObject::connect(&editor, &frmContact::Updated, &editor, [&changed] { changed = true; });
+        QString saved;
+        const auto keep = [&saved](const QString& key) { saved = key; };
+        QObject::connect(&editor, &frmContact::Added, &editor, keep);
+        QObject::connect(&editor, &frmContact::Updated, &editor, keep);
         editor.exec();
-        return changed;
+        return saved;
     });
     modWidgetLinks::SetRemarriedOpener([](QWidget* parent, int roleId, QString* contactId) {
         frmRemarriedTo dialog(roleId, parent);

@@ -5,6 +5,7 @@
 #include "widgets/modWording.h"
 #include "widgets/ui/frmCreateWPL.h"
 #include "widgets/ui/frmMain_12_Widgets.h"
+#include "shell/modContactLink.h"
 #include "widgets/ui/modWidgetLinks.h"
 #include "widgets/ui/usrEventList.h"
 #include "widgets/ui/usrSongsSide.h"
@@ -206,13 +207,13 @@ private slots:
     // wording follows both at once.
     void parentsLinksFeedTheWording() {
         QStringList asked;
-        modWidgetLinks::SetContactOpener([&asked](QWidget*, const QString& id, const QString& role) {
+        modContactLink::SetOpener([&asked](QWidget*, const QString& id, const QString& role) {
             asked << id + "/" + role;
             TestDatabase::Exec(
                 "INSERT INTO CONTACT (CONTACT_ID, TITLE_TX, FIRST_NM, LAST_NM, ROLE_ID, SORT_ORDER_NB) "
                 "VALUES (7, 'Mrs.', 'Linda', 'Hall', ?, 1), (8, 'Mr.', 'Tom', 'Hall', 18, 1)",
                 {role});
-            return true;
+            return QStringLiteral("7");
         });
         modWidgetLinks::SetRemarriedOpener([](QWidget*, int, QString* id) {
             *id = "8";
@@ -236,7 +237,7 @@ private slots:
         QVERIFY(text->toPlainText().startsWith("\nMrs. Tom Hall\n"));
         page.Leaving();
         QCOMPARE(modWording::Choices::Load().RemarriedTo(4), QStringLiteral("8"));
-        modWidgetLinks::SetContactOpener({});
+        modContactLink::SetOpener({});
         modWidgetLinks::SetRemarriedOpener({});
     }
 
