@@ -163,18 +163,31 @@ private slots:
         QCOMPARE(page.UndoStack()->count(), 0);
     }
 
-    void cancelProposesNothing() {
+    // Cancel throws the run away; "Stop and Show Best" proposes what was found so far, within the rules.
+    void cancelProposesNothingStopProposesTheBestSoFar_data() {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("proposal");
+        QTest::newRow("cancel") << "cmdCancel" << false;
+        QTest::newRow("stop") << "cmdStop" << true;
+    }
+    void cancelProposesNothingStopProposesTheBestSoFar() {
+        QFETCH(QString, button);
+        QFETCH(bool, proposal);
         AddTable("1", 200);
         AddGuests(150);
         frmAutoSeat seater;
+        seater.show();
         Child<QSpinBox>(seater, "spnSeconds")->setValue(120);
         QTest::mouseClick(Child<QPushButton>(seater, "cmdStart"), Qt::LeftButton);
         QVERIFY(seater.IsRunning());
         QVERIFY(!Child<QPushButton>(seater, "cmdApply")->isEnabled());
-        QTest::mouseClick(Child<QPushButton>(seater, "cmdCancel"), Qt::LeftButton);
+        QTest::mouseClick(Child<QPushButton>(seater, button), Qt::LeftButton);
         QTRY_VERIFY_WITH_TIMEOUT(!seater.IsRunning(), 30000);
-        QVERIFY(!seater.HasProposal());
-        QVERIFY(!Child<QPushButton>(seater, "cmdApply")->isEnabled());
+        QCOMPARE(seater.HasProposal(), proposal);
+        QCOMPARE(Child<QPushButton>(seater, "cmdApply")->isEnabled(), proposal);
+        QVERIFY(Child<QPushButton>(seater, "cmdStop")->isHidden());
+        if (proposal)
+            QVERIFY(Child<QLabel>(seater, "lblScore")->text().startsWith("Stopped early"));
     }
 
     void noTablesNoRun() {
