@@ -103,6 +103,19 @@ private slots:
             QCOMPARE(messages->Prompts, QStringList("A seating rule is about two different people."));
         else
             QCOMPARE(rules[0].Caption(), saved);
+        if (saved.isEmpty())
+            return;
+        // Opened again, the rule shows as stored; a change is written over it, not beside it.
+        frmSeatingRule again;
+        QVERIFY(again.EditRule(rules[0].SEATING_RULE_ID));
+        QCOMPARE(again.windowTitle(), QStringLiteral("Edit Seating Rule"));
+        QCOMPARE(Child<QRadioButton>(again, "optApart")->isChecked(), apart);
+        Child<QRadioButton>(again, apart ? "optTogether" : "optApart")->setChecked(true);
+        QVERIFY(again.cmdSave_Click());
+        const QList<clsSEATING_RULE> edited = clsSEATING_RULE::OpenRecords();
+        QCOMPARE(edited.size(), 1);
+        QCOMPARE(edited[0].SEATING_RULE_ID, rules[0].SEATING_RULE_ID);
+        QCOMPARE(edited[0].RULE_CD, apart ? clsSEATING_RULE::KeepTogether : clsSEATING_RULE::KeepApart);
     }
 
     // Discard writes nothing; Apply writes the chart as one step, which Ctrl+Z takes back.
