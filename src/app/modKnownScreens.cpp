@@ -15,7 +15,6 @@
 #include "shell/grid/frmCustomizeColumns.h"
 #include "shell/grid/usrGrid.h"
 #include "shell/mdiMain.h"
-#include "shell/modContactLink.h"
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
 #include "shell/options/frmBackup.h"
@@ -32,20 +31,8 @@
 
 namespace {
 
-// The widgets page and the gift editor open contacts, and the widgets page names a remarried parent's
-// spouse, through the guest screens.
+// The widgets page names a remarried parent's spouse through the guest screens.
 void LinkWidgetsToGuests() {
-    modContactLink::SetOpener([](QWidget* parent, const QString& contactId, const QString& roleId) {
-        frmContact editor(contactId, parent);
-        if (contactId.isEmpty() && !roleId.isEmpty())
-            editor.SetRole(roleId);
-        QString saved;
-        const auto keep = [&saved](const QString& key) { saved = key; };
-        QObject::connect(&editor, &frmContact::Added, &editor, keep);
-        QObject::connect(&editor, &frmContact::Updated, &editor, keep);
-        editor.exec();
-        return saved;
-    });
     modWidgetLinks::SetRemarriedOpener([](QWidget* parent, int roleId, QString* contactId) {
         frmRemarriedTo dialog(roleId, parent);
         bool chosen = false;

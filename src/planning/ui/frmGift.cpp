@@ -7,7 +7,7 @@
 #include "shell/controls/usrDate.h"
 #include "shell/controls/usrDropdown.h"
 #include "shell/controls/usrHyperlink.h"
-#include "shell/modContactLink.h"
+#include "shell/modContactEditor.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -62,7 +62,7 @@ void frmGift::BuildControls() {
     lvw->setObjectName(QStringLiteral("lvw"));
     linkAddContact = new usrHyperlink(QStringLiteral("Add new contact"), this);
     linkAddContact->setObjectName(QStringLiteral("linkAddContact"));
-    linkAddContact->setEnabled(modContactLink::CanOpen());
+    linkAddContact->setEnabled(modContactEditor::Available());
     txtAddress = new QPlainTextEdit(this);
     txtAddress->setObjectName(QStringLiteral("txtAddress"));
     txtAddress->setReadOnly(true);
@@ -176,7 +176,7 @@ void frmGift::ShowGiver() {
 }
 
 void frmGift::linkAddContact_Click() {
-    const QString id = modContactLink::Open(this, QString());
+    const QString id = modContactEditor::OpenForKey(this, QString());
     if (id.isEmpty())
         return;
     if (optContact->isChecked())

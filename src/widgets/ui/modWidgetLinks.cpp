@@ -1,6 +1,6 @@
 #include "widgets/ui/modWidgetLinks.h"
 
-#include "shell/modContactLink.h"
+#include "shell/modContactEditor.h"
 
 namespace modWidgetLinks {
 namespace {
@@ -15,7 +15,7 @@ void SetRemarriedOpener(RemarriedOpener opener) {
 }
 
 bool CanOpenContacts() {
-    return modContactLink::CanOpen() && static_cast<bool>(Remarried());
+    return modContactEditor::Available() && static_cast<bool>(Remarried());
 }
 
 bool OpenRemarried(QWidget* parent, int roleId, QString* contactId) {

@@ -6,7 +6,7 @@
 class QWidget;
 
 // How the widgets page reaches the dialog that names a remarried parent's spouse, which belongs to the
-// guest screens (the contact editor comes through modContactLink): the program registers it at start,
+// guest screens (the contact editor comes through modContactEditor): the program registers it at start,
 // and a page without them shows the parents' links disabled.
 namespace modWidgetLinks {
 

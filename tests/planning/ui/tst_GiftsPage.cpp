@@ -1,3 +1,4 @@
+#include "FakeContactEditor.h"
 #include "UiTestTools.h"
 #include "planning/PlanningTestTools.h"
 #include "planning/clsGIFT.h"
@@ -7,7 +8,6 @@
 #include "shell/controls/usrDropdown.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/grid/usrGrid.h"
-#include "shell/modContactLink.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -138,7 +138,7 @@ private slots:
     // invitations are listed; nothing saved leaves the choice as it was.
     void anAddedContactBecomesTheGiver() {
         QString added;
-        modContactLink::SetOpener([&added](QWidget*, const QString&, const QString&) {
+        FakeContactEditor::Install([&added](const QString&, const QString&) {
             if (!added.isEmpty())
                 TestDatabase::Exec("INSERT INTO CONTACT (CONTACT_ID, FIRST_NM, LAST_NM) VALUES (9, 'Ada', 'Zane')");
             return added;
@@ -153,7 +153,7 @@ private slots:
         link->Click(0);
         QVERIFY(UiTestTools::Child<QRadioButton>(&editor, "opt_0")->isChecked());
         QCOMPARE(list->currentItem()->text(), QStringLiteral("Zane, Ada"));
-        modContactLink::SetOpener({});
+        modContactEditor::SetFactory({});
         QVERIFY(!frmGift(QString()).findChild<usrHyperlink*>("linkAddContact")->isEnabled());
     }
 };

@@ -1,11 +1,11 @@
 #include "TestDatabase.h"
+#include "FakeContactEditor.h"
 #include "UiTestTools.h"
 #include "shell/controls/usrHyperlink.h"
 #include "widgets/clsSONG.h"
 #include "widgets/modWording.h"
 #include "widgets/ui/frmCreateWPL.h"
 #include "widgets/ui/frmMain_12_Widgets.h"
-#include "shell/modContactLink.h"
 #include "widgets/ui/modWidgetLinks.h"
 #include "widgets/ui/usrEventList.h"
 #include "widgets/ui/usrSongsSide.h"
@@ -207,14 +207,15 @@ private slots:
     // wording follows both at once.
     void parentsLinksFeedTheWording() {
         QStringList asked;
-        modContactLink::SetOpener([&asked](QWidget*, const QString& id, const QString& role) {
-            asked << id + "/" + role;
-            TestDatabase::Exec(
-                "INSERT INTO CONTACT (CONTACT_ID, TITLE_TX, FIRST_NM, LAST_NM, ROLE_ID, SORT_ORDER_NB) "
-                "VALUES (7, 'Mrs.', 'Linda', 'Hall', ?, 1), (8, 'Mr.', 'Tom', 'Hall', 18, 1)",
-                {role});
-            return QStringLiteral("7");
-        });
+        FakeContactEditor::Install(
+            [](const QString&, const QString& role) {
+                TestDatabase::Exec(
+                    "INSERT INTO CONTACT (CONTACT_ID, TITLE_TX, FIRST_NM, LAST_NM, ROLE_ID, SORT_ORDER_NB) "
+                    "VALUES (7, 'Mrs.', 'Linda', 'Hall', ?, 1), (8, 'Mr.', 'Tom', 'Hall', 18, 1)",
+                    {role});
+                return QStringLiteral("7");
+            },
+            &asked);
         modWidgetLinks::SetRemarriedOpener([](QWidget*, int, QString* id) {
             *id = "8";
             return true;
@@ -237,7 +238,7 @@ private slots:
         QVERIFY(text->toPlainText().startsWith("\nMrs. Tom Hall\n"));
         page.Leaving();
         QCOMPARE(modWording::Choices::Load().RemarriedTo(4), QStringLiteral("8"));
-        modContactLink::SetOpener({});
+        modContactEditor::SetFactory({});
         modWidgetLinks::SetRemarriedOpener({});
     }
 
