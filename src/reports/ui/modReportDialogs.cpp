@@ -12,6 +12,7 @@
 #include "reports/ui/frmReports.h"
 #include "reports/ui/frmReportEventDates.h"
 #include "reports/ui/frmReportsCustomFilter.h"
+#include "reports/ui/frmReportsLabels.h"
 
 #include <QApplication>
 #include <QFile>
@@ -94,6 +95,10 @@ void RegisterOwnDialogs() {
         clsReportRoute months = route;
         months.Argument = form.Range().RangeText();
         BuildAndShow(months);
+    });
+    Register(QStringLiteral("frmReportsLabels"), [](QWidget* parent, const clsReportRoute& route) {
+        frmReportsLabels form(route, parent);
+        form.exec();
     });
 }
 
