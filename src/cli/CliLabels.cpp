@@ -13,7 +13,8 @@ namespace {
 
 using C = clsReportCatalogue;
 
-const char kUsage[] = "usage: labels SECTION [--filter KEY] [--sheet 8160|L7160] [--start N] [--format rtf|pdf]";
+const char kUsage[] =
+    "usage: labels SECTION [--filter KEY] [--sheet 8160|L7160] [--start N] [--format rtf|pdf]";
 
 struct LabelArgs {
     QString Section;
@@ -70,7 +71,8 @@ std::optional<clsReportRoute> LabelRoute(int section, std::optional<int> key, QT
             break;
     }
     if (key)
-        err << "vowren-cli: labels: that section has no such filter row for labels; report --list shows them\n";
+        err << "vowren-cli: labels: that section has no such filter row for labels; report --list shows "
+               "them\n";
     else
         err << "vowren-cli: labels: that section has no list to print labels of\n";
     return std::nullopt;
@@ -83,7 +85,8 @@ int WriteLabels(const LabelArgs& args, int section, QTextStream& out, QTextStrea
     // A name without an address would waste a label: such rows are left out, and counted.
     QStringList texts;
     int unaddressed = 0;
-    for (const modLabels::Address& address : modLabels::Addresses(section, route->FilterEnum, route->CustomWhere)) {
+    for (const modLabels::Address& address :
+         modLabels::Addresses(section, route->FilterEnum, route->CustomWhere)) {
         if (address.HasAddress)
             texts << address.Text;
         else
@@ -126,9 +129,10 @@ int RunLabels(const QStringList& args, QTextStream& out, QTextStream& err) {
 } // namespace
 
 CliCommand LabelsCommand() {
-    return {QStringLiteral("labels"),
-            QStringLiteral("labels SECTION [--filter KEY] [--sheet 8160|L7160] [--start N] [--format rtf|pdf]"),
-            QStringLiteral("Write a sheet of address labels (Avery 8160 on Letter by default, L7160 on A4) with "
-                           "the section's addresses in order from label N, and print its path."),
-            RunLabels};
+    return {
+        QStringLiteral("labels"),
+        QStringLiteral("labels SECTION [--filter KEY] [--sheet 8160|L7160] [--start N] [--format rtf|pdf]"),
+        QStringLiteral("Write a sheet of address labels (Avery 8160 on Letter by default, L7160 on A4) with "
+                       "the section's addresses in order from label N, and print its path."),
+        RunLabels};
 }

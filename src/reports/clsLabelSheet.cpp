@@ -1,51 +1,38 @@
 #include "reports/clsLabelSheet.h"
 
-namespace {
-
-clsLabelSheet Letter8160() {
-    clsLabelSheet sheet;
-    sheet.Sheet = clsLabelSheet::Avery8160;
-    sheet.Caption = QStringLiteral("Avery® 8160");
-    sheet.PaperText = QStringLiteral("Paper size: Letter (8.5 x 11 in)");
-    sheet.LabelText = QStringLiteral("Label size: 1\" x 2 5/8\"");
-    sheet.A4 = false;
-    sheet.LabelsPerPage = 30;
-    sheet.MarginTop = 0.5F;
-    sheet.MarginSide = 0.19F;
-    sheet.RowHeight = 1440;
-    sheet.FirstLabelRight = 3787;
-    sheet.FirstGapRight = 3974;
-    sheet.SecondLabelRight = 7761;
-    sheet.SecondGapRight = 7948;
-    sheet.ScreenCellHeight = 495;
-    return sheet;
-}
-
-clsLabelSheet A4L7160() {
-    clsLabelSheet sheet;
-    sheet.Sheet = clsLabelSheet::AveryL7160;
-    sheet.Caption = QStringLiteral("Avery® L7160");
-    sheet.PaperText = QStringLiteral("Paper size: A4 (210 x 297 mm)");
-    sheet.LabelText = QStringLiteral("Label size: 38mm x 63.5mm");
-    sheet.A4 = true;
-    sheet.LabelsPerPage = 21;
-    sheet.MarginTop = 0.63F;
-    sheet.MarginSide = 0.28F;
-    sheet.RowHeight = 2160;
-    sheet.FirstLabelRight = 3585;
-    sheet.FirstGapRight = 3729;
-    sheet.SecondLabelRight = 7329;
-    sheet.SecondGapRight = 7473;
-    sheet.ScreenCellHeight = 750;
-    return sheet;
-}
-
-} // namespace
-
+// The two sheets: the margins, row heights and edges at which their tables line up with the labels.
 const clsLabelSheet& clsLabelSheet::Of(int sheet) {
-    static const clsLabelSheet letter = Letter8160();
-    static const clsLabelSheet a4 = A4L7160();
-    return sheet == AveryL7160 ? a4 : letter;
+    static const clsLabelSheet sheets[] = {
+        {.Sheet = Avery8160,
+         .Caption = QStringLiteral("Avery® 8160"),
+         .PaperText = QStringLiteral("Paper size: Letter (8.5 x 11 in)"),
+         .LabelText = QStringLiteral("Label size: 1\" x 2 5/8\""),
+         .A4 = false,
+         .LabelsPerPage = 30,
+         .MarginTop = 0.5F,
+         .MarginSide = 0.19F,
+         .RowHeight = 1440,
+         .FirstLabelRight = 3787,
+         .FirstGapRight = 3974,
+         .SecondLabelRight = 7761,
+         .SecondGapRight = 7948,
+         .ScreenCellHeight = 495},
+        {.Sheet = AveryL7160,
+         .Caption = QStringLiteral("Avery® L7160"),
+         .PaperText = QStringLiteral("Paper size: A4 (210 x 297 mm)"),
+         .LabelText = QStringLiteral("Label size: 38mm x 63.5mm"),
+         .A4 = true,
+         .LabelsPerPage = 21,
+         .MarginTop = 0.63F,
+         .MarginSide = 0.28F,
+         .RowHeight = 2160,
+         .FirstLabelRight = 3585,
+         .FirstGapRight = 3729,
+         .SecondLabelRight = 7329,
+         .SecondGapRight = 7473,
+         .ScreenCellHeight = 750},
+    };
+    return sheets[sheet == AveryL7160 ? 1 : 0];
 }
 
 int clsLabelSheet::KindOf(const QString& name) {

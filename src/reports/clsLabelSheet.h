@@ -11,9 +11,9 @@ public:
     enum Kind : int { Avery8160 = 0, AveryL7160 = 1 };
 
     int Sheet = Avery8160;
-    QString Caption;    // "Avery® 8160"
-    QString PaperText;  // "Paper size: Letter (8.5 x 11 in)"
-    QString LabelText;  // "Label size: 1\" x 2 5/8\""
+    QString Caption;   // "Avery® 8160"
+    QString PaperText; // "Paper size: Letter (8.5 x 11 in)"
+    QString LabelText; // "Label size: 1\" x 2 5/8\""
     bool A4 = false;
     int Across = 3;
     int LabelsPerPage = 30;

@@ -62,7 +62,8 @@ void clsRTFLabel::AddLabel(const clsLabelSheet& sheet, const QString& text) {
     ++mColumn;
     const int labelRight[] = {sheet.FirstLabelRight, sheet.SecondLabelRight, RTF.TABLE_WIDTH()};
     const int gapRight[] = {sheet.FirstGapRight, sheet.SecondGapRight};
-    RTF.AddCell(labelRight[mColumn - 1], text, clsRTFCell::AlignCenter, clsRTFCell::AlignTop, clsRTFCell::NoBorder);
+    RTF.AddCell(labelRight[mColumn - 1], text, clsRTFCell::AlignCenter, clsRTFCell::AlignTop,
+                clsRTFCell::NoBorder);
     if (mColumn < sheet.Across)
         RTF.AddCell(gapRight[mColumn - 1], RtfMarkup(), clsRTFCell::AlignCenter, clsRTFCell::AlignTop,
                     clsRTFCell::NoBorder);

@@ -40,7 +40,8 @@ QList<Address> People(int sectionKey, int filterEnum, const QString& customWhere
     QList<Address> addresses;
     // The contacts leave the couple out, as their counts do; the attendees have them.
     const bool excludeCouple = sectionKey == C::Contacts;
-    for (const clsCONTACT& contact : clsCONTACT::OpenRecords(filterEnum, customWhere, QString(), excludeCouple)) {
+    for (const clsCONTACT& contact :
+         clsCONTACT::OpenRecords(filterEnum, customWhere, QString(), excludeCouple)) {
         const QString name = contact.TitleFirstMiddleLastSuffix();
         addresses.append(Entry(contact.CONTACT_ID, name, {name}, contact.DisplayAddress(true)));
     }
@@ -51,8 +52,8 @@ QList<Address> People(int sectionKey, int filterEnum, const QString& customWhere
 QList<Address> Invitations(int filterEnum, const QString& customWhere) {
     QList<Address> addresses;
     for (const clsINVITE& invite : clsINVITE::OpenRecords(filterEnum, true, customWhere))
-        addresses.append(Entry(invite.INVITE_ID, OneLine(invite.OUTER_ENVELOPE_TX), {invite.OUTER_ENVELOPE_TX},
-                               invite.OUTER_ENVELOPE_ADDRESS_TX));
+        addresses.append(Entry(invite.INVITE_ID, OneLine(invite.OUTER_ENVELOPE_TX),
+                               {invite.OUTER_ENVELOPE_TX}, invite.OUTER_ENVELOPE_ADDRESS_TX));
     return addresses;
 }
 
@@ -69,8 +70,8 @@ QList<Address> Vendors() {
     for (const clsVENDOR& vendor : clsVENDOR().OpenRecords()) {
         const QString attention =
             vendor.CONTACT_NM.trimmed().isEmpty() ? QString() : QStringLiteral("Attn: ") + vendor.CONTACT_NM;
-        addresses.append(
-            Entry(vendor.VENDOR_ID, vendor.VENDOR_NM, {vendor.VENDOR_NM, attention}, vendor.ADDRESS_TX_NO_CRLF()));
+        addresses.append(Entry(vendor.VENDOR_ID, vendor.VENDOR_NM, {vendor.VENDOR_NM, attention},
+                               vendor.ADDRESS_TX_NO_CRLF()));
     }
     return addresses;
 }

@@ -14,7 +14,7 @@ namespace modLabels {
 struct Address {
     QString Key;
     QString Name;
-    QString Text; // lines joined by CR LF
+    QString Text;            // lines joined by CR LF
     bool HasAddress = false; // more than the name
 };
 

@@ -35,10 +35,22 @@ struct Stock {
 
 Stock StockOf(int sheet) {
     if (sheet == clsLabelSheet::AveryL7160)
-        return {21, 3, 7.2 * kPointsPerMm, 15.15 * kPointsPerMm, 63.5 * kPointsPerMm, 38.1 * kPointsPerMm,
-                66.0 * kPointsPerMm, 38.1 * kPointsPerMm};
-    return {30, 3, 0.19 * kPointsPerInch, 0.5 * kPointsPerInch, 2.625 * kPointsPerInch, 1.0 * kPointsPerInch,
-            2.75 * kPointsPerInch, 1.0 * kPointsPerInch};
+        return {21,
+                3,
+                7.2 * kPointsPerMm,
+                15.15 * kPointsPerMm,
+                63.5 * kPointsPerMm,
+                38.1 * kPointsPerMm,
+                66.0 * kPointsPerMm,
+                38.1 * kPointsPerMm};
+    return {30,
+            3,
+            0.19 * kPointsPerInch,
+            0.5 * kPointsPerInch,
+            2.625 * kPointsPerInch,
+            1.0 * kPointsPerInch,
+            2.75 * kPointsPerInch,
+            1.0 * kPointsPerInch};
 }
 
 struct Word {
@@ -53,8 +65,8 @@ QList<Word> WordsOf(const QString& pdf) {
     process.start(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf, QStringLiteral("-")});
     process.waitForFinished(60000);
     const QString html = QString::fromUtf8(process.readAllStandardOutput());
-    static const QRegularExpression tag(
-        QStringLiteral(R"re(<page |<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="([\d.]+)" yMax="([\d.]+)">([^<]*)</word>)re"));
+    static const QRegularExpression tag(QStringLiteral(
+        R"re(<page |<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="([\d.]+)" yMax="([\d.]+)">([^<]*)</word>)re"));
     QList<Word> words;
     int page = 0;
     for (auto it = tag.globalMatch(html); it.hasNext();) {
@@ -113,9 +125,7 @@ class tst_LabelSheetGeometry : public QObject {
         return QFileInfo::exists(result) ? result : QString();
     }
 
-    static void AddDialects() {
-        QTest::addColumn<bool>("ownPdf");
-    }
+    static void AddDialects() { QTest::addColumn<bool>("ownPdf"); }
 
 private slots:
     void initTestCase() {
@@ -166,10 +176,15 @@ private slots:
             const QRectF label(stock.Left + (onPage % stock.Across) * stock.PitchX,
                                stock.Top + (onPage / stock.Across) * stock.PitchY, stock.Width, stock.Height);
             const QString where = QStringLiteral("%1 on page %2 at %3,%4 (label at %5,%6)")
-                                      .arg(FirstWord(n)).arg(found->Page).arg(found->Box.left()).arg(found->Box.top())
-                                      .arg(label.left()).arg(label.top());
+                                      .arg(FirstWord(n))
+                                      .arg(found->Page)
+                                      .arg(found->Box.left())
+                                      .arg(found->Box.top())
+                                      .arg(label.left())
+                                      .arg(label.top());
             QVERIFY2(found->Page == (n - 1) / stock.PerPage + 1, qPrintable(where));
-            QVERIFY2(found->Box.left() >= label.left() && found->Box.right() <= label.right(), qPrintable(where));
+            QVERIFY2(found->Box.left() >= label.left() && found->Box.right() <= label.right(),
+                     qPrintable(where));
             QVERIFY2(found->Box.top() >= label.top() && found->Box.top() <= label.top() + kTolerance,
                      qPrintable(where));
         }
@@ -199,7 +214,8 @@ private slots:
         for (const Word& word : WordsOf(pdf)) {
             if (word.Text.startsWith(QLatin1String("Line"))) {
                 shown << word.Text;
-                QVERIFY2(word.Box.top() < bottom, qPrintable(word.Text)); // the line across the edge is clipped
+                QVERIFY2(word.Box.top() < bottom,
+                         qPrintable(word.Text)); // the line across the edge is clipped
             }
             if (word.Text == FirstWord(5))
                 QVERIFY(word.Box.top() >= bottom && word.Box.top() <= bottom + kTolerance);

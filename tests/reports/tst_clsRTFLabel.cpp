@@ -18,7 +18,8 @@ using C = clsReportCatalogue;
 
 // The rows of the document, each as its label cells' texts joined by "|" (the gaps left out).
 QStringList LabelRows(const QString& rtf) {
-    static const QRegularExpression cell(QStringLiteral(R"re(\\intbl\\qc\\cf0\\sb30\\sa30 (.*?)\\cell\\pard)re"));
+    static const QRegularExpression cell(
+        QStringLiteral(R"re(\\intbl\\qc\\cf0\\sb30\\sa30 (.*?)\\cell\\pard)re"));
     QStringList rows;
     const QStringList parts = rtf.split(QStringLiteral("\\trowd"));
     for (qsizetype i = 1; i < parts.size(); ++i) {
@@ -74,15 +75,15 @@ private slots:
         const int a4 = clsLabelSheet::AveryL7160;
         QTest::newRow("only label 5: a row of empty labels, then the middle one")
             << letter << Labels({{5, "Five"}}) << QStringList{"||", "|Five"};
-        QTest::newRow("a full row and one more") << letter << Labels({{1, "A"}, {2, "B"}, {3, "C"}, {4, "D"}})
-                                                 << QStringList{"A|B|C", "D"};
+        QTest::newRow("a full row and one more")
+            << letter << Labels({{1, "A"}, {2, "B"}, {3, "C"}, {4, "D"}}) << QStringList{"A|B|C", "D"};
         QTest::newRow("given out of order") << letter << Labels({{3, "C"}, {1, "A"}}) << QStringList{"A||C"};
         QStringList toTwentyTwo(7, QStringLiteral("||"));
         toTwentyTwo << QStringLiteral("Twenty-two");
         QTest::newRow("label 22 on A4: the eighth row, the first of page two")
             << a4 << Labels({{22, "Twenty-two"}}) << toTwentyTwo;
-        QTest::newRow("lines of a label") << a4 << Labels({{1, "Ann Lee\r\n12 Oak St"}})
-                                          << QStringList{"Ann Lee \\par 12 Oak St"};
+        QTest::newRow("lines of a label")
+            << a4 << Labels({{1, "Ann Lee\r\n12 Oak St"}}) << QStringList{"Ann Lee \\par 12 Oak St"};
         QTest::newRow("any script, markup as text")
             << letter << Labels({{1, QStringLiteral("Zoë 結婚式 {\\b x}")}})
             << QStringList{"Zo\\u235\\'eb \\u32080\\'3f\\u23130\\'3f\\u24335\\'3f \\{\\\\b x\\}"};
@@ -103,14 +104,18 @@ private slots:
         QTest::addColumn<QString>("section");
         QTest::addColumn<QString>("row");
         QTest::addColumn<QString>("edges");
-        QTest::newRow("8160") << int(clsLabelSheet::Avery8160)
-                              << "\\pghsxn15840\\pgwsxn12240\\margtsxn720\\margbsxn0\\marglsxn274\\margrsxn274"
-                                 "\\headery720\\footery720"
-                              << "\\trowd\\trkeep\\trrh-1440\\trgaph90" << "3787 3974 7761 7948 11693";
-        QTest::newRow("L7160") << int(clsLabelSheet::AveryL7160)
-                               << "\\pghsxn16834\\pgwsxn11909\\margtsxn907\\margbsxn0\\marglsxn403\\margrsxn403"
-                                  "\\headery720\\footery720"
-                               << "\\trowd\\trkeep\\trrh-2160\\trgaph90" << "3585 3729 7329 7473 11102";
+        QTest::newRow("8160")
+            << int(clsLabelSheet::Avery8160)
+            << "\\pghsxn15840\\pgwsxn12240\\margtsxn720\\margbsxn0\\marglsxn274\\margrsxn274"
+               "\\headery720\\footery720"
+            << "\\trowd\\trkeep\\trrh-1440\\trgaph90"
+            << "3787 3974 7761 7948 11693";
+        QTest::newRow("L7160")
+            << int(clsLabelSheet::AveryL7160)
+            << "\\pghsxn16834\\pgwsxn11909\\margtsxn907\\margbsxn0\\marglsxn403\\margrsxn403"
+               "\\headery720\\footery720"
+            << "\\trowd\\trkeep\\trrh-2160\\trgaph90"
+            << "3585 3729 7329 7473 11102";
     }
     void theSheetsSetUp() {
         QFETCH(int, sheet);
@@ -145,7 +150,8 @@ private slots:
         QVERIFY(zoe->HasAddress);
 
         const auto contacts = modLabels::Addresses(C::Contacts, 0, QString());
-        QCOMPARE(long(contacts.size()), clsCONTACT::GetTotal(0, QString(), true)); // as the report screen counts
+        QCOMPARE(long(contacts.size()),
+                 clsCONTACT::GetTotal(0, QString(), true)); // as the report screen counts
         QStringList unaddressed;
         for (const modLabels::Address& contact : contacts)
             if (!contact.HasAddress)
@@ -155,7 +161,8 @@ private slots:
 
         const auto vendors = modLabels::Addresses(C::Vendors, 0, QString());
         QCOMPARE(vendors.size(), 1);
-        QCOMPARE(vendors[0].Text, QStringLiteral("Bloom & Co\r\nAttn: Iris Petal\r\n5 Rose Lane, Salem, OR 97301"));
+        QCOMPARE(vendors[0].Text,
+                 QStringLiteral("Bloom & Co\r\nAttn: Iris Petal\r\n5 Rose Lane, Salem, OR 97301"));
         QCOMPARE(modLabels::Title(C::Widgets), QStringLiteral("Print Widgets Labels"));
         QVERIFY(modLabels::Addresses(C::RSVPs, 0, QString()).isEmpty());
     }

@@ -80,12 +80,13 @@ private:
 };
 
 QString Setting(const char* name, const char* defaultValue) {
-    return gRegistry().GetSetting(FormRegistryKey(QStringLiteral("frmReportsLabels")), QString::fromLatin1(name),
-                                  QString::fromLatin1(defaultValue));
+    return gRegistry().GetSetting(FormRegistryKey(QStringLiteral("frmReportsLabels")),
+                                  QString::fromLatin1(name), QString::fromLatin1(defaultValue));
 }
 
 void SaveSetting(const char* name, const QString& value) {
-    gRegistry().SaveSetting(FormRegistryKey(QStringLiteral("frmReportsLabels")), QString::fromLatin1(name), value);
+    gRegistry().SaveSetting(FormRegistryKey(QStringLiteral("frmReportsLabels")), QString::fromLatin1(name),
+                            value);
 }
 
 usrHyperlink* MakeLink(const QString& name, const QString& caption, QWidget* parent) {
@@ -244,8 +245,9 @@ QWidget* frmReportsLabels::MakeOptions() {
     spnStart->setRange(1, clsLabelSheet::ScreenCells);
     auto* fill = new QPushButton(QStringLiteral("&Fill from label"), start);
     fill->setObjectName(QStringLiteral("cmdFill"));
-    fill->setToolTip(QStringLiteral("Places the selected addresses (all, when none is selected) in order from "
-                                    "this label on."));
+    fill->setToolTip(
+        QStringLiteral("Places the selected addresses (all, when none is selected) in order from "
+                       "this label on."));
     connect(fill, &QPushButton::clicked, this, [this] { FillFrom(spnStart->value()); });
     startLayout->addWidget(fill);
     startLayout->addWidget(spnStart);
@@ -284,8 +286,8 @@ void frmReportsLabels::FillList() {
         // The name has its column: the address column shows the label's further lines on one line.
         const qsizetype nameEnd = address.Text.indexOf(QLatin1String("\r\n"));
         QString lines = nameEnd < 0 ? QString() : address.Text.mid(nameEnd + 2);
-        auto* item = new QTreeWidgetItem({address.Name, lines.replace(QLatin1String("\r\n"), QLatin1String(", ")),
-                                          address.Key});
+        auto* item = new QTreeWidgetItem(
+            {address.Name, lines.replace(QLatin1String("\r\n"), QLatin1String(", ")), address.Key});
         item->setData(0, IndexRole, int(i));
         items.append(item);
     }
@@ -444,7 +446,8 @@ void frmReportsLabels::LoadSettings() {
 void frmReportsLabels::SaveSettings() const {
     SaveSetting("Font", mFontName);
     SaveSetting("FontSize", mFontSize);
-    SaveSetting("opt0", Sheet() == clsLabelSheet::Avery8160 ? QStringLiteral("True") : QStringLiteral("False"));
+    SaveSetting("opt0",
+                Sheet() == clsLabelSheet::Avery8160 ? QStringLiteral("True") : QStringLiteral("False"));
 }
 
 void frmReportsLabels::done(int result) {

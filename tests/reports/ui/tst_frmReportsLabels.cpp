@@ -66,7 +66,8 @@ class tst_frmReportsLabels : public QObject {
     static QStringList Placed(frmReportsLabels& form) {
         QStringList placed;
         for (const clsLabel& label : form.PlacedLabels())
-            placed << label.LABEL_NUMBER_TX + '=' + label.FULL_ADDRESS_TX.section(' ', 1, 1).section('\r', 0, 0);
+            placed << label.LABEL_NUMBER_TX + '=' +
+                          label.FULL_ADDRESS_TX.section(' ', 1, 1).section('\r', 0, 0);
         return placed;
     }
 
@@ -80,8 +81,9 @@ class tst_frmReportsLabels : public QObject {
         }
     }
 
-    // One step: "select Ames Cole" (by last name), "drop N" (the selection onto label N), "move A B", "return N" (label N onto
-    // the list), "fill N", "enter" (in the list), "delete N" (label N clicked, then Delete), "clearall".
+    // One step: "select Ames Cole" (by last name), "drop N" (the selection onto label N), "move A B", "return
+    // N" (label N onto the list), "fill N", "enter" (in the list), "delete N" (label N clicked, then Delete),
+    // "clearall".
     static void Run(frmReportsLabels& form, const QString& step) {
         const QStringList words = step.split(' ');
         const QString& op = words[0];
@@ -151,7 +153,8 @@ private slots:
         QTest::newRow("fill from a label takes all when none is selected")
             << QStringList{"fill 26"} << QStringList{"28=Ames", "29=Bell", "30=Cole"};
         QTest::newRow("Enter fills the free labels")
-            << QStringList{"select Dunn", "drop 2", "select Ames Bell", "enter"} << QStringList{"1=Ames", "2=Dunn", "3=Bell"};
+            << QStringList{"select Dunn", "drop 2", "select Ames Bell", "enter"}
+            << QStringList{"1=Ames", "2=Dunn", "3=Bell"};
         QTest::newRow("Clear All") << QStringList{"fill 1", "clearall"} << QStringList{};
     }
     void placingLabels() {
@@ -162,7 +165,8 @@ private slots:
         for (const QString& step : steps)
             Run(form, step);
         QCOMPARE(Placed(form), placed);
-        QCOMPARE(Child<QLabel>(form, "lblCount")->text(), QString::number(placed.size()) + " labels to print");
+        QCOMPARE(Child<QLabel>(form, "lblCount")->text(),
+                 QString::number(placed.size()) + " labels to print");
         QCOMPARE(Child<QPushButton>(form, "cmdRun")->isEnabled(), !placed.isEmpty());
     }
 
@@ -176,12 +180,15 @@ private slots:
             const int letterHeight = Label(form, 1)->height();
             QTest::mouseClick(Child<QRadioButton>(form, "opt_1"), Qt::LeftButton, {}, QPoint(5, 5));
             QVERIFY(Child<QLabel>(form, "imgSpillOver")->isVisible());
-            QCOMPARE(Child<QLabel>(form, "lblPaper")->text(), QStringLiteral("Paper size: A4 (210 x 297 mm)"));
-            QCOMPARE(Child<QLabel>(form, "lblLabelSize")->text(), QStringLiteral("Label size: 38mm x 63.5mm"));
+            QCOMPARE(Child<QLabel>(form, "lblPaper")->text(),
+                     QStringLiteral("Paper size: A4 (210 x 297 mm)"));
+            QCOMPARE(Child<QLabel>(form, "lblLabelSize")->text(),
+                     QStringLiteral("Label size: 38mm x 63.5mm"));
             QVERIFY(Label(form, 1)->maximumHeight() > letterHeight);
             form.reject();
         }
-        QCOMPARE(gRegistry().GetSetting(FormRegistryKey("frmReportsLabels"), "opt0", "True"), QStringLiteral("False"));
+        QCOMPARE(gRegistry().GetSetting(FormRegistryKey("frmReportsLabels"), "opt0", "True"),
+                 QStringLiteral("False"));
         frmReportsLabels again(ContactsRoute());
         QVERIFY(Child<QRadioButton>(again, "opt_1")->isChecked());
     }
@@ -189,8 +196,10 @@ private slots:
     void printWritesTheSheet_data() {
         QTest::addColumn<QString>("sheet");
         QTest::addColumn<QString>("paper");
-        QTest::newRow("8160") << "opt_0" << "\\pgwsxn12240";
-        QTest::newRow("L7160") << "opt_1" << "\\pgwsxn11909";
+        QTest::newRow("8160") << "opt_0"
+                              << "\\pgwsxn12240";
+        QTest::newRow("L7160") << "opt_1"
+                               << "\\pgwsxn11909";
     }
     void printWritesTheSheet() {
         QFETCH(QString, sheet);
