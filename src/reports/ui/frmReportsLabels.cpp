@@ -4,6 +4,7 @@
 #include "core/ShowMessage.h"
 #include "core/modGeneral.h"
 #include "platform/clsRegistry.h"
+#include "platform/clsShell.h"
 #include "reports/clsLabelSheet.h"
 #include "reports/clsRTFLabel.h"
 #include "reports/clsRTFMasterTemp.h"
@@ -410,6 +411,7 @@ bool frmReportsLabels::eventFilter(QObject* watched, QEvent* event) {
 
 // ---- Print ----
 
+// The sheet is written and handed to the desktop as every report is; the form stays open for the next.
 void frmReportsLabels::cmdRun_Click() {
     gRTFMasterTemp().A4 = Sheet() == clsLabelSheet::AveryL7160;
     clsRTFLabel labels;
@@ -418,8 +420,8 @@ void frmReportsLabels::cmdRun_Click() {
     labels.FONT_NAME = mFontName;
     labels.FONT_SIZE = mFontSize;
     mLastFile = labels.Build();
-    if (!mLastFile.isEmpty())
-        labels.Show();
+    if (!mLastFile.isEmpty() && !gShell().OpenDocument(mLastFile))
+        ShowMessage(gShell().Message(), Msg::Exclamation, ProgramTitle());
 }
 
 // ---- Font and settings ----
