@@ -13,6 +13,7 @@
 #include "reports/ui/frmReports.h"
 #include "reports/ui/frmReportEventDates.h"
 #include "reports/ui/frmReportsCustomFilter.h"
+#include "reports/ui/frmReportsLabels.h"
 
 #include <QApplication>
 #include <QFile>
@@ -103,6 +104,10 @@ void RegisterOwnDialogs() {
         clsLabelDesk labelDesk;
         if (!labelDesk.Show(route.FormNumber, route.FilterEnum, route.Argument.toInt()))
             ShowMessage(labelDesk.Message(), Msg::OKOnly | Msg::Exclamation, ProgramTitle());
+    });
+    Register(QStringLiteral("frmReportsLabels"), [](QWidget* parent, const clsReportRoute& route) {
+        frmReportsLabels form(route, parent);
+        form.exec();
     });
 }
 
