@@ -7,7 +7,7 @@ VOWREN_PACKAGES=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-svg-dev qt6-charts-dev qt6-webengine-dev libgl-dev libglx-dev
     libsqlite3-dev libbenchmark-dev ccache lld
-    fonts-dejavu-core poppler-utils python3-vobject
+    fonts-dejavu-core poppler-utils python3-vobject libreoffice-writer-nogui
 )
 
 vowren_missing_packages() {

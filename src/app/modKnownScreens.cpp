@@ -18,7 +18,10 @@
 #include "shell/modPages.h"
 #include "shell/modScreenshots.h"
 #include "shell/options/frmBackup.h"
+#include "shell/options/frmBrideGroomIcons.h"
 #include "shell/options/frmOptions.h"
+#include "shell/options/frmOptionsEntry.h"
+#include "shell/options/frmOptionsEntryMeal.h"
 #include "startup/ui/frmMain_00_Home.h"
 #include "startup/ui/frmMain_00_Welcome.h"
 #include "widgets/ui/modWidgetLinks.h"
@@ -28,19 +31,8 @@
 
 namespace {
 
-// The widgets page opens the parents' contacts and names a remarried parent's spouse through the guest
-// screens.
+// The widgets page names a remarried parent's spouse through the guest screens.
 void LinkWidgetsToGuests() {
-    modWidgetLinks::SetContactOpener([](QWidget* parent, const QString& contactId, const QString& roleId) {
-        frmContact editor(contactId, parent);
-        if (contactId.isEmpty())
-            editor.SetRole(roleId);
-        bool changed = false;
-        QObject::connect(&editor, &frmContact::Added, &editor, [&changed] { changed = true; });
-        QObject::connect(&editor, &frmContact::Updated, &editor, [&changed] { changed = true; });
-        editor.exec();
-        return changed;
-    });
     modWidgetLinks::SetRemarriedOpener([](QWidget* parent, int roleId, QString* contactId) {
         frmRemarriedTo dialog(roleId, parent);
         bool chosen = false;
@@ -51,6 +43,33 @@ void LinkWidgetsToGuests() {
         dialog.exec();
         return chosen;
     });
+}
+
+// Every panel of the options screen, and the small dialogs it opens.
+void RegisterOptionsScreenshots() {
+    const std::pair<const char*, int> panels[] = {
+        {"PaidBy", clsDICT::PaidBy},
+        {"Roles", clsDICT::Role},
+        {"Songlists", clsDICT::Songlist},
+        {"Titles", clsDICT::Title},
+        {"VendorCategories", clsDICT::VendorCategory},
+        {"Etiquette", frmOptions::Etiquette},
+        {"Icons", frmOptions::Icons},
+        {"Country", frmOptions::Country},
+        {"LabelProgram", frmOptions::LabelProgram},
+    };
+    for (const auto& [name, kind] : panels)
+        modScreenshots::Register(modPages::FormName(modPages::kOptions) + QLatin1Char('_') + QLatin1String(name),
+                                 [kind]() -> QWidget* { return new frmOptions(nullptr, kind); });
+    modScreenshots::Register(QStringLiteral("frmBrideGroomIcons"),
+                             []() -> QWidget* { return new frmBrideGroomIcons(true, 1); });
+    modScreenshots::Register(QStringLiteral("frmOptionsEntry"), []() -> QWidget* {
+        clsDICT title(clsDICT::Title);
+        title.TX = QStringLiteral("Dr.");
+        return new frmOptionsEntry(title, false, clsDICT::Title);
+    });
+    modScreenshots::Register(QStringLiteral("frmOptionsEntryMeal"),
+                             []() -> QWidget* { return new frmOptionsEntryMeal(clsDICT(clsDICT::Meal), true); });
 }
 
 } // namespace
@@ -73,6 +92,7 @@ void RegisterKnownScreens() {
 
     modScreenshots::Register(QStringLiteral("frmAbout"), [] { return mdiMain::MakeAbout(nullptr); });
     modScreenshots::Register(FormName(kOptions), []() -> QWidget* { return new frmOptions(nullptr); });
+    RegisterOptionsScreenshots();
     modScreenshots::Register(QStringLiteral("frmFeatureTour"),
                              []() -> QWidget* { return new frmFeatureTour; });
     modScreenshots::Register(QStringLiteral("frmForums"), []() -> QWidget* { return new frmForums; });

@@ -24,6 +24,7 @@ CliCommand ParseAddressCommand();
 CliCommand DemoCommand();
 CliCommand ReportCommand();
 CliCommand CustomReportsCommand();
+CliCommand LabelsCommand();
 CliCommand DeleteCommand();
 CliCommand RelabelCommand();
 CliCommand SeatCommand();
@@ -41,6 +42,7 @@ CliCommand BudgetCommand();
 CliCommand ThankYouCommand();
 CliCommand WordingCommand();
 CliCommand PlaylistCommand();
+CliCommand LabelProgramCommand();
 
 CliCommand BackupCommand();
 CliCommand RestoreCommand();

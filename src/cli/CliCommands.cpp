@@ -40,6 +40,7 @@ const std::vector<CliCommand>& CliCommands() {
         DemoCommand(),
         ReportCommand(),
         CustomReportsCommand(),
+        LabelsCommand(),
         BackupCommand(),
         RestoreCommand(),
         DeleteCommand(),
@@ -59,6 +60,7 @@ const std::vector<CliCommand>& CliCommands() {
         ThankYouCommand(),
         WordingCommand(),
         PlaylistCommand(),
+        LabelProgramCommand(),
     };
     return commands;
 }

@@ -133,7 +133,9 @@ bool clsPdfDialect::Begin(const clsRTFMaster& writer, const clsRTFMasterTemp& se
     mDate = writer.PRINT_HEADER_DATE ? clsRTFMaster::HeaderDateText(Now()) : QString();
     mStatistics = writer.STATISTICS.Rtf();
 
-    const double header = Twips(writer.MARGIN_HEADER) + QFontMetricsF(DeviceFont(kTitlePoints)).height() +
+    // A document without title and date (a sheet of labels) starts its table right at the top margin.
+    const double header = Twips(writer.MARGIN_HEADER) +
+                          (writer.TITLE.IsEmpty() ? 0 : QFontMetricsF(DeviceFont(kTitlePoints)).height()) +
                           (mDate.isEmpty() ? 0 : QFontMetricsF(DeviceFont(kDatePoints)).height());
     mBodyTop = mHeaderOnEveryPage ? std::max(Twips(writer.MARGIN_TOP), header + 2 * kParagraphSpace)
                                   : Twips(writer.MARGIN_TOP);

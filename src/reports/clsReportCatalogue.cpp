@@ -539,6 +539,7 @@ clsReportRoute clsReportCatalogue::LabelRoute(int sectionKey, const QList<Filter
     if (sectionKey == Gifts && rowIndex >= 3) {
         route.FilterEnum = 3;
         route.CustomWhere = EventCondition(QString::number(row.Key));
+        route.Argument = QString::number(row.Key); // the event, for the label program
     } else if (sectionKey == Widgets) {
         route.FilterEnum = row.Key - 99;
     }

@@ -358,6 +358,48 @@ if command -v xmllint >/dev/null; then
     check "the playlist is XML" 0 '' xmllint --noout "$home/Playlists/All_Songs.wpl"
 fi
 
+# The external label program: off until named, then handed the list the report screen would hand it.
+check "no label program by default" 0 '^active: no$' "$cli" label-program
+check "labels can't be handed over before one is named" 1 'not set up' "$cli" label-program --start Gifts
+mkdir -p "$home/Label Desk"
+printf '#!/bin/sh\necho "$@" > "$(dirname "$0")/args.tmp"; mv "$(dirname "$0")/args.tmp" "$(dirname "$0")/args.txt"\n' >"$home/Label Desk/labeldesk"
+chmod +x "$home/Label Desk/labeldesk"
+check "a label program in a folder with a blank" 0 '^active: yes$' "$cli" label-program --folder "$home/Label Desk" --exe labeldesk
+event=$(value "SELECT MAX(EVENT_ID) FROM EVENT")
+check "the gifts of an event go to it" 0 "^$home/Label Desk/labeldesk 1,6,3,$event\$" "$cli" label-program --start Gifts --filter "$event"
+for _ in 1 2 3 4 5 6 7 8 9 10; do [ -f "$home/Label Desk/args.txt" ] && break; sleep 0.5; done
+check "it got one argument" 0 "^1,6,3,$event\$" cat "$home/Label Desk/args.txt"
+check "tent cards go to it too" 0 ' 1,17,1,0$' "$cli" label-program --start Tentcards
+check "RSVPs are no labels" 2 "can't be printed as labels" "$cli" label-program --start RSVPs
+check "label-program with a stray argument" 2 'usage: label-program' "$cli" label-program --folder
+check "label-program --clear" 0 '^active: no$' "$cli" label-program --clear
+
+# Label sheets, on a demo wedding of their own.
+labels_home=$(mktemp -d)
+labels() { VOWREN_HOME="$labels_home" "$cli" labels "$@"; }
+VOWREN_HOME="$labels_home" "$cli" demo >/dev/null 2>&1
+check "labels of the contacts" 0 "^$labels_home/Reports/Labels_[0-9_-]+\.rtf\$" labels Contacts
+check "labels leave out who has no address" 0 'without an address left out' labels Contacts
+check "labels on A4 from label 5 by section key" 0 'Labels_.*\.rtf$' labels 9 --sheet L7160 --start 5
+check "labels of a guest list" 0 'Labels_.*\.rtf$' labels Widgets
+check "labels as PDF" 0 'Labels_.*\.pdf$' labels Invitations --format pdf
+check "labels of a section without" 2 '"RSVPs" prints no labels' labels RSVPs
+check "labels of the custom filter row" 2 'no such filter row for labels' labels Contacts --filter 99999
+check "labels on a sheet we do not know" 2 '--sheet takes 8160' labels Contacts --sheet 5160
+check "labels from label 0" 2 '--start takes the number' labels Contacts --start 0
+check "labels without a section" 2 'give a SECTION' labels
+latest_sheet() { ls -t "$labels_home"/Reports/Labels_*.rtf | head -1; }
+empty_rows() { # the rows of a label sheet in which every label is empty
+    python3 - "$1" <<'PY'
+import re, sys
+rows = open(sys.argv[1], encoding="latin-1").read().split("\\trowd")[1:]
+print("empty rows:", sum(1 for row in rows if not re.search(r"sa30 [^\\]", row)))
+PY
+}
+labels Vendors --sheet L7160 --start 22 >/dev/null 2>&1
+check "labels start on the label asked for" 0 '^empty rows: 7$' empty_rows "$(latest_sheet)"
+rm -rf "$labels_home"
+
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
 check "a damaged file is named and kept" 1 "Unable to connect to database: $home/Database/Vowren.quilldata" "$cli" init
 check "the damaged file is untouched" 0 'not a database at all' cat "$home/Database/Vowren.quilldata"

@@ -420,11 +420,12 @@ private slots:
         QTest::addColumn<QString>("dialog");
         QTest::addColumn<int>("filterEnum");
         QTest::addColumn<QString>("customWhere");
-        QTest::newRow("contacts") << 1 << 2 << false << "frmReportsLabels" << 1 << "";
-        QTest::newRow("gifts third row") << 6 << 3 << false << "frmReportsLabels" << 2 << "";
+        QTest::addColumn<int>("eventId"); // what the label program is handed last
+        QTest::newRow("contacts") << 1 << 2 << false << "frmReportsLabels" << 1 << "" << 0;
+        QTest::newRow("gifts third row") << 6 << 3 << false << "frmReportsLabels" << 2 << "" << 0;
         QTest::newRow("gifts of an event")
-            << 6 << 4 << true << "clsLabelDesk" << 3 << "WHERE EVENT.EVENT_ID = 3";
-        QTest::newRow("guest list") << 13 << 6 << false << "frmReportsLabels" << 2 << "";
+            << 6 << 4 << true << "clsLabelDesk" << 3 << "WHERE EVENT.EVENT_ID = 3" << 3;
+        QTest::newRow("guest list") << 13 << 6 << false << "frmReportsLabels" << 2 << "" << 0;
     }
     void labelRoute() {
         QFETCH(int, section);
@@ -433,8 +434,10 @@ private slots:
         QFETCH(QString, dialog);
         QFETCH(int, filterEnum);
         QFETCH(QString, customWhere);
+        QFETCH(int, eventId);
         MakeWedding();
         const clsReportRoute r = C::LabelRoute(section, C::FilterRows(section), position - 1, labelDesk);
+        QCOMPARE(r.Argument.toInt(), eventId);
         QCOMPARE(r.Dialog, dialog);
         QCOMPARE(r.FormNumber, section);
         QCOMPARE(r.FilterEnum, filterEnum);

@@ -8,6 +8,7 @@
 #include "shell/options/frmOptionsEntry.h"
 
 #include "core/clsVOWREN.h"
+#include "platform/clsLabelDesk.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -142,6 +143,7 @@ private slots:
     void cancelledUpdateLeavesEverythingAsItWas();
     void tentCardUpdateStoresTheChoice();
     void iconsAndCountryAreStoredAtOnce();
+    void labelProgramIsNamedAndChecked();
     void backupWritesACompleteDatabase();
     void backupIntoAMissingFolderWritesNothing();
 };
@@ -490,6 +492,37 @@ void tst_Options::iconsAndCountryAreStoredAtOnce() {
     QCOMPARE(country.count(), 1);
     frmOptions reopened(nullptr, frmOptions::Country);
     QVERIFY(Child<QRadioButton>(reopened, QStringLiteral("optCountry_3"))->isChecked());
+}
+
+// The folder and name are written as they are left; the line below tells whether labels go there.
+void tst_Options::labelProgramIsNamedAndChecked() {
+    TestDatabase db;
+    QTemporaryDir folder;
+    const QString program = folder.filePath("print labels");
+    QFile file(program);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    const auto options = OpenOptions(frmOptions::LabelProgram);
+    auto* status = Child<QLabel>(*options, QStringLiteral("lblStatus"));
+    QVERIFY(status->text().startsWith("No label program is named"));
+    auto* path = Child<QLineEdit>(*options, QStringLiteral("txtAppPath"));
+    auto* exe = Child<QLineEdit>(*options, QStringLiteral("txtExeName"));
+    path->setText(folder.path());
+    emit path->editingFinished();
+    exe->setText(QStringLiteral("print labels"));
+    emit exe->editingFinished();
+    QCOMPARE(clsLabelDesk().AppPath(), folder.path());
+    QVERIFY2(status->text().contains("is not a program that can be run"), qPrintable(status->text()));
+    QVERIFY(!clsLabelDesk().IsActive());
+
+    file.setPermissions(file.permissions() | QFile::ExeOwner);
+    options->SelectKind(frmOptions::LabelProgram); // showing the panel again looks again
+    QCOMPARE(status->text(), "Labels and tent cards go to " + program + ".");
+    QVERIFY(clsLabelDesk().IsActive());
+
+    Click(Child<QWidget>(*options, QStringLiteral("cmdClear")));
+    QVERIFY(clsLabelDesk().AppPath().isEmpty() && clsLabelDesk().ExeName().isEmpty());
+    QVERIFY(!clsLabelDesk().IsActive());
 }
 
 void tst_Options::backupWritesACompleteDatabase() {

@@ -6,7 +6,7 @@
 #include "guests/clsParseName.h"
 #include "guests/ui/GuestIcons.h"
 #include "guests/ui/frmCheckName.h"
-#include "guests/ui/modContactEditor.h"
+#include "shell/modContactEditor.h"
 #include "shell/controls/ControlIcons.h"
 #include "shell/controls/modLayout.h"
 #include "shell/controls/usrDropdown.h"
@@ -627,7 +627,11 @@ void frmContact::StartNew() {
 // ---- Registration -----------------------------------------------------------------------------------
 
 void frmContact::RegisterEditor() {
-    modContactEditor::SetFactory([](QWidget* parent, const QString& contactId) -> frmEditorBase* {
-        return new frmContact(contactId, parent);
-    });
+    modContactEditor::SetFactory(
+        [](QWidget* parent, const QString& contactId, const QString& roleId) -> frmEditorBase* {
+            auto* editor = new frmContact(contactId, parent);
+            if (contactId.isEmpty() && !roleId.isEmpty())
+                editor->SetRole(roleId);
+            return editor;
+        });
 }

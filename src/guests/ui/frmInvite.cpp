@@ -4,7 +4,7 @@
 #include "core/clsApp.h"
 #include "core/clsDICT.h"
 #include "guests/ui/frmInviteTip.h"
-#include "guests/ui/modContactEditor.h"
+#include "shell/modContactEditor.h"
 #include "guests/ui/modGuestEditors.h"
 #include "guests/ui/usrGuestList.h"
 #include "shell/controls/ControlIcons.h"

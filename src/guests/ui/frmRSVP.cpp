@@ -1,7 +1,7 @@
 #include "guests/ui/frmRSVP.h"
 
 #include "core/clsDICT.h"
-#include "guests/ui/modContactEditor.h"
+#include "shell/modContactEditor.h"
 #include "guests/ui/modGuestEditors.h"
 #include "shell/controls/modLayout.h"
 #include "shell/controls/usrDropdown.h"

@@ -6,6 +6,8 @@
 #include "shell/controls/modLayout.h"
 #include "shell/controls/usrDate.h"
 #include "shell/controls/usrDropdown.h"
+#include "shell/controls/usrHyperlink.h"
+#include "shell/modContactEditor.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -58,6 +60,9 @@ void frmGift::BuildControls() {
     lblList = new QLabel(this);
     lvw = new QListWidget(this);
     lvw->setObjectName(QStringLiteral("lvw"));
+    linkAddContact = new usrHyperlink(QStringLiteral("Add new contact"), this);
+    linkAddContact->setObjectName(QStringLiteral("linkAddContact"));
+    linkAddContact->setEnabled(modContactEditor::Available());
     txtAddress = new QPlainTextEdit(this);
     txtAddress->setObjectName(QStringLiteral("txtAddress"));
     txtAddress->setReadOnly(true);
@@ -83,6 +88,7 @@ void frmGift::BuildControls() {
     giver->addLayout(kindRow);
     giver->addWidget(lblList);
     giver->addWidget(lvw, 1);
+    giver->addWidget(linkAddContact);
     QFormLayout* form = modLayout::Form(nullptr);
     modLayout::CaptionedRow(form, QStringLiteral("Address"), txtAddress);
     modLayout::CaptionedRow(form, QStringLiteral("&Event"), usrEVENT);
@@ -109,6 +115,7 @@ void frmGift::BuildControls() {
         ShowGiver();
         RefreshEnabling();
     });
+    connect(linkAddContact, &usrHyperlink::Click, this, &frmGift::linkAddContact_Click);
     connect(usrEVENT, &usrDropdown::Click, this, &frmGift::RefreshEnabling);
     connect(usrRECEIVED_DT, &usrDate::Changed, this, &frmGift::RefreshEnabling);
     connect(txtGIFT_TX, &QLineEdit::textChanged, this, &frmGift::RefreshEnabling);
@@ -166,6 +173,17 @@ void frmGift::ShowGiver() {
     txtAddress->setPlainText(
         item ? item->data(kAddressRole).toString().replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
              : QString());
+}
+
+void frmGift::linkAddContact_Click() {
+    const QString id = modContactEditor::OpenForKey(this, QString());
+    if (id.isEmpty())
+        return;
+    if (optContact->isChecked())
+        FillGivers();
+    else
+        optContact->setChecked(true); // fills the contacts
+    SelectGiver(RowKey(FromContact, id));
 }
 
 frmGift::GiverKind frmGift::Kind() const {

@@ -11,6 +11,7 @@ class QPlainTextEdit;
 class QRadioButton;
 class usrDropdown;
 class usrDate;
+class usrHyperlink;
 
 // One gift: from a contact or from a whole invitation, chosen in a list with the giver's address shown,
 // at an event, received on a day (or not yet known), and whether the thank-you note went out. Save is
@@ -44,12 +45,15 @@ private:
     GiverKind Kind() const;
     QString GiverId() const;
     void RefreshEnabling();
+    // Adds a person through the contact editor and makes them the giver.
+    void linkAddContact_Click();
 
     clsGIFT mGift;
     QRadioButton* optContact;
     QRadioButton* optInvitation;
     QLabel* lblList;
     QListWidget* lvw;
+    usrHyperlink* linkAddContact;
     QPlainTextEdit* txtAddress;
     usrDropdown* usrEVENT;
     usrDate* usrRECEIVED_DT;

@@ -499,12 +499,7 @@ void frmReports::mfrmReportsFont_FontChanged(const QString& rsFONT_NAME, const Q
 void frmReports::SetFontLinks(const QString& fontName, const QString& fontSize) {
     mFontName = fontName;
     mFontSize = fontSize;
-    QFont font(fontName);
-    font.setPointSize(qBound(7, fontSize.toInt(), 16));
-    linkFont->setLinkFont(font);
-    linkFont->setCaption(fontName);
-    linkFontSize->setLinkFont(font);
-    linkFontSize->setCaption(fontSize);
+    ShowFontLinks(linkFont, linkFontSize, fontName, fontSize);
 }
 
 // A colour travels with the data: it is written at once.

@@ -1,5 +1,7 @@
 #include "reports/ui/frmReportsFont.h"
 
+#include "shell/controls/usrHyperlink.h"
+
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFontDatabase>
@@ -98,4 +100,14 @@ void frmReportsFont::cmdOK_Click() {
         return;
     emit FontChanged(FontName(), FontSize());
     accept();
+}
+
+void ShowFontLinks(usrHyperlink* fontLink, usrHyperlink* sizeLink, const QString& fontName,
+                   const QString& fontSize) {
+    QFont font(fontName);
+    font.setPointSize(qBound(7, fontSize.toInt(), 16));
+    fontLink->setLinkFont(font);
+    fontLink->setCaption(fontName);
+    sizeLink->setLinkFont(font);
+    sizeLink->setCaption(fontSize);
 }

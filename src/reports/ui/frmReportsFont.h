@@ -5,6 +5,11 @@
 class QComboBox;
 class QLabel;
 class QPushButton;
+class usrHyperlink;
+
+// Shows a font's name and size in two links, each in that very font (at a size the form can hold).
+void ShowFontLinks(usrHyperlink* fontLink, usrHyperlink* sizeLink, const QString& fontName,
+                   const QString& fontSize);
 
 // "Select Font": the one font of a report and its size, with a sample that follows both lists.
 class frmReportsFont : public QDialog {

@@ -4,6 +4,7 @@
 #include "core/ShowMessage.h"
 #include "core/modGeneral.h"
 #include "pdf/clsPdfDialect.h"
+#include "platform/clsLabelDesk.h"
 #include "platform/clsShell.h"
 #include "reports/clsRTFMasterTemp.h"
 #include "reports/clsReportClasses.h"
@@ -12,6 +13,7 @@
 #include "reports/ui/frmReports.h"
 #include "reports/ui/frmReportEventDates.h"
 #include "reports/ui/frmReportsCustomFilter.h"
+#include "reports/ui/frmReportsLabels.h"
 #include "reports/ui/frmReportsSQL.h"
 
 #include <QApplication>
@@ -100,6 +102,18 @@ void RegisterOwnDialogs() {
         clsReportRoute months = route;
         months.Argument = form.Range().RangeText();
         BuildAndShow(months);
+    });
+    // The label program, once the user has named it, takes labels and tent cards over.
+    if (!LabelDeskProbe())
+        SetLabelDeskActive([] { return clsLabelDesk().IsActive(); });
+    Register(QStringLiteral("clsLabelDesk"), [](QWidget*, const clsReportRoute& route) {
+        clsLabelDesk labelDesk;
+        if (!labelDesk.Show(route.FormNumber, route.FilterEnum, route.Argument.toInt()))
+            ShowMessage(labelDesk.Message(), Msg::OKOnly | Msg::Exclamation, ProgramTitle());
+    });
+    Register(QStringLiteral("frmReportsLabels"), [](QWidget* parent, const clsReportRoute& route) {
+        frmReportsLabels form(route, parent);
+        form.exec();
     });
 }
 

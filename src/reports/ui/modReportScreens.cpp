@@ -1,9 +1,11 @@
 #include "pdf/clsPdfDialect.h"
+#include "reports/clsLabelSheet.h"
 #include "reports/modReportRegistry.h"
 #include "reports/ui/frmReportEventDates.h"
 #include "reports/ui/frmReports.h"
 #include "reports/ui/frmReportsCustomFilter.h"
 #include "reports/ui/frmReportsFont.h"
+#include "reports/ui/frmReportsLabels.h"
 #include "reports/ui/frmReportsSQL.h"
 #include "reports/ui/modReportDialogs.h"
 #include "shell/modScreenshots.h"
@@ -33,6 +35,28 @@ void RegisterReportScreens() {
     });
     modScreenshots::Register(QStringLiteral("frmReportEventDates"),
                              []() -> QWidget* { return new frmReportEventDates(nullptr); });
+    // The label sheet half filled with the contacts' addresses, on either sheet.
+    for (const int sheet : clsLabelSheet::Kinds()) {
+        const QString name = sheet == clsLabelSheet::Avery8160 ? QStringLiteral("frmReportsLabels")
+                                                               : QStringLiteral("frmReportsLabels-A4");
+        modScreenshots::Register(name, [sheet]() -> QWidget* {
+            clsReportRoute route;
+            route.FormNumber = clsReportCatalogue::Contacts;
+            auto* form = new frmReportsLabels(route, nullptr);
+            form->findChild<QRadioButton*>(QStringLiteral("opt_%1").arg(sheet))->setChecked(true);
+            auto* list = form->findChild<QTreeWidget*>(QStringLiteral("lvw"));
+            int selected = 0;
+            for (int row = 0; row < list->topLevelItemCount() && selected < 15; ++row) {
+                QTreeWidgetItem* item = list->topLevelItem(row);
+                if (!item->text(1).isEmpty()) {
+                    item->setSelected(true);
+                    ++selected;
+                }
+            }
+            form->DropAddresses(1);
+            return form;
+        });
+    }
     modScreenshots::Register(QStringLiteral("frmReportsFont"), []() -> QWidget* {
         return new frmReportsFont(QStringLiteral("Verdana"), QStringLiteral("9"), nullptr);
     });

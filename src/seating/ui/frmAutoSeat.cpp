@@ -86,6 +86,8 @@ frmAutoSeat::frmAutoSeat(QWidget* parent) : QDialog(parent) {
     prgSeat->setObjectName(QStringLiteral("prgSeat"));
     prgSeat->setRange(0, 1000);
     prgSeat->setTextVisible(false);
+    cmdStop = Button(QStringLiteral("S&top and Show Best"), "cmdStop", this);
+    cmdStop->setToolTip(QStringLiteral("Stop now and propose the best chart found so far"));
     cmdCancel = Button(QStringLiteral("Cancel"), "cmdCancel", this);
     lblScore =
         new QLabel(QStringLiteral("The seater keeps every invitation at one table, never seats a \"Keep "
@@ -111,6 +113,7 @@ frmAutoSeat::frmAutoSeat(QWidget* parent) : QDialog(parent) {
     options->addWidget(cmdStart);
     auto* progress = new QHBoxLayout;
     progress->addWidget(prgSeat, 1);
+    progress->addWidget(cmdStop);
     progress->addWidget(cmdCancel);
     auto* split = new QSplitter(this);
     split->addWidget(picProposal);
@@ -135,6 +138,7 @@ frmAutoSeat::frmAutoSeat(QWidget* parent) : QDialog(parent) {
     });
     connect(cmdStart, &QPushButton::clicked, this, &frmAutoSeat::Start);
     connect(cmdCancel, &QPushButton::clicked, this, &frmAutoSeat::Cancel);
+    connect(cmdStop, &QPushButton::clicked, this, &frmAutoSeat::Stop);
     connect(cmdApply, &QPushButton::clicked, this, &frmAutoSeat::Apply);
     connect(cmdDiscard, &QPushButton::clicked, this, &frmAutoSeat::Discard);
     ShowState();
@@ -163,6 +167,7 @@ SeaterOptions frmAutoSeat::Options() {
     options.Seconds = spnSeconds->value();
     mDone = 0;
     mCancelled = false;
+    mKeepBest = false;
     options.Progress = [this](double done, long) {
         mDone = int(done * 1000);
         return !mCancelled.load();
@@ -192,6 +197,14 @@ void frmAutoSeat::Cancel() {
         reject();
 }
 
+// The seater stops as it would on Cancel, and what it found so far is proposed.
+void frmAutoSeat::Stop() {
+    if (!mWorker)
+        return;
+    mKeepBest = true;
+    mCancelled = true;
+}
+
 void frmAutoSeat::ProposeNow() {
     SeatingInstance instance;
     if (mWorker || !ReadWedding(instance))
@@ -204,8 +217,9 @@ void frmAutoSeat::Finished() {
     mTicker->stop();
     mWorker->deleteLater();
     mWorker = nullptr;
-    prgSeat->setValue(mCancelled ? 0 : 1000);
-    if (mCancelled) {
+    const bool discarded = mCancelled && !mKeepBest;
+    prgSeat->setValue(discarded ? 0 : 1000);
+    if (discarded) {
         lblScore->setText(QStringLiteral("Cancelled: nothing was proposed, nothing was written."));
         ShowState();
         return;
@@ -215,8 +229,10 @@ void frmAutoSeat::Finished() {
 
 void frmAutoSeat::ShowProposal() {
     mHasProposal = true;
+    const QString stopped =
+        mChart.Cancelled ? QStringLiteral("Stopped early: the best chart found so far. ") : QString();
     lblScore->setText(
-        QStringLiteral("Score %1: %2 seated, %3 unseated, %4 hard rules broken, %5 pairs of one side "
+        stopped + QStringLiteral("Score %1: %2 seated, %3 unseated, %4 hard rules broken, %5 pairs of one side "
                        "at a table (found in %6 s). Nothing is written until you press Apply.")
             .arg(mChart.Score)
             .arg(mChart.Seated)
@@ -281,6 +297,7 @@ void frmAutoSeat::ShowState() {
     spnSeconds->setEnabled(!running);
     cmdStart->setEnabled(!running);
     cmdCancel->setText(running ? QStringLiteral("Cancel") : QStringLiteral("Close"));
+    cmdStop->setVisible(running);
     cmdApply->setEnabled(!running && mHasProposal);
     cmdDiscard->setEnabled(!running && mHasProposal);
 }

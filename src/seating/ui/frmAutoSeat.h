@@ -36,6 +36,8 @@ public:
     void Start();
     // Stops a run; nothing is proposed.
     void Cancel();
+    // Stops a run and proposes the best chart found so far.
+    void Stop();
     // The whole run on the calling thread, then the proposal (for the pictures of the program).
     void ProposeNow();
     void Apply();
@@ -61,6 +63,7 @@ private:
     QPushButton* cmdStart = nullptr;
     QProgressBar* prgSeat = nullptr;
     QPushButton* cmdCancel = nullptr;
+    QPushButton* cmdStop = nullptr;
     QLabel* lblScore = nullptr;
     QGraphicsView* picProposal = nullptr;
     QGraphicsScene* mFloor = nullptr;
@@ -72,6 +75,7 @@ private:
     QTimer* mTicker = nullptr;
     std::atomic<int> mDone{0}; // thousandths of the moves
     std::atomic<bool> mCancelled{false};
+    bool mKeepBest = false; // a stop that proposes the best chart so far
     SeatingChart mChart;
     bool mHasProposal = false;
     qint64 mStartedMs = 0;

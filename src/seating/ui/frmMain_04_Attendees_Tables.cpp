@@ -544,10 +544,8 @@ bool frmMain_04_Attendees_Tables::eventFilter(QObject* watched, QEvent* event) {
     if (watched != picFloor || event->type() != QEvent::KeyPress)
         return usrPage::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);
-    const QHash<int, QPoint> steps = {
-        {Qt::Key_Left, {-1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Down, {0, 1}}};
-    if (steps.contains(key->key()) && mTables.contains(mSelected)) {
-        StepSelectedTable(steps[key->key()].x(), steps[key->key()].y());
+    if (const auto step = ArrowStep(key->key()); step && mTables.contains(mSelected)) {
+        StepSelectedTable(step->x(), step->y());
         return true;
     }
     if (key->key() == Qt::Key_Delete && mTables.contains(mSelected)) {

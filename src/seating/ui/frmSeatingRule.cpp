@@ -70,6 +70,22 @@ frmSeatingRule::frmSeatingRule(const QString& firstId, const QString& otherId, Q
     MarkClean();
 }
 
+bool frmSeatingRule::EditRule(const QString& ruleId) {
+    clsSEATING_RULE rule;
+    if (!RecordIO::Read([&] { return rule.OpenRecord(ruleId); }))
+        return false;
+    mKey = rule.SEATING_RULE_ID;
+    SetAdding(false);
+    cboContact_0->setCurrentIndex(std::max(0, cboContact_0->findData(rule.CONTACT_ID)));
+    cboContact_1->setCurrentIndex(std::max(0, cboContact_1->findData(rule.OTHER_CONTACT_ID)));
+    (rule.RULE_CD == clsSEATING_RULE::KeepApart ? optApart : optTogether)->setChecked(true);
+    if (!rule.WEIGHT_NB.isEmpty())
+        spnWeight->setValue(rule.WEIGHT_NB.toInt());
+    txtNotes->setText(rule.NOTES_TX);
+    MarkClean();
+    return true;
+}
+
 QStringList frmSeatingRule::Snapshot() const {
     return {cboContact_0->currentData().toString(), cboContact_1->currentData().toString(),
             optApart->isChecked() ? clsSEATING_RULE::KeepApart : clsSEATING_RULE::KeepTogether,
@@ -78,12 +94,13 @@ QStringList frmSeatingRule::Snapshot() const {
 
 bool frmSeatingRule::SaveRecord() {
     clsSEATING_RULE rule;
+    rule.SEATING_RULE_ID = IsAdding() ? QString() : mKey;
     rule.CONTACT_ID = cboContact_0->currentData().toString();
     rule.OTHER_CONTACT_ID = cboContact_1->currentData().toString();
     rule.RULE_CD = optApart->isChecked() ? clsSEATING_RULE::KeepApart : clsSEATING_RULE::KeepTogether;
     rule.WEIGHT_NB = QString::number(spnWeight->value());
     rule.NOTES_TX = txtNotes->text().trimmed();
-    if (!RecordIO::Attempt([&] { rule.Save(true); }))
+    if (!RecordIO::Attempt([&] { rule.Save(IsAdding()); }))
         return false;
     mKey = rule.SEATING_RULE_ID;
     return true;

@@ -7,7 +7,7 @@ class QLineEdit;
 class QRadioButton;
 class QSpinBox;
 
-// Adds one seating rule: two attendees, and "Keep together" with a strength or "Keep apart".
+// Adds or edits one seating rule: two attendees, and "Keep together" with a strength or "Keep apart".
 class frmSeatingRule : public frmEditorBase {
     Q_OBJECT
 
@@ -15,6 +15,8 @@ public:
     // The two people chosen first, when the opener knows them.
     explicit frmSeatingRule(const QString& firstId = {}, const QString& otherId = {},
                             QWidget* parent = nullptr);
+    // Shows the stored rule for editing; false when there is no such rule.
+    bool EditRule(const QString& ruleId);
 
 protected:
     QStringList Snapshot() const override;

@@ -34,6 +34,9 @@ usrSeatingRules::usrSeatingRules(frmMain_04_Attendees_Tables* page) : QWidget(pa
     connect(add, &QPushButton::clicked, this, &usrSeatingRules::AddRule);
     connect(cmdDeleteRule, &QPushButton::clicked, this, &usrSeatingRules::DeleteSelectedRule);
     connect(seat, &QPushButton::clicked, this, &usrSeatingRules::SeatAutomatically);
+    connect(lvwRules, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* row) {
+        EditRule(row->data(0, Qt::UserRole).toString());
+    });
     connect(lvwRules, &QTreeWidget::itemSelectionChanged, this,
             [this] { cmdDeleteRule->setEnabled(!lvwRules->selectedItems().isEmpty()); });
 
@@ -72,6 +75,14 @@ QStringList usrSeatingRules::RuleIds() const {
 void usrSeatingRules::AddRule() {
     frmSeatingRule editor(QString(), QString(), this);
     connect(&editor, &frmEditorBase::Added, this, &usrSeatingRules::Reload);
+    editor.exec();
+}
+
+void usrSeatingRules::EditRule(const QString& ruleId) {
+    frmSeatingRule editor(QString(), QString(), this);
+    if (!editor.EditRule(ruleId))
+        return;
+    connect(&editor, &frmEditorBase::Updated, this, &usrSeatingRules::Reload);
     editor.exec();
 }
 

@@ -16,6 +16,8 @@ public:
 
     void Reload();
     void AddRule();
+    // Enter or a double click on a rule opens it in the editor.
+    void EditRule(const QString& ruleId);
     void DeleteSelectedRule();
     void SeatAutomatically();
     // The seater's Apply writes through the page, as one step to undo.

@@ -322,9 +322,16 @@ bool usrTravelBoard::ApplyBoxPosition(const QString& groupId, const QPoint& twip
 }
 
 bool usrTravelBoard::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == picMap && event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete && mBoxes.contains(mSelected)) {
+    if (watched != picMap || event->type() != QEvent::KeyPress || !mBoxes.contains(mSelected))
+        return usrPage::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Delete) {
         DeleteSelected();
+        return true;
+    }
+    // A key step is a drop of the box one pixel on, kept inside the board, one step to undo.
+    if (const auto step = ArrowStep(key)) {
+        DropBox(mSelected, mBoxes.value(mSelected)->pos() + QPointF(*step), QPointF());
         return true;
     }
     return usrPage::eventFilter(watched, event);

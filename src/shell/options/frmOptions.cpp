@@ -7,6 +7,7 @@
 #include "core/clsVOWREN.h"
 #include "shell/controls/usrDropdown.h"
 #include "shell/controls/usrHint.h"
+#include "shell/options/usrLabelProgramPanel.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/options/frmBackup.h"
 #include "shell/options/frmBrideGroomIcons.h"
@@ -52,6 +53,7 @@ constexpr LeftRow kSettingsRows[] = {
     {"Etiquette", frmOptions::Etiquette},
     {"Bride & Groom Icons", frmOptions::Icons},
     {"Country", frmOptions::Country},
+    {"Label Program", frmOptions::LabelProgram},
 };
 
 constexpr int kKindRole = Qt::UserRole;
@@ -154,7 +156,9 @@ frmOptions::frmOptions(QWidget* parent, int kind) : QDialog(parent) {
     mEtiquettePanel = BuildEtiquettePanel();
     mIconsPanel = BuildIconsPanel();
     mCountryPanel = BuildCountryPanel();
-    for (QWidget* panel : {mDictionaryPanel, mEtiquettePanel, mIconsPanel, mCountryPanel})
+    mLabelProgramPanel = new usrLabelProgramPanel(this);
+    for (QWidget* panel : {mDictionaryPanel, mEtiquettePanel, mIconsPanel, mCountryPanel,
+                           static_cast<QWidget*>(mLabelProgramPanel)})
         mStack->addWidget(panel);
 
     auto* right = new QWidget(this);
@@ -507,6 +511,10 @@ void frmOptions::ShowPanel(int kind, const QString& caption) {
     case Country:
         LoadCountry();
         mStack->setCurrentWidget(mCountryPanel);
+        return;
+    case LabelProgram:
+        mLabelProgramPanel->Load();
+        mStack->setCurrentWidget(mLabelProgramPanel);
         return;
     default:
         break;

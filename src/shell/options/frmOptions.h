@@ -18,6 +18,7 @@ class QTreeWidget;
 class QTreeWidgetItem;
 class usrHint;
 class usrHyperlink;
+class usrLabelProgramPanel;
 
 // What the options screen changed, for every page and drop-down that is alive. The dialog raises its
 // own signals and repeats them here, so a page need not know whether the dialog is open.
@@ -41,7 +42,7 @@ OptionsEvents& gOptionsEvents();
 
 // Opens the options screen as a modal dialog on the row of that kind: a dictionary kind (1 meals,
 // 2 payers, 3 roles, 4 titles, 8 songlists, 10 vendor categories), 5 etiquette, 6 the couple's icons or
-// 9 the country. Any other number opens the first row. Returns when the dialog is closed.
+// 9 the country, 11 the label program. Any other number opens the first row. Returns when the dialog is closed.
 void ShowOptions(QWidget* parent, int kind = clsDICT::Meal);
 // Opens "Backup and Restore" as a modal dialog.
 void ShowBackup(QWidget* parent);
@@ -57,7 +58,7 @@ class frmOptions : public QDialog {
 
 public:
     // The rows of the left list that are no dictionaries.
-    enum SettingsKind : int { Etiquette = 5, Icons = 6, Country = 9 };
+    enum SettingsKind : int { Etiquette = 5, Icons = 6, Country = 9, LabelProgram = 11 };
     // How long "Done" stays after an update, in milliseconds.
     static constexpr int kDoneDelay = 1500;
 
@@ -163,6 +164,7 @@ private:
     QWidget* mEtiquettePanel = nullptr;
     QWidget* mIconsPanel = nullptr;
     QWidget* mCountryPanel = nullptr;
+    usrLabelProgramPanel* mLabelProgramPanel = nullptr;
     QTreeWidget* mGrid = nullptr;
     QLabel* mCount = nullptr;
     std::array<usrHyperlink*, 3> mActions{};

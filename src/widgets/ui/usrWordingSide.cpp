@@ -8,6 +8,7 @@
 #include "shell/controls/modLayout.h"
 #include "shell/controls/usrHyperlink.h"
 #include "startup/modWedding.h"
+#include "shell/modContactEditor.h"
 #include "widgets/ui/modWidgetLinks.h"
 
 #include <QCheckBox>
@@ -195,7 +196,7 @@ void usrWordingSide::ShowRemarried(int roleId, const QString& contactId) {
 
 void usrWordingSide::link_Click(int roleId) {
     const QString contactId = mLink.at(static_cast<size_t>(roleId - 3))->property("Tag").toString();
-    if (!modWidgetLinks::OpenContact(this, contactId, QString::number(roleId)))
+    if (modContactEditor::OpenForKey(this, contactId, QString::number(roleId)).isEmpty())
         return;
     LoadPeople();
     Generate();

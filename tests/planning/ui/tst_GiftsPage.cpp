@@ -1,3 +1,4 @@
+#include "FakeContactEditor.h"
 #include "UiTestTools.h"
 #include "planning/PlanningTestTools.h"
 #include "planning/clsGIFT.h"
@@ -131,6 +132,29 @@ private slots:
         QCOMPARE(UiTestTools::Child<usrDropdown>(&editor, "usrEVENT")->Code(), QStringLiteral("2"));
         QVERIFY(UiTestTools::Child<QRadioButton>(&editor, "opt_1")->isChecked());
         QCOMPARE(editor.windowTitle(), QStringLiteral("Add New Gift"));
+    }
+
+    // A giver who isn't a contact yet is added from the editor and comes back chosen, also while the
+    // invitations are listed; nothing saved leaves the choice as it was.
+    void anAddedContactBecomesTheGiver() {
+        QString added;
+        FakeContactEditor::Install([&added](const QString&, const QString&) {
+            if (!added.isEmpty())
+                TestDatabase::Exec("INSERT INTO CONTACT (CONTACT_ID, FIRST_NM, LAST_NM) VALUES (9, 'Ada', 'Zane')");
+            return added;
+        });
+        frmGift editor(QStringLiteral("2"));
+        auto* link = UiTestTools::Child<usrHyperlink>(&editor, "linkAddContact");
+        auto* list = UiTestTools::Child<QListWidget>(&editor, "lvw");
+        QVERIFY(link->isEnabled());
+        link->Click(0);
+        QCOMPARE(list->currentItem()->text(), QStringLiteral("Carter, Tom and Lucy"));
+        added = "9";
+        link->Click(0);
+        QVERIFY(UiTestTools::Child<QRadioButton>(&editor, "opt_0")->isChecked());
+        QCOMPARE(list->currentItem()->text(), QStringLiteral("Zane, Ada"));
+        modContactEditor::SetFactory({});
+        QVERIFY(!frmGift(QString()).findChild<usrHyperlink*>("linkAddContact")->isEnabled());
     }
 };
 

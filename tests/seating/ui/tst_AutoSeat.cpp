@@ -103,6 +103,19 @@ private slots:
             QCOMPARE(messages->Prompts, QStringList("A seating rule is about two different people."));
         else
             QCOMPARE(rules[0].Caption(), saved);
+        if (saved.isEmpty())
+            return;
+        // Opened again, the rule shows as stored; a change is written over it, not beside it.
+        frmSeatingRule again;
+        QVERIFY(again.EditRule(rules[0].SEATING_RULE_ID));
+        QCOMPARE(again.windowTitle(), QStringLiteral("Edit Seating Rule"));
+        QCOMPARE(Child<QRadioButton>(again, "optApart")->isChecked(), apart);
+        Child<QRadioButton>(again, apart ? "optTogether" : "optApart")->setChecked(true);
+        QVERIFY(again.cmdSave_Click());
+        const QList<clsSEATING_RULE> edited = clsSEATING_RULE::OpenRecords();
+        QCOMPARE(edited.size(), 1);
+        QCOMPARE(edited[0].SEATING_RULE_ID, rules[0].SEATING_RULE_ID);
+        QCOMPARE(edited[0].RULE_CD, apart ? clsSEATING_RULE::KeepTogether : clsSEATING_RULE::KeepApart);
     }
 
     // Discard writes nothing; Apply writes the chart as one step, which Ctrl+Z takes back.
@@ -163,18 +176,31 @@ private slots:
         QCOMPARE(page.UndoStack()->count(), 0);
     }
 
-    void cancelProposesNothing() {
+    // Cancel throws the run away; "Stop and Show Best" proposes what was found so far, within the rules.
+    void cancelProposesNothingStopProposesTheBestSoFar_data() {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("proposal");
+        QTest::newRow("cancel") << "cmdCancel" << false;
+        QTest::newRow("stop") << "cmdStop" << true;
+    }
+    void cancelProposesNothingStopProposesTheBestSoFar() {
+        QFETCH(QString, button);
+        QFETCH(bool, proposal);
         AddTable("1", 200);
         AddGuests(150);
         frmAutoSeat seater;
+        seater.show();
         Child<QSpinBox>(seater, "spnSeconds")->setValue(120);
         QTest::mouseClick(Child<QPushButton>(seater, "cmdStart"), Qt::LeftButton);
         QVERIFY(seater.IsRunning());
         QVERIFY(!Child<QPushButton>(seater, "cmdApply")->isEnabled());
-        QTest::mouseClick(Child<QPushButton>(seater, "cmdCancel"), Qt::LeftButton);
+        QTest::mouseClick(Child<QPushButton>(seater, button), Qt::LeftButton);
         QTRY_VERIFY_WITH_TIMEOUT(!seater.IsRunning(), 30000);
-        QVERIFY(!seater.HasProposal());
-        QVERIFY(!Child<QPushButton>(seater, "cmdApply")->isEnabled());
+        QCOMPARE(seater.HasProposal(), proposal);
+        QCOMPARE(Child<QPushButton>(seater, "cmdApply")->isEnabled(), proposal);
+        QVERIFY(Child<QPushButton>(seater, "cmdStop")->isHidden());
+        if (proposal)
+            QVERIFY(Child<QLabel>(seater, "lblScore")->text().startsWith("Stopped early"));
     }
 
     void noTablesNoRun() {

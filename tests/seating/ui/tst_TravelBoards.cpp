@@ -176,6 +176,24 @@ private slots:
         QCOMPARE(page->Box(a)->pos(), expectedPixels);
     }
 
+    // The arrow keys move the selected box a pixel, never off the picture, each press one step to undo.
+    void arrowKeysMoveTheSelectedBox_data() { boards_data(); }
+    void arrowKeysMoveTheSelectedBox() {
+        QFETCH(bool, hotel);
+        const QString a = AddGroup(hotel, 1, "Harbourview");
+        auto page = MakeBoard(hotel);
+        QVERIFY(page->DropBox(a, QPointF(10, 0), QPointF(0, 0)));
+        page->SelectGroup(a);
+        auto* view = Child<QWidget>(page.get(), "picMap");
+        QTest::keyClick(view, Qt::Key_Right);
+        QTest::keyClick(view, Qt::Key_Up); // already at the top: stays
+        QTest::keyClick(view, Qt::Key_Down);
+        const int twips = clsDINING_TABLE::TwipsPerPixel;
+        QCOMPARE(PositionInDb(hotel, a), QStringLiteral("%1,%2").arg(11 * twips).arg(twips));
+        page->UndoStack()->undo();
+        QCOMPARE(PositionInDb(hotel, a), QStringLiteral("%1,0").arg(11 * twips));
+    }
+
     // "Print reports" opens the board's section of the report screen; the hotels write their map first.
     void printReports_data() {
         QTest::addColumn<bool>("hotel");

@@ -1,4 +1,5 @@
 #include "TestDatabase.h"
+#include "FakeContactEditor.h"
 #include "UiTestTools.h"
 #include "shell/controls/usrHyperlink.h"
 #include "widgets/clsSONG.h"
@@ -206,14 +207,15 @@ private slots:
     // wording follows both at once.
     void parentsLinksFeedTheWording() {
         QStringList asked;
-        modWidgetLinks::SetContactOpener([&asked](QWidget*, const QString& id, const QString& role) {
-            asked << id + "/" + role;
-            TestDatabase::Exec(
-                "INSERT INTO CONTACT (CONTACT_ID, TITLE_TX, FIRST_NM, LAST_NM, ROLE_ID, SORT_ORDER_NB) "
-                "VALUES (7, 'Mrs.', 'Linda', 'Hall', ?, 1), (8, 'Mr.', 'Tom', 'Hall', 18, 1)",
-                {role});
-            return true;
-        });
+        FakeContactEditor::Install(
+            [](const QString&, const QString& role) {
+                TestDatabase::Exec(
+                    "INSERT INTO CONTACT (CONTACT_ID, TITLE_TX, FIRST_NM, LAST_NM, ROLE_ID, SORT_ORDER_NB) "
+                    "VALUES (7, 'Mrs.', 'Linda', 'Hall', ?, 1), (8, 'Mr.', 'Tom', 'Hall', 18, 1)",
+                    {role});
+                return QStringLiteral("7");
+            },
+            &asked);
         modWidgetLinks::SetRemarriedOpener([](QWidget*, int, QString* id) {
             *id = "8";
             return true;
@@ -236,7 +238,7 @@ private slots:
         QVERIFY(text->toPlainText().startsWith("\nMrs. Tom Hall\n"));
         page.Leaving();
         QCOMPARE(modWording::Choices::Load().RemarriedTo(4), QStringLiteral("8"));
-        modWidgetLinks::SetContactOpener({});
+        modContactEditor::SetFactory({});
         modWidgetLinks::SetRemarriedOpener({});
     }
 

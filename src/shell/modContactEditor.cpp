@@ -1,4 +1,4 @@
-#include "guests/ui/modContactEditor.h"
+#include "shell/modContactEditor.h"
 
 #include "shell/frmEditorBase.h"
 
@@ -20,10 +20,11 @@ bool Available() {
     return static_cast<bool>(Registered());
 }
 
-bool Open(QWidget* parent, const QString& contactId, const Handler& onAdded, const Handler& onUpdated) {
+bool Open(QWidget* parent, const QString& contactId, const Handler& onAdded, const Handler& onUpdated,
+          const QString& roleId) {
     if (!Available())
         return false;
-    QPointer<frmEditorBase> dialog = Registered()(parent, contactId);
+    QPointer<frmEditorBase> dialog = Registered()(parent, contactId, roleId);
     if (!dialog)
         return false;
     if (onAdded)
@@ -33,6 +34,13 @@ bool Open(QWidget* parent, const QString& contactId, const Handler& onAdded, con
     dialog->exec();
     delete dialog;
     return true;
+}
+
+QString OpenForKey(QWidget* parent, const QString& contactId, const QString& roleId) {
+    QString saved;
+    const auto keep = [&saved](const QString& key) { saved = key; };
+    Open(parent, contactId, keep, keep, roleId);
+    return saved;
 }
 
 } // namespace modContactEditor
