@@ -23,6 +23,7 @@ CliCommand ParseNameCommand();
 CliCommand ParseAddressCommand();
 CliCommand DemoCommand();
 CliCommand ReportCommand();
+CliCommand CustomReportsCommand();
 CliCommand LabelsCommand();
 CliCommand DeleteCommand();
 CliCommand RelabelCommand();

@@ -39,6 +39,7 @@ const std::vector<CliCommand>& CliCommands() {
         ParseAddressCommand(),
         DemoCommand(),
         ReportCommand(),
+        CustomReportsCommand(),
         LabelsCommand(),
         BackupCommand(),
         RestoreCommand(),

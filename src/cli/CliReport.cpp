@@ -4,6 +4,7 @@
 #include "reports/clsRTFCalendar.h"
 #include "reports/clsReportCatalogue.h"
 #include "reports/clsReportClasses.h"
+#include "reports/clsSQLCatalogue.h"
 #include "reports/modReportRegistry.h"
 #include "reports/modReportRunner.h"
 
@@ -12,7 +13,8 @@
 namespace {
 
 const char kUsage[] = "usage: report SECTION [--filter KEY | --custom \"Caption+Caption\"] [--format rtf|csv|pdf|all] "
-                      "[--portrait] [--a4] [--months YYYY-MM:YYYY-MM] | report --list | report --all [--format rtf|csv|pdf|both|all]";
+                      "[--portrait] [--a4] [--months YYYY-MM:YYYY-MM] | report Custom --sql \"SELECT ...\" "
+                      "[--title T] | report Custom --query NAME | report --list | report --all [--format rtf|csv|pdf|both|all]";
 
 struct ReportArgs {
     QString Section;
@@ -26,6 +28,10 @@ struct ReportArgs {
     bool FormatGiven = false;
     // The calendar's months; those kept by the month dialog when empty.
     QString Months;
+    // A custom report: the query given, or the name of one of the catalogue; the title instead of its name.
+    QString Sql;
+    QString Query;
+    QString Title;
     modReportRunner::Output Output;
 };
 
@@ -75,6 +81,14 @@ QString ParseArgs(const QStringList& args, ReportArgs& parsed)
             if (!captions || captions->trimmed().isEmpty())
                 return QStringLiteral("--custom takes box captions joined by \"+\", such as \"Friend of Bride+A list\"");
             parsed.Custom = *captions;
+        } else if (QStringList{"--sql", "--query", "--title"}.contains(arg)) {
+            const auto text = value();
+            if (!text || text->trimmed().isEmpty())
+                return arg + QStringLiteral(" takes a text in quotes");
+            QString& field = arg == QLatin1String("--sql")     ? parsed.Sql
+                             : arg == QLatin1String("--query") ? parsed.Query
+                                                               : parsed.Title;
+            field = *text;
         } else if (arg.startsWith(QLatin1String("--")) || !parsed.Section.isEmpty()) {
             return QStringLiteral("unknown argument \"") + arg + QLatin1Char('"');
         } else {
@@ -116,6 +130,28 @@ std::optional<clsReportRoute> RowRoute(int section, std::optional<int> key, QTex
     }
     err << "vowren-cli: report: that section has no such filter row; report --list shows them\n";
     return std::nullopt;
+}
+
+// The custom report of the query given with --sql, or of the catalogue's query named by --query.
+std::optional<clsReportRoute> CustomSqlRoute(const ReportArgs& args, QTextStream& err)
+{
+    if (args.Sql.isEmpty() == args.Query.isEmpty()) {
+        err << "vowren-cli: report: Custom takes one of --sql \"SELECT ...\" or --query NAME "
+               "(custom-reports lists the names)\n";
+        return std::nullopt;
+    }
+    if (!args.Sql.isEmpty())
+        return modReportRunner::CustomRoute(args.Sql,
+                                            args.Title.isEmpty() ? QStringLiteral("Custom SQL") : args.Title);
+    const clsSQLCatalogue catalogue = clsSQLCatalogue::Current();
+    const clsSQL_XML* item = catalogue.Find(args.Query);
+    if (!item) {
+        err << "vowren-cli: report: the catalogue has no query \"" << args.Query
+            << "\"; custom-reports lists them\n";
+        return std::nullopt;
+    }
+    const QString title = args.Title.isEmpty() ? item->SQL_NAME : args.Title;
+    return modReportRunner::CustomRoute(item->SQL, title, item->SQL_DESC);
 }
 
 // The custom filter's route with the boxes of those captions ticked.
@@ -169,8 +205,14 @@ int WriteOne(const ReportArgs& args, QTextStream& out, QTextStream& err)
         err << "vowren-cli: report: there is no section \"" << args.Section << "\"; report --list shows them\n";
         return kExitUsage;
     }
-    std::optional<clsReportRoute> route =
-        args.Custom.isEmpty() ? RowRoute(section, args.FilterKey, err) : CustomRoute(section, args.Custom, err);
+    const bool customSql = section == clsReportCatalogue::Custom;
+    if (!customSql && !QString(args.Sql + args.Query + args.Title).isEmpty()) {
+        err << "vowren-cli: report: only the Custom section takes --sql, --query and --title\n";
+        return kExitUsage;
+    }
+    std::optional<clsReportRoute> route = customSql               ? CustomSqlRoute(args, err)
+                                          : args.Custom.isEmpty() ? RowRoute(section, args.FilterKey, err)
+                                                                  : CustomRoute(section, args.Custom, err);
     if (!route)
         return kExitUsage;
     route->Argument = route->Dialog.isEmpty() ? route->Argument : args.Months;
@@ -227,7 +269,9 @@ CliCommand ReportCommand()
             QStringLiteral("report SECTION [--filter KEY | --custom CAPTIONS] [--format rtf|csv|pdf|all] [--portrait] [--a4] "
                            "[--months YYYY-MM:YYYY-MM]"),
             QStringLiteral("Write a report into the report folder and print its path (never opens it). "
-                           "--list prints the catalogue with counts; --all writes every available report "
-                           "(RTF and CSV unless --format names pdf, both or all)."),
+                           "--list prints the catalogue with counts; --all writes every available report and "
+                           "a custom report of each query that comes with the program (RTF and CSV unless "
+                           "--format names pdf, both or all). Custom runs --sql, a query of its own that only "
+                           "reads, or --query, one of custom-reports."),
             RunReport};
 }

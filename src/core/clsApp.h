@@ -72,6 +72,11 @@ public:
     QString HomePageURL() const { return GetText("HomePageURL", "https://vowren.app"); }
     QString BlogURL() const { return GetText("BlogURL", "https://vowren.app/blog"); }
     QString ForumsURL() const { return GetText("ForumsURL", "https://vowren.app/forums"); }
+    // Where "Download Custom Reports" fetches the catalogue of custom reports; empty: nowhere.
+    QString CustomReportsURL() const {
+        return GetText("CustomReportsURL", "https://vowren.app/vowren/sql.xml");
+    }
+    void SetCustomReportsURL(const QString& v) { SetText("CustomReportsURL", v); }
 
     // ---- Keys ----
     static QString RootKey() { return QStringLiteral("Software/QuillSoftware/Vowren"); }

@@ -29,4 +29,9 @@ public:
     // A picture of the report folder that the row opens, and what the user is told when it is missing.
     QString PictureFile;
     QString MissingPictureMessage;
+    // A custom report: its query, and its name and description, which become the title and the line
+    // under it.
+    QString SQL;
+    QString SQL_NAME;
+    QString SQL_DESC;
 };

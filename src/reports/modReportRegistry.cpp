@@ -19,6 +19,7 @@
 #include "reports/clsRTFNotebook.h"
 #include "reports/clsRTFRSVP.h"
 #include "reports/clsRTFRole.h"
+#include "reports/clsRTFSQL.h"
 #include "reports/clsRTFSongs.h"
 #include "reports/clsRTFStatistics.h"
 #include "reports/clsRTFTable.h"
@@ -97,4 +98,9 @@ void RegisterReportClasses() {
     Register<clsRTFSongs>();
     Register<clsRTFWidgetInvite>(
         [](clsRTFWidgetInvite& report, const clsReportRoute& route) { report.EVENT_ID = route.Argument; });
+    Register<clsRTFSQL>([](clsRTFSQL& report, const clsReportRoute& route) {
+        report.SQL = route.SQL;
+        report.SQL_NAME = route.SQL_NAME;
+        report.SQL_DESC = route.SQL_DESC;
+    });
 }

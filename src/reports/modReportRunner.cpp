@@ -3,6 +3,7 @@
 #include "reports/clsRTFMasterTemp.h"
 #include "reports/clsReportCatalogue.h"
 #include "reports/clsReportClasses.h"
+#include "reports/clsSQLCatalogue.h"
 
 #include <QSet>
 
@@ -35,6 +36,25 @@ QList<clsReportRoute> AvailableRoutes()
     return routes;
 }
 
+clsReportRoute CustomRoute(const QString& sql, const QString& name, const QString& description)
+{
+    const QList<clsReportCatalogue::FilterRow> rows = clsReportCatalogue::FilterRows(clsReportCatalogue::Custom);
+    clsReportRoute route = clsReportCatalogue::Route(clsReportCatalogue::Custom, rows, 0);
+    route.Dialog.clear(); // the query is given: nothing to ask
+    route.SQL = sql;
+    route.SQL_NAME = name;
+    route.SQL_DESC = description;
+    return route;
+}
+
+QList<clsReportRoute> ShippedCustomRoutes()
+{
+    QList<clsReportRoute> routes;
+    for (const clsSQL_XML& item : clsSQLCatalogue::Shipped().Items)
+        routes.append(CustomRoute(item.SQL, item.SQL_NAME, item.SQL_DESC));
+    return routes;
+}
+
 int SectionKeyOf(const QString& text)
 {
     const QString wanted = text.trimmed();
@@ -64,7 +84,9 @@ QStringList WriteAll(const QList<Output>& outputs, int* failed,
 {
     QStringList written;
     int failures = 0;
-    const QList<clsReportRoute> routes = AvailableRoutes();
+    QList<clsReportRoute> routes = AvailableRoutes();
+    if (clsReportClasses::Exists(QStringLiteral("clsRTFSQL")))
+        routes += ShippedCustomRoutes();
     for (const Output& output : outputs) {
         for (const clsReportRoute& route : routes) {
             const QString file = Write(route, output);

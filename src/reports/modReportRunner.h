@@ -26,6 +26,13 @@ void ApplyOutput(const Output& output);
 // the catalogue that leads to it. In the catalogue's order.
 QList<clsReportRoute> AvailableRoutes();
 
+// The route that writes a custom report of the query, with its name and description as title and the
+// line under it.
+clsReportRoute CustomRoute(const QString& sql, const QString& name = QString(),
+                           const QString& description = QString());
+// One custom report route for each query of the catalogue that comes with the program.
+QList<clsReportRoute> ShippedCustomRoutes();
+
 // The section with that key ("14") or caption ("Wedding Statistics", any case); 0 when none.
 int SectionKeyOf(const QString& text);
 
@@ -34,7 +41,8 @@ int SectionKeyOf(const QString& text);
 // clsDbError when the database refuses the reading.
 QString Write(const clsReportRoute& route, const Output& output);
 
-// Writes every available report in each of the given dialects. `progress` hears of each file as it
+// Writes every available report in each of the given dialects, and a custom report of each query of the
+// catalogue that comes with the program. `progress` hears of each file as it
 // is done (may be empty). The files written, in order; files that could not be written are counted in
 // *failed. Throws clsDbError when the database refuses a reading.
 QStringList WriteAll(const QList<Output>& outputs, int* failed = nullptr,

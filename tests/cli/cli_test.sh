@@ -63,12 +63,12 @@ check "report custom box unknown" 2 'has no box "Martian"' "$cli" report Contact
 check "report custom on tables" 2 'only Contacts, Invitations, RSVPs and Attendees' "$cli" report Tables --custom "A list"
 check "report list" 0 '^  All Contacts \[0\]: 2' "$cli" report --list
 check "report list by section key" 0 '^Wedding Statistics \[14\]' "$cli" report --list
-check "report list marks what exists" 0 'Custom SQL \[0\]: -- \(not yet available\)' "$cli" report --list
+check "report list offers the custom reports" 0 'Custom SQL \[0\]: --$' "$cli" report --list
 check "report writes RTF" 0 "^$home/Reports/01_Contacts_[0-9_-]+\.rtf$" "$cli" report Contacts
 check "report writes CSV by section key" 0 "^$home/Reports/04_Meals_.*\.csv$" "$cli" report 4 --filter 98 --format csv
 check "report of statistics in portrait A4" 0 '12_Wedding_Statistics_.*\.rtf$' "$cli" report "wedding statistics" --portrait --a4
 check "report with a custom filter" 0 '01_Contacts_.*\.csv$' "$cli" report Contacts --custom "Friend of Bride+A list" --format csv
-check "report not yet available" 1 'not available yet' "$cli" report Custom --filter 0
+check "report Custom needs a query" 2 'Custom takes one of --sql' "$cli" report Custom --filter 0
 check "report needing the screen" 2 'needs the report screen' "$cli" report Tables --filter 3
 check "report all in both dialects" 0 '04_Tentcard_.*\.csv' "$cli" report --all
 check "report writes PDF" 0 "^$home/Reports/01_Contacts_[0-9_-]+\.pdf$" "$cli" report Contacts --format pdf --portrait
@@ -309,6 +309,31 @@ check "thank-you --unsent takes it back" 0 "^Thank-you notes unsent: $gift$" "$c
 check "an unknown gift changes nothing" 1 'there is no gift 99999\. Nothing was changed' "$cli" thank-you "$gift" 99999
 check "the known one of them stays unsent" 0 '^N$' value "SELECT THANK_YOU_SENT_FG FROM GIFT WHERE GIFT_ID = $gift"
 check "thank-you needs keys" 2 'usage: thank-you' "$cli" thank-you
+# Custom reports: the catalogue, a query of the catalogue, a query of one's own, and what is refused.
+check "report all writes a custom report of each shipped query" 0 '^many$' \
+    sh -c "[ \$(ls \"$home\"/Reports/99_Custom_*.csv | wc -l) -ge 12 ] && echo many"
+check "custom-reports lists the catalogue" 0 $'^Guests and replies\tGuests without a meal\tAttending guests' "$cli" custom-reports
+check "custom-reports with the statements" 0 $'\tSELECT ' "$cli" custom-reports --sql
+check "report of a query of the catalogue" 0 "^$home/Reports/99_Custom_[0-9_-]+\.rtf$" "$cli" report Custom --query "guests WITHOUT a meal"
+check "report of a query of one's own" 0 '99_Custom_.*\.csv$' "$cli" report Custom --format csv --title "The couple" \
+    --sql "SELECT FIRST_NM AS \"2000 First\", LAST_NM AS 'Last' FROM CONTACT WHERE CONTACT_ID <= 2"
+check "its header comes from the aliases" 0 '^"First","Last"' sh -c "cat \"\$(ls -t \"$home\"/Reports/99_Custom_*.csv | head -1)\" | tr -d '\357\273\277'"
+reports_before=$(ls "$home/Reports" | wc -l)
+check "report Custom refuses a delete" 1 "SQL must be a 'SELECT' statement\." "$cli" report Custom --sql "DELETE FROM CONTACT"
+check "report Custom refuses a second statement" 1 'only one statement' "$cli" report Custom --sql "SELECT 1; DELETE FROM CONTACT"
+check "report Custom says the engine's words" 1 'no such table: NOWHERE' "$cli" report Custom --sql "select * from NOWHERE"
+check "a refused custom report writes no file" 0 "^$reports_before\$" sh -c "ls \"$home/Reports\" | wc -l"
+check "the contacts are all there" 0 '^"[0-9]+"' "$cli" sql "SELECT COUNT(*) FROM CONTACT"
+check "report Custom of an unknown query" 2 'no query "Nope"' "$cli" report Custom --query Nope
+check "report Custom of both" 2 'Custom takes one of' "$cli" report Custom --query A --sql "SELECT 1"
+check "only Custom takes a query" 2 'only the Custom section takes' "$cli" report Contacts --sql "SELECT 1"
+printf '<SQL_ITEM>\r\n<SQL_NAME>Kept</SQL_NAME>\r\n<SQL>SELECT 1 AS One</SQL>\r\n</SQL_ITEM>\r\n' >"$home/sql.xml"
+check "a downloaded catalogue is preferred" 0 $'^\tKept\t$' "$cli" custom-reports
+printf '<SQL_ITEM>\n<SQL_NAME>Kept</SQL_NAME>\n' >"$home/sql.xml"
+check "a damaged catalogue is said" 0 'LF alone.*program.s own' "$cli" custom-reports
+check "and the program's own is listed" 0 'Guests without a meal' "$cli" custom-reports
+rm -f "$home/sql.xml"
+
 # The invitation wording and the playlists.
 saved_wording() { "$cli" sql "SELECT WORDING_TX FROM WORDING WHERE WORDING_ID = 1" | md5sum; }
 wording_before=$(saved_wording)

@@ -470,10 +470,7 @@ void frmReports::RunRoute(const clsReportRoute& route) {
     }
     SetStatus(QStringLiteral("Writing the report…"));
     mWrittenFile = ReportDialogs::BuildAndShow(route);
-    SetStatus(
-        mWrittenFile.isEmpty()
-            ? QStringLiteral("No report was written.")
-            : QStringLiteral("Opened %1 from the reports folder.").arg(QFileInfo(mWrittenFile).fileName()));
+    SetStatus(ReportDialogs::WrittenStatus(mWrittenFile));
 }
 
 void frmReports::SetStatus(const QString& text) {

@@ -14,9 +14,11 @@
 #include "reports/ui/frmReportEventDates.h"
 #include "reports/ui/frmReportsCustomFilter.h"
 #include "reports/ui/frmReportsLabels.h"
+#include "reports/ui/frmReportsSQL.h"
 
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
@@ -88,6 +90,10 @@ void RegisterOwnDialogs() {
         frmReportsCustomFilter form(route.FormNumber, parent);
         form.exec();
     });
+    Register(QStringLiteral("frmReportsSQL"), [](QWidget* parent, const clsReportRoute&) {
+        frmReportsSQL form(parent);
+        form.exec();
+    });
     // The calendar asks for its months, then runs with them.
     Register(QStringLiteral("frmReportEventDates"), [](QWidget* parent, const clsReportRoute& route) {
         frmReportEventDates form(parent);
@@ -136,6 +142,11 @@ QString BuildAndShow(const clsReportRoute& route) {
     if (!file.isEmpty() && !gShell().OpenDocument(file))
         ShowMessage(gShell().Message(), Msg::Exclamation, ProgramTitle());
     return file;
+}
+
+QString WrittenStatus(const QString& file) {
+    return file.isEmpty() ? QStringLiteral("No report was written.")
+                          : QStringLiteral("Opened %1 from the reports folder.").arg(QFileInfo(file).fileName());
 }
 
 std::unique_ptr<clsPdfDialect> LayOut(const clsReportRoute& route) {

@@ -6,11 +6,13 @@
 #include "reports/ui/frmReportsCustomFilter.h"
 #include "reports/ui/frmReportsFont.h"
 #include "reports/ui/frmReportsLabels.h"
+#include "reports/ui/frmReportsSQL.h"
 #include "reports/ui/modReportDialogs.h"
 #include "shell/modScreenshots.h"
 
 #include <QCheckBox>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <QTreeWidget>
 
 void RegisterReportScreens() {
@@ -58,4 +60,16 @@ void RegisterReportScreens() {
     modScreenshots::Register(QStringLiteral("frmReportsFont"), []() -> QWidget* {
         return new frmReportsFont(QStringLiteral("Verdana"), QStringLiteral("9"), nullptr);
     });
+    // The custom reports with a query chosen, on either tab; nothing is downloaded for the picture.
+    const auto customReports = [](int tab) {
+        auto* form = new frmReportsSQL(nullptr, false);
+        auto* grid = form->findChild<QTreeWidget*>(QStringLiteral("grid"));
+        grid->setCurrentItem(grid->topLevelItem(0)->child(0));
+        form->findChild<QTabWidget*>(QStringLiteral("tabs"))->setCurrentIndex(tab);
+        return form;
+    };
+    modScreenshots::Register(QStringLiteral("frmReportsSQL"),
+                             [customReports]() -> QWidget* { return customReports(0); });
+    modScreenshots::Register(QStringLiteral("frmReportsSQL_SQL"),
+                             [customReports]() -> QWidget* { return customReports(1); });
 }
