@@ -398,6 +398,11 @@ PY
 }
 labels Vendors --sheet L7160 --start 22 >/dev/null 2>&1
 check "labels start on the label asked for" 0 '^empty rows: 7$' empty_rows "$(latest_sheet)"
+# On the demo wedding every report of the catalogue is there, and --all writes each in both dialects.
+check "no report of the catalogue is missing" 1 '' sh -c "VOWREN_HOME=\"$labels_home\" \"$cli\" report --list | grep -q 'not yet available'"
+check "report all on the demo wedding" 0 '99_Custom_.*\.csv$' env VOWREN_HOME="$labels_home" "$cli" report --all --format both
+check "as many RTF as CSV files, each report once" 0 '^same [0-9]{2,}$' sh -c \
+    "r=\$(ls \"$labels_home\"/Reports/[0-9]*.rtf | wc -l); c=\$(ls \"$labels_home\"/Reports/[0-9]*.csv | wc -l); [ \$r -eq \$c ] && echo same \$r"
 rm -rf "$labels_home"
 
 printf 'not a database at all' >"$home/Database/Vowren.quilldata"
