@@ -9,8 +9,8 @@
 #include <QRegularExpression>
 #include <QtTest>
 
-// A sheet of labels as a table: which label stands in which cell, how the page is set up, and which
-// address each section offers. Where the labels land on paper is tested with real PDF readers in
+// A sheet of labels as a table: which label stands in which cell, and which address each section
+// offers. Where the labels land on paper is tested with real PDF readers in
 // tst_LabelSheetGeometry.
 namespace {
 
@@ -95,44 +95,6 @@ private slots:
         const QString rtf = Written(sheet, labels);
         QVERIFY(!rtf.isEmpty());
         QCOMPARE(LabelRows(rtf), rows);
-    }
-
-    // The page and every row as the sheet needs them: its margins, exact heights, no cell margins, no
-    // borders, no header or footer, the edges of labels and gaps.
-    void theSheetsSetUp_data() {
-        QTest::addColumn<int>("sheet");
-        QTest::addColumn<QString>("section");
-        QTest::addColumn<QString>("row");
-        QTest::addColumn<QString>("edges");
-        QTest::newRow("8160")
-            << int(clsLabelSheet::Avery8160)
-            << "\\pghsxn15840\\pgwsxn12240\\margtsxn720\\margbsxn0\\marglsxn274\\margrsxn274"
-               "\\headery720\\footery720"
-            << "\\trowd\\trkeep\\trrh-1440\\trgaph90"
-            << "3787 3974 7761 7948 11693";
-        QTest::newRow("L7160")
-            << int(clsLabelSheet::AveryL7160)
-            << "\\pghsxn16834\\pgwsxn11909\\margtsxn907\\margbsxn0\\marglsxn403\\margrsxn403"
-               "\\headery720\\footery720"
-            << "\\trowd\\trkeep\\trrh-2160\\trgaph90"
-            << "3585 3729 7329 7473 11102";
-    }
-    void theSheetsSetUp() {
-        QFETCH(int, sheet);
-        QFETCH(QString, section);
-        QFETCH(QString, row);
-        QFETCH(QString, edges);
-        const QString rtf = Written(sheet, Labels({{1, "A"}, {2, "B"}, {3, "C"}}));
-        QVERIFY2(rtf.contains(section + "\r\n"), qPrintable(rtf.left(600)));
-        QVERIFY(rtf.contains(row));
-        QStringList found;
-        for (auto it = QRegularExpression(QStringLiteral(R"(\\cellx(\d+))")).globalMatch(rtf); it.hasNext();)
-            found << it.next().captured(1);
-        QCOMPARE(found.join(' '), edges);
-        QCOMPARE(rtf.count("\\clpadl0\\clpadt0\\clpadb0\\clpadr0"), 5);
-        QCOMPARE(rtf.count("\\clbrdr"), 0);
-        for (const char* furniture : {"{\\header", "{\\footer", "\\lndscpsxn", "\\qc\\fs24"})
-            QVERIFY2(!rtf.contains(furniture), furniture);
     }
 
     // Each section's addresses carry the name above the address, in the source's order.
