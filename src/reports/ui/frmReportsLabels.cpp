@@ -13,6 +13,7 @@
 #include "shell/controls/usrHyperlink.h"
 #include "shell/modFormPlace.h"
 
+#include <QCheckBox>
 #include <QDragEnterEvent>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -268,10 +269,13 @@ QWidget* frmReportsLabels::MakeCommands() {
     cmdRun->setDefault(true);
     auto* cancel = new QPushButton(QStringLiteral("Cancel"), bar);
     cancel->setObjectName(QStringLiteral("cmdCancel"));
+    chkPdf = new QCheckBox(QStringLiteral("Save as P&DF (no word processor needed)"), bar);
+    chkPdf->setObjectName(QStringLiteral("chkPdf"));
     connect(cmdRun, &QPushButton::clicked, this, &frmReportsLabels::cmdRun_Click);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     auto* layout = new QHBoxLayout(bar);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(chkPdf);
     layout->addStretch(1);
     layout->addWidget(cmdRun);
     layout->addWidget(cancel);
@@ -416,6 +420,7 @@ void frmReportsLabels::cmdRun_Click() {
     gRTFMasterTemp().A4 = Sheet() == clsLabelSheet::AveryL7160;
     clsRTFLabel labels;
     labels.Sheet = Sheet();
+    labels.Pdf = chkPdf->isChecked();
     labels.Labels = PlacedLabels();
     labels.FONT_NAME = mFontName;
     labels.FONT_SIZE = mFontSize;
@@ -443,6 +448,7 @@ void frmReportsLabels::LoadSettings() {
     const bool letter = Setting("opt0", "True").compare(QLatin1String("False"), Qt::CaseInsensitive) != 0;
     opt[letter ? clsLabelSheet::Avery8160 : clsLabelSheet::AveryL7160]->setChecked(true);
     SetSheet(Sheet());
+    chkPdf->setChecked(Setting("Pdf", "0") == QLatin1String("1"));
 }
 
 void frmReportsLabels::SaveSettings() const {
@@ -450,6 +456,7 @@ void frmReportsLabels::SaveSettings() const {
     SaveSetting("FontSize", mFontSize);
     SaveSetting("opt0",
                 Sheet() == clsLabelSheet::Avery8160 ? QStringLiteral("True") : QStringLiteral("False"));
+    SaveSetting("Pdf", chkPdf->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
 void frmReportsLabels::done(int result) {

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QList>
 
+class QCheckBox;
 class QGridLayout;
 class QLabel;
 class QPushButton;
@@ -85,6 +86,7 @@ private:
     usrHyperlink* linkFontSize = nullptr;
     QSpinBox* spnStart = nullptr;
     QPushButton* cmdRun = nullptr;
+    QCheckBox* chkPdf = nullptr; // the sheet as PDF instead of RTF
     QGridLayout* mSheetGrid = nullptr;
     QString mFontName;
     QString mFontSize;

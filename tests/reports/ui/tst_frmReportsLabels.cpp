@@ -1,5 +1,6 @@
 #include "TestDatabase.h"
 #include "UiTestTools.h"
+#include "pdf/clsPdfDialect.h"
 #include "core/modGeneral.h"
 #include "guests/GuestTestData.h"
 #include "platform/clsRegistry.h"
@@ -12,6 +13,7 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QPushButton>
+#include <QCheckBox>
 #include <QRadioButton>
 #include <QTreeWidget>
 #include <QtTest>
@@ -215,6 +217,15 @@ private slots:
         QVERIFY(rtf.contains(paper));
         QVERIFY(rtf.contains("Guest Ames \\par 3 Oak St \\par Salem, OR 97301"));
         QVERIFY(rtf.contains("{\\f0\\ Verdana;}"));
+
+        // The same sheet as PDF, and the choice is kept for the next time.
+        clsPdfDialect::Register(); // as the program does at start
+        Child<QCheckBox>(form, "chkPdf")->setChecked(true);
+        QTest::mouseClick(Child<QPushButton>(form, "cmdRun"), Qt::LeftButton);
+        QVERIFY(form.LastFile().endsWith(".pdf"));
+        QVERIFY(RtfTestTools::FileBytes(form.LastFile()).startsWith("%PDF-"));
+        form.reject();
+        QVERIFY(Child<QCheckBox>(frmReportsLabels(ContactsRoute()), "chkPdf")->isChecked());
     }
 };
 
