@@ -25,13 +25,13 @@ QString Lines(const QStringList& lines) {
     return kept.join(kCrLf);
 }
 
-// A name of several lines as the list shows it: on one line.
 // An address of the list; the label's text is the name lines, then the address lines.
 Address Entry(const QString& key, const QString& name, const QStringList& nameLines, const QString& address) {
     const bool hasAddress = !TrimCrLf(address).trimmed().isEmpty();
     return {key, name, Lines(nameLines + QStringList{address}), hasAddress};
 }
 
+// A name of several lines as the list shows it: on one line.
 QString OneLine(const QString& text) {
     return QString(TrimCrLf(text)).replace(kCrLf, QStringLiteral(" ")).simplified();
 }

@@ -4,11 +4,11 @@
 #include "core/ShowMessage.h"
 #include "core/modGeneral.h"
 #include "platform/clsRegistry.h"
-#include "platform/clsShell.h"
 #include "reports/clsLabelSheet.h"
 #include "reports/clsRTFLabel.h"
 #include "reports/clsRTFMasterTemp.h"
 #include "reports/ui/frmReportsFont.h"
+#include "reports/ui/modReportDialogs.h"
 #include "reports/ui/usrLabel.h"
 #include "shell/controls/usrHyperlink.h"
 #include "shell/modFormPlace.h"
@@ -425,8 +425,7 @@ void frmReportsLabels::cmdRun_Click() {
     labels.FONT_NAME = mFontName;
     labels.FONT_SIZE = mFontSize;
     mLastFile = labels.Build();
-    if (!mLastFile.isEmpty() && !gShell().OpenDocument(mLastFile))
-        ShowMessage(gShell().Message(), Msg::Exclamation, ProgramTitle());
+    ReportDialogs::ShowWritten(mLastFile);
 }
 
 // ---- Font and settings ----

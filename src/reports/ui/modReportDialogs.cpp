@@ -139,9 +139,13 @@ QString BuildAndShow(const clsReportRoute& route) {
         WaitCursor wait;
         file = RecordIO::Read([&route] { return clsReportClasses::Build(route); });
     }
+    ShowWritten(file);
+    return file;
+}
+
+void ShowWritten(const QString& file) {
     if (!file.isEmpty() && !gShell().OpenDocument(file))
         ShowMessage(gShell().Message(), Msg::Exclamation, ProgramTitle());
-    return file;
 }
 
 QString WrittenStatus(const QString& file) {

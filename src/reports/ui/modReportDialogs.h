@@ -47,6 +47,8 @@ bool RouteAvailable(const clsReportRoute& route);
 // Builds the route's report under a wait cursor and opens the file with the desktop. Gives back the
 // file written, or empty when nothing was written.
 QString BuildAndShow(const clsReportRoute& route);
+// Hands a written file to the desktop, or says why it could not be opened; nothing for an empty name.
+void ShowWritten(const QString& file);
 // What a screen's status line says after BuildAndShow: the file opened, or that none was written.
 QString WrittenStatus(const QString& file);
 // The route's report laid out in pages (in the paper and font the settings hold now) with no file
